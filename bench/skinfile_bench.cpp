@@ -1,0 +1,137 @@
+// Reading and generating skins, against pugixml's bare parse and a bare loop of appends.
+#include "bench_support.h"
+#include "skinfile/number_format.h"
+#include "skinfile/skin_reader.h"
+#include "skins.h"
+
+#include <pugixml.hpp>
+
+namespace tarvel::bench {
+
+namespace {
+
+void readSkinAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    const auto file = saveInto(folder.path(), skin);
+    comparePairs(
+        state,
+        [&] {
+            SkinDocument document;
+            readSkin(document, folder.path());
+            benchmark::DoNotOptimize(document);
+        },
+        [&] {
+            pugi::xml_document document;
+            document.load_file(file.c_str());
+            benchmark::DoNotOptimize(document);
+        });
+    state.SetComplexityN(state.range(0));
+}
+
+// A piece of the output: text, or a number that still has to become text.
+struct Piece {
+    std::string_view text;
+    float number = 0;
+    bool isNumber = false;
+};
+
+// Cuts a generated text into its numbers (positions) and what lies between them.
+std::vector<Piece> piecesOf(std::string_view text) {
+    std::vector<Piece> pieces;
+    const auto isDigit = [](char c) { return (c >= '0' && c <= '9') || c == '.' || c == '-'; };
+    std::size_t start = 0;
+    for (auto at = text.find("<Pos "); at != std::string_view::npos; at = text.find("<Pos ", at)) {
+        const auto end = text.find("/>", at);
+        while ((at = text.find("=\"", at)) < end) {
+            at += 2;
+            pieces.push_back({.text = text.substr(start, at - start)});
+            const auto from = at;
+            while (isDigit(text[at])) {
+                ++at;
+            }
+            pieces.push_back({.text = {},
+                              .number = toSingle(val(text.substr(from, at - from))),
+                              .isNumber = true});
+            start = at;
+        }
+        at = end;
+    }
+    pieces.push_back({.text = text.substr(start)});
+    return pieces;
+}
+
+// Between its numbers the bare loop appends a line's literal pieces one by one, as the writer must.
+std::vector<Piece> splitAtValues(const std::vector<Piece>& pieces) {
+    std::vector<Piece> result;
+    for (const Piece& piece : pieces) {
+        if (piece.isNumber) {
+            result.push_back(piece);
+            continue;
+        }
+        auto text = piece.text;
+        while (!text.empty()) {
+            const auto cut = std::min(text.find_first_of("\"\n>", 1), text.size() - 1) + 1;
+            result.push_back({.text = text.substr(0, cut)});
+            text.remove_prefix(cut);
+        }
+    }
+    return result;
+}
+
+void generateTextAgainstBareLoop(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    SkinWriter writer(folder.path());
+    writer.generateXML(skin);
+    const std::string text = writer.xmlText();
+    const std::vector<Piece> pieces = splitAtValues(piecesOf(text));
+    comparePairs(
+        state,
+        [&] {
+            SkinWriter fresh(folder.path());
+            fresh.generateXML(skin);
+            benchmark::DoNotOptimize(fresh.xmlText().data());
+        },
+        [&] {
+            std::string output;
+            std::array<char, 64> digits{};
+            for (const Piece& piece : pieces) {
+                if (piece.isNumber) {
+                    const auto end =
+                        std::to_chars(digits.data(), digits.data() + digits.size(), piece.number);
+                    output.append(digits.data(), end.ptr);
+                } else {
+                    output.append(piece.text);
+                }
+            }
+            benchmark::DoNotOptimize(output.data());
+        });
+    state.SetComplexityN(state.range(0));
+}
+
+void copyDocument(benchmark::State& state) {
+    const SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        SkinDocument copy = skin;
+        benchmark::DoNotOptimize(copy);
+    }
+}
+
+} // namespace
+
+BENCHMARK(readSkinAgainstBareParse)
+    ->RangeMultiplier(10)
+    ->Range(100, 100'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(generateTextAgainstBareLoop)
+    ->RangeMultiplier(10)
+    ->Range(100, 100'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(copyDocument)->Arg(10'000)->Unit(benchmark::kMicrosecond);
+
+} // namespace tarvel::bench

@@ -1,0 +1,87 @@
+// Skins of any size for the benchmarks.
+#include "skins.h"
+
+#include "behaviour/layout_screens.h"
+#include "document/element_factory.h"
+#include "skinfile/skin_folder.h"
+#include "skinfile/skin_reader.h"
+
+#include <cstdlib>
+#include <stdexcept>
+
+namespace tarvel::bench {
+
+namespace {
+
+Element elementOf(int number) {
+    static constexpr std::array<ElementKind, 5> kinds = {ElementKind::Box, ElementKind::Text,
+                                                         ElementKind::Image, ElementKind::Line,
+                                                         ElementKind::Text};
+    Element element;
+    element.elementKind =
+        number % 500 == 499 ? ElementKind::Menu : kinds[static_cast<std::size_t>(number) % 5];
+    ElementControl& control = element.elementControl;
+    control.left = static_cast<float>(number * 7 % 600);
+    control.top = static_cast<float>(number * 13 % 440) + 0.5F;
+    control.width = static_cast<float>(10 + number % 90);
+    control.height = static_cast<float>(5 + number % 60);
+    control.X1 = control.left;
+    control.Y1 = control.top;
+    control.X2 = 640 - control.left;
+    control.Y2 = control.top;
+    control.fillStyle = FillStyle::solid;
+    control.fillColor = static_cast<ColorNumber>(number * 2654435 & 0xFFFFFF);
+    control.borderStyle = number % 2 == 0 ? BorderStyle::solid : BorderStyle::none;
+    control.textColor = white;
+    control.caption = "Caption number " + std::to_string(number);
+    element.textIsConstant = number % 5 == 1;
+    element.imageSource = "picture" + std::to_string(number % 8);
+    element.elementAlpha = static_cast<std::int16_t>(1 + number % 100);
+    if (number % 4 == 0) {
+        element.elementCondition = "ItemEntry";
+        element.elementTimers = {500, 0, 0, 9000};
+    }
+    return element;
+}
+
+} // namespace
+
+SkinDocument mixedSkin(int count) {
+    SkinDocument document;
+    document.editSettings([](SkinSettings& settings) {
+        settings.skinName = "Benchmark";
+        for (int i = 0; i < 8; ++i) {
+            settings.resources.push_back(
+                {"picture" + std::to_string(i), "<File>::SkyTile</File>", false, false});
+        }
+    });
+    for (int number = 0; number < count; ++number) {
+        document.setCurrentLayout(number * screenCount / count);
+        document.addElement(elementOf(number));
+    }
+    document.setCurrentLayout(menuScreen);
+    return document;
+}
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "tarvel-bench-XXXXXX").string();
+    if (::mkdtemp(name.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder");
+    }
+    path_ = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+std::filesystem::path saveInto(const std::filesystem::path& folder, SkinDocument& document) {
+    SkinWriter writer(folder);
+    if (!saveSkin(document, writer, folder, {}).succeeded()) {
+        throw std::runtime_error("the benchmark's skin cannot be saved");
+    }
+    return skinFilePath(folder);
+}
+
+} // namespace tarvel::bench

@@ -1,0 +1,253 @@
+// makeElement and what it reads of a description, kind by kind.
+#include "document/element_factory.h"
+
+#include "skinfile/number_format.h"
+#include "skinfile/tag_scanner.h"
+#include "skinfile/text_case.h"
+
+namespace tarvel {
+
+namespace {
+
+constexpr std::string_view referenceMark = "::";
+
+void makeBox(Element& element, XmlNode description) {
+    const auto color = getContent(description, "Color");
+    const auto border = getContent(description, "BorderColor");
+    ElementControl& control = element.elementControl;
+    control.kind = ControlKind::box;
+    if (!color.empty()) {
+        control.fillStyle = FillStyle::solid;
+        control.fillColor = getColor(color);
+    }
+    if (!border.empty()) {
+        control.borderStyle = BorderStyle::solid;
+        control.borderColor = getColor(border);
+    }
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(color));
+    element.label = boxLabel(element.elementAlpha);
+}
+
+void makeLine(Element& element, XmlNode description) {
+    const auto color = getContent(description, "Color");
+    element.elementControl.kind = ControlKind::lin;
+    element.elementControl.borderColor = color.empty() ? white : getColor(color);
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(color));
+    element.label = "Line";
+}
+
+void makeImage(Element& element, const SkinDocument& document, std::string_view source,
+               XmlNode description) {
+    element.imageSource = source;
+    element.label = imageLabel(source);
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(getContent(description, "Color")));
+    attachSource(document, source, element.elementControl);
+}
+
+// The colour text of a Text element: in a Color child of TextColor, or in TextColor itself.
+std::string_view textColorText(XmlNode description) {
+    const XmlNode textColor = childTagged(description, "TextColor");
+    if (!textColor) {
+        return {};
+    }
+    return childTagged(textColor, "Color") ? getContent(textColor, "Color")
+                                           : getContent(description, "TextColor");
+}
+
+void makeText(Element& element, std::string_view source, XmlNode description) {
+    ElementControl& control = element.elementControl;
+    control.kind = ControlKind::txt;
+    if (!source.empty()) {
+        control.caption = source;
+        element.label = textLabel(source);
+    } else {
+        const auto constant = getContent(description, "Constant");
+        element.textIsConstant = true;
+        control.caption = childTagged(description, "Constant") ? constant : defaultCaption;
+        element.label = textLabel(constant);
+    }
+    const auto color = textColorText(description);
+    control.textColor = color.empty() ? white : getColor(color);
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(color));
+}
+
+void takeText(std::string& target, std::string_view text) {
+    if (!text.empty()) {
+        target = text;
+    }
+}
+
+void takeNumber(std::int16_t& target, std::string_view text) {
+    if (!text.empty()) {
+        target = toInt16(val(text));
+    }
+}
+
+// Menu colours are kept as the decimal text of their number.
+void takeColor(std::string& target, std::string_view text) {
+    if (!text.empty()) {
+        target.clear();
+        appendNumber(target, getColor(text));
+    }
+}
+
+// The colours of a menu's selected or unselected items.
+void takeItemColors(XmlNode items, std::string& title, std::string& description) {
+    if (!items) {
+        return;
+    }
+    takeColor(title, getContent(items, "TextColor"));
+    if (const XmlNode secondary = childTagged(items, "Secondary")) {
+        takeColor(description, getContent(secondary, "TextColor"));
+    }
+}
+
+void makeMenu(Element& element, XmlNode description) {
+    element.elementControl.kind = ControlKind::qor;
+    element.label = "Menu";
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(getContent(description, "Color")));
+    MenuSettings& settings = element.menuSettings.edit();
+    takeNumber(settings.itemsShown, getContent(description, "NumItems"));
+    takeNumber(settings.scrollFactor, getContent(description, "ScrollFactor"));
+    settings.smoothScroll = reverseBool(getContent(description, "SmoothScroll"));
+    settings.showDescription = reverseBool(getContent(description, "DrawSecondary"));
+    settings.thumbnailsVisible = reverseBool(getContent(description, "Thumbnails"));
+    if (const XmlNode primary = childTagged(description, "Primary")) {
+        takeText(settings.titleAlignment, getContent(primary, "JustifyX"));
+    }
+    if (const XmlNode secondary = childTagged(description, "Secondary")) {
+        takeText(settings.descriptionAlignment, getContent(secondary, "JustifyX"));
+    }
+    const XmlNode selection = childTagged(description, "Selection");
+    settings.glowSelected = selection && reverseBool(getContent(selection, "DoGlow"));
+    takeItemColors(selection, settings.selectedTitleColor, settings.selectedDescriptionColor);
+    takeItemColors(childTagged(description, "UnSelItem"), settings.unselectedTitleColor,
+                   settings.unselectedDescriptionColor);
+}
+
+void takeTimers(Element& element, XmlNode description) {
+    constexpr std::array<std::string_view, timerSlots> names = {"Delay", "CycleOn", "CycleOff",
+                                                                "Lifetime"};
+    if (!childTagged(description, "Timer")) {
+        return;
+    }
+    for (std::size_t slot = 0; slot < timerSlots; ++slot) {
+        element.elementTimers[slot] =
+            toInt32(val(getContentInTag(description, names[slot], "timer")));
+    }
+}
+
+// All Modifier children, in file order, under the one spelling of the tag that is written.
+void takeModifiers(Element& element, XmlNode description) {
+    constexpr std::string_view tag = "Modifier";
+    if (!childTagged(description, tag)) {
+        return;
+    }
+    XmlTree& tree = element.elementModifiers.edit();
+    for (const XmlNode child : description.children()) {
+        if (equalsIgnoringCase(child.tag(), tag)) {
+            const auto copy = tree.addCopy(XmlTree::top, child);
+            if (child.tag() != tag) {
+                tree.setTag(copy, tag);
+            }
+        }
+    }
+    tree.shrinkToFit();
+}
+
+void takeGeometry(ElementControl& control, double a, double b, double c, double d) {
+    if (control.kind == ControlKind::lin) {
+        control.X1 = toSingle(a);
+        control.Y1 = toSingle(b);
+        control.X2 = toSingle(c);
+        control.Y2 = toSingle(d);
+    } else {
+        control.left = toSingle(a);
+        control.top = toSingle(b);
+        control.width = toSingle(c);
+        control.height = toSingle(d);
+    }
+}
+
+} // namespace
+
+ControlKind imageControl(std::string_view file) {
+    if (isVideoFile(file)) {
+        return ControlKind::vid;
+    }
+    return isPngFile(file) ? ControlKind::png : ControlKind::img;
+}
+
+void attachSource(const SkinDocument& document, std::string_view source, ElementControl& control) {
+    if (source.starts_with(referenceMark)) {
+        source.remove_prefix(referenceMark.size());
+    }
+    const Resource* resource = findResource(document, source);
+    if (resource == nullptr) {
+        control.kind = ControlKind::img;
+        return;
+    }
+    control.kind = imageControl(resource->content);
+    if (!resource->isFile) {
+        control.picture = PictureContent::programIcon;
+        return;
+    }
+    control.file = resource->content;
+    const bool isProgram = control.file.size() >= 3 &&
+                           equalsIgnoringCase(control.file.substr(control.file.size() - 3), "xbe");
+    if (resource->outside) {
+        control.picture = PictureContent::barred;
+    } else if (isProgram) {
+        control.picture = PictureContent::programIcon;
+    }
+}
+
+std::string boxLabel(int opacity) {
+    std::string label = "Box: Alpha ";
+    appendNumber(label, opacity);
+    return label;
+}
+
+std::string imageLabel(std::string_view source) {
+    return std::string("Image: ").append(source);
+}
+
+std::string textLabel(std::string_view text) {
+    return std::string("Text: ").append(text);
+}
+
+int makeElement(SkinDocument& document, double a, double b, double c, double d, ElementKind kind,
+                std::string_view source, XmlNode description) {
+    Element element;
+    element.elementKind = kind;
+    switch (kind) {
+    case ElementKind::Box:
+        makeBox(element, description);
+        break;
+    case ElementKind::Line:
+        makeLine(element, description);
+        break;
+    case ElementKind::Image:
+        makeImage(element, document, source, description);
+        break;
+    case ElementKind::Text:
+        makeText(element, source, description);
+        break;
+    case ElementKind::Menu:
+        makeMenu(element, description);
+        break;
+    }
+    element.elementCondition = getContent(description, "Condition");
+    takeTimers(element, description);
+    takeModifiers(element, description);
+    takeGeometry(element.elementControl, a, b, c, d);
+    return document.addElement(std::move(element));
+}
+
+int makeElement(SkinDocument& document, std::string_view a, std::string_view b, std::string_view c,
+                std::string_view d, ElementKind kind, std::string_view source,
+                XmlNode description) {
+    return makeElement(document, val(a), val(b), val(c), val(d), kind, source, description);
+}
+
+} // namespace tarvel

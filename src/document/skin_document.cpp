@@ -1,0 +1,165 @@
+// The document's tables and lists.
+#include "document/skin_document.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvel {
+
+namespace {
+
+std::size_t at(int index) {
+    return static_cast<std::size_t>(index);
+}
+
+} // namespace
+
+std::string_view controlName(ControlKind kind) {
+    static constexpr std::array<std::string_view, 7> names = {"box", "lin", "img", "png",
+                                                              "vid", "txt", "qor"};
+    return names[static_cast<std::size_t>(kind)];
+}
+
+void SystemColors::setBoxColor(std::string_view text, std::size_t index) {
+    if (!text.empty()) {
+        boxes.at(index).fillColor = getColor(text);
+    }
+}
+
+void SystemColors::setBorderColor(std::string_view text, std::size_t index) {
+    if (!text.empty()) {
+        boxes.at(index).borderColor = getColor(text);
+    }
+}
+
+void SystemColors::setTextColor(std::string_view text, std::size_t index) {
+    if (!text.empty()) {
+        texts.at(index) = getColor(text);
+    }
+}
+
+SkinDocument::SkinDocument(SkinDocument&& other) noexcept
+    : state_(std::exchange(other.state_, {})) {}
+
+SkinDocument& SkinDocument::operator=(const SkinDocument& other) {
+    if (this != &other) {
+        state_ = other.state_;
+        tell({DocumentChange::What::everything});
+    }
+    return *this;
+}
+
+SkinDocument& SkinDocument::operator=(SkinDocument&& other) { // NOLINT
+    if (this != &other) {
+        state_ = std::exchange(other.state_, {});
+        tell({DocumentChange::What::everything});
+    }
+    return *this;
+}
+
+void SkinDocument::setCurrentLayout(int screen) {
+    state_.currentLayout = screen;
+    tell({DocumentChange::What::currentLayout, screen});
+}
+
+int SkinDocument::screenElementCount(int screen) const {
+    return state_.screenElementCount.at(at(screen));
+}
+
+void SkinDocument::setScreenElementCount(int screen, int count) {
+    state_.screenElementCount.at(at(screen)) = count;
+    tell({DocumentChange::What::counts, screen});
+}
+
+int SkinDocument::lockCount(int screen) const {
+    return state_.lockCount.at(at(screen));
+}
+
+void SkinDocument::setLockCount(int screen, int count) {
+    state_.lockCount.at(at(screen)) = count;
+    tell({DocumentChange::What::counts, screen});
+}
+
+const Element& SkinDocument::element(int id) const {
+    static const Element slotZero{};
+    return id == 0 ? slotZero : state_.elements[at(id) - 1];
+}
+
+int SkinDocument::addElement(Element element) {
+    const int screen = state_.currentLayout;
+    const int id = ++state_.lastElementId;
+    element.elementLayout = static_cast<std::int16_t>(screen);
+    element.elementLocked = false;
+    state_.elements.push_back(std::move(element));
+    state_.lst.at(at(screen)).edit().push_back(id);
+    ++state_.screenElementCount.at(at(screen));
+    tell({DocumentChange::What::rows, screen, id});
+    tell({DocumentChange::What::counts, screen});
+    return id;
+}
+
+const SkinDocument::Rows& SkinDocument::rows(int screen) const {
+    return state_.lst.at(at(screen)).get();
+}
+
+int SkinDocument::rowCount(int screen) const {
+    return static_cast<int>(rows(screen).size());
+}
+
+int SkinDocument::itemData(int screen, int row) const {
+    return rows(screen)[at(row)];
+}
+
+const std::string& SkinDocument::rowText(int screen, int row) const {
+    return element(itemData(screen, row)).label;
+}
+
+int SkinDocument::rowOf(int screen, int elementId) const {
+    const auto& list = rows(screen);
+    const auto found = std::find(list.begin(), list.end(), elementId);
+    return found == list.end() ? -1 : static_cast<int>(found - list.begin());
+}
+
+void SkinDocument::setRowText(int screen, int row, std::string text) {
+    const int id = itemData(screen, row);
+    state_.elements.edit(at(id) - 1).label = std::move(text);
+    tell({DocumentChange::What::rowText, screen, id});
+}
+
+void SkinDocument::moveRow(int screen, int from, int to) {
+    auto& list = state_.lst.at(at(screen)).edit();
+    const auto begin = list.begin();
+    if (from < to) {
+        std::rotate(begin + from, begin + from + 1, begin + to + 1);
+    } else {
+        std::rotate(begin + to, begin + from, begin + from + 1);
+    }
+    tell({DocumentChange::What::rows, screen});
+}
+
+void SkinDocument::delItem(int row) {
+    const int screen = state_.currentLayout;
+    auto& list = state_.lst.at(at(screen)).edit();
+    list.erase(list.begin() + row);
+    tell({DocumentChange::What::rows, screen});
+}
+
+void SkinDocument::addRes(std::string name, std::string path, bool outside) {
+    editSettings([&](SkinSettings& settings) {
+        settings.resources.push_back({std::move(name), std::move(path), true, outside});
+    });
+}
+
+void SkinDocument::addcRes(std::string content, std::string name) {
+    editSettings([&](SkinSettings& settings) {
+        settings.resources.push_back({std::move(name), std::move(content), false, false});
+    });
+}
+
+bool SkinDocument::holdsAnything() const {
+    const bool anyRow = std::any_of(state_.lst.begin(), state_.lst.end(),
+                                    [](const auto& list) { return !list->empty(); });
+    return anyRow || !settings().resources.empty() || settings().background.loaded;
+}
+
+} // namespace tarvel

@@ -1,0 +1,150 @@
+// The one skin that is being edited: six screens of elements, and the skin-wide settings.
+#pragma once
+
+#include "document/element.h"
+#include "document/shared_table.h"
+#include "document/skin_settings.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarvel {
+
+inline constexpr int screenCount = 6;
+inline constexpr int skinWidth = 640;  // skin pixels
+inline constexpr int skinHeight = 480; // skin pixels
+
+/// What an observer is told. `screen` and `elementId` are -1 where they do not matter.
+struct DocumentChange {
+    enum class What {
+        everything,    ///< another document took the place of this one
+        settings,      ///< skin-wide settings
+        currentLayout, ///< another screen is shown
+        rows,          ///< rows of `screen` came, went or changed places
+        rowText,       ///< the text of the row of `elementId` on `screen`
+        element,       ///< the record of `elementId`
+        counts         ///< screenElementCount or lockCount of `screen`
+    };
+    What what = What::everything;
+    int screen = -1;
+    int elementId = -1;
+};
+
+class DocumentObserver {
+  public:
+    virtual ~DocumentObserver() = default;
+    virtual void documentChanged(const DocumentChange& change) = 0;
+};
+
+/// A regular value: copies are independent and cheap, because they share what neither changes.
+///
+/// Every element has an id from 1 upward that is never used again; id 0 is a slot without an element.
+/// A screen's list fixes which elements it holds and their stacking order, row 0 at the back. Deleting
+/// an element takes away its row only; its record keeps its last values.
+///
+/// The observer, if any, belongs to the object and not to the value: it is neither copied nor compared.
+class SkinDocument {
+  public:
+    SkinDocument() = default;
+    SkinDocument(const SkinDocument& other) = default;
+    /// Leaves `other` as a new document.
+    SkinDocument(SkinDocument&& other) noexcept;
+    SkinDocument& operator=(const SkinDocument& other);
+    SkinDocument& operator=(SkinDocument&& other); // NOLINT: tells the observer, which may throw
+    ~SkinDocument() = default;
+
+    /// Not owned; nullptr ends the notices.
+    void setObserver(DocumentObserver* observer) { observer_.target = observer; }
+
+    // Screens, by index 0 to 5.
+    [[nodiscard]] int currentLayout() const { return state_.currentLayout; }
+    void setCurrentLayout(int screen);
+    [[nodiscard]] int screenElementCount(int screen) const;
+    void setScreenElementCount(int screen, int count);
+    /// How many rows from row 0 on are locked.
+    [[nodiscard]] int lockCount(int screen) const;
+    void setLockCount(int screen, int count);
+
+    // Elements, by id.
+    [[nodiscard]] int lastElementId() const { return state_.lastElementId; }
+    /// id 0 to lastElementId(); id 0 is a slot that no element ever has.
+    [[nodiscard]] const Element& element(int id) const;
+    /// Calls edit(Element&) and tells the observer; id 1 to lastElementId().
+    template <class Edit> void editElement(int id, Edit&& edit) {
+        edit(state_.elements.edit(static_cast<std::size_t>(id) - 1));
+        tell({DocumentChange::What::element, element(id).elementLayout, id});
+    }
+    /// Gives the element the next id and the last row of the current screen, and counts it there.
+    int addElement(Element element);
+
+    // Rows of a screen's list.
+    [[nodiscard]] int rowCount(int screen) const;
+    [[nodiscard]] int itemData(int screen, int row) const;
+    [[nodiscard]] const std::string& rowText(int screen, int row) const;
+    /// The row that holds the element; -1 when none does.
+    [[nodiscard]] int rowOf(int screen, int elementId) const;
+    void setRowText(int screen, int row, std::string text);
+    void moveRow(int screen, int from, int to);
+    /// Takes the row out of the current screen's list, and with it the element off the screen. Leaves
+    /// its record and the screen's count as they are.
+    void delItem(int row);
+
+    [[nodiscard]] const SkinSettings& settings() const { return state_.settings.get(); }
+    /// Calls edit(SkinSettings&) and tells the observer.
+    template <class Edit> void editSettings(Edit&& edit) {
+        edit(state_.settings.edit());
+        tell({DocumentChange::What::settings});
+    }
+
+    /// Appends a file resource.
+    void addRes(std::string name, std::string path, bool outside = false);
+    /// Appends a resource that is an XML fragment.
+    void addcRes(std::string content, std::string name);
+
+    /// True when anything was made or loaded: a resource, a row on any screen, a background.
+    [[nodiscard]] bool holdsAnything() const;
+
+    friend bool operator==(const SkinDocument& a, const SkinDocument& b) {
+        return a.state_ == b.state_;
+    }
+
+  private:
+    using Rows = std::vector<int>;
+
+    struct State {
+        int currentLayout = 1;
+        int lastElementId = 0;
+        std::array<int, screenCount> screenElementCount{};
+        std::array<int, screenCount> lockCount{};
+        std::array<SharedValue<Rows>, screenCount> lst;
+        SharedTable<Element> elements; // of id 1 onward
+        SharedValue<SkinSettings> settings;
+
+        bool operator==(const State&) const = default;
+    };
+
+    struct ObserverLink {
+        DocumentObserver* target = nullptr;
+
+        ObserverLink() = default;
+        ObserverLink(const ObserverLink& /*other*/) {}
+        ObserverLink(ObserverLink&& /*other*/) noexcept {}
+        ObserverLink& operator=(const ObserverLink& /*other*/) { return *this; }
+        ObserverLink& operator=(ObserverLink&& /*other*/) noexcept { return *this; }
+        ~ObserverLink() = default;
+    };
+
+    void tell(const DocumentChange& change) const {
+        if (observer_.target != nullptr) {
+            observer_.target->documentChanged(change);
+        }
+    }
+    [[nodiscard]] const Rows& rows(int screen) const;
+
+    State state_;
+    ObserverLink observer_;
+};
+
+} // namespace tarvel

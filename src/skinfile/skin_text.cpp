@@ -1,0 +1,298 @@
+// Three ways to read a skin's text.
+#include "skinfile/skin_text.h"
+
+#include "skinfile/text_case.h"
+#include "skinfile/writer_lines.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace tarvel {
+
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::string_view modifierStart = "<Modifier";
+constexpr std::string_view modifierEnd = "</Modifier>";
+
+bool startsModifier(std::string_view line) {
+    return line.starts_with(modifierStart) && line.size() > modifierStart.size() &&
+           (line[modifierStart.size()] == ' ' || line[modifierStart.size()] == '>');
+}
+
+// Reads a text of which every line has a writer's form. The tree names most values in place.
+class FormReader {
+  public:
+    explicit FormReader(XmlTree& tree)
+        : tree_(tree)
+        , size_(tree.text().size())
+        , hasReferences_(tree.text().find("&#") != std::string_view::npos) {}
+
+    // False at the first line that has no form; the tree is of no use then.
+    bool read() {
+        while (at_ < size_) {
+            const auto line = nextLine();
+            if (!line || !take(*line)) {
+                return false;
+            }
+        }
+        return depth_ == 0 && tree_.root();
+    }
+
+  private:
+    static constexpr std::size_t deepest = 8;
+    struct Level {
+        Section section = Section::file;
+        XmlTree::Index node = XmlTree::top;
+    };
+
+    // The line at at_ without indentation; nothing when no CR LF ends it.
+    std::optional<std::string_view> nextLine() {
+        const auto text = tree_.text();
+        const auto end = text.substr(0, size_).find(lineEnd, at_);
+        if (end == std::string_view::npos) {
+            return std::nullopt;
+        }
+        auto line = text.substr(at_, end - at_);
+        at_ = end + lineEnd.size();
+        while (line.starts_with('\t')) {
+            line.remove_prefix(1);
+        }
+        return line;
+    }
+
+    bool take(std::string_view line) {
+        const Section section = levels_[depth_].section;
+        if (line.empty()) {
+            return section == Section::file || section == Section::resource ||
+                   section == Section::element;
+        }
+        if (section == Section::element && startsModifier(line)) {
+            return takeModifier(line);
+        }
+        if (line.size() < 3) {
+            return false;
+        }
+        const WriterLine match = matchLine(line, section);
+        if (!match) {
+            return false;
+        }
+        if (match.form->action == LineForm::Action::close) {
+            --depth_;
+            return true;
+        }
+        const auto node = addNode(line, match);
+        if (match.form->action == LineForm::Action::open) {
+            levels_[++depth_] = {match.form->enters, node};
+        }
+        return true;
+    }
+
+    XmlTree::Index addNode(std::string_view line, const WriterLine& match) {
+        const LineForm& form = *match.form;
+        const auto parent = levels_[depth_].node;
+        const auto start = static_cast<std::uint32_t>(line.data() - tree_.text().data());
+        if (form.values == LineForm::Values::tag) {
+            const auto name = valueSpan(match.name);
+            return tree_.addChild(parent, name, valueSpan(match.values[0]));
+        }
+        const LineLayout layout = layoutOf(match, line);
+        const auto spanOf = [&](const LineForm::Place& place) {
+            return XmlTree::Span{
+                start + static_cast<std::uint32_t>(layout.pieceStart[place.piece]) + place.offset,
+                place.length};
+        };
+        const auto content = form.hasContent ? valueSpan(match.values[0]) : XmlTree::Span{};
+        const auto node = tree_.addChild(parent, spanOf(form.tag), content);
+        for (std::size_t i = 0; i < form.attributeCount; ++i) {
+            const auto& attribute = form.attributes[i];
+            tree_.addAttribute(node, spanOf(attribute.name),
+                               attribute.isFixed ? spanOf(attribute.fixedValue)
+                                                 : valueSpan(match.values[attribute.name.piece]));
+        }
+        return node;
+    }
+
+    XmlTree::Span valueSpan(std::string_view value) {
+        if (hasReferences_ && value.find("&#") != std::string_view::npos) {
+            std::string decoded;
+            appendWithReferencesDecoded(decoded, value);
+            return tree_.addText(decoded);
+        }
+        return {static_cast<std::uint32_t>(value.data() - tree_.text().data()),
+                static_cast<std::uint32_t>(value.size())};
+    }
+
+    // A modifier is the XML that an XML writer made of it, over several lines.
+    bool takeModifier(std::string_view line) {
+        const auto start = static_cast<std::size_t>(line.data() - tree_.text().data());
+        int open = 0;
+        for (std::optional<std::string_view> next = line; next; next = nextLine()) {
+            open += startsModifier(*next) ? 1 : 0;
+            open -= next->ends_with(modifierEnd) ? 1 : 0;
+            if (open <= 0) {
+                break;
+            }
+        }
+        try {
+            const std::string block(tree_.text().substr(start, at_ - start));
+            parseFragmentInto(tree_, levels_[depth_].node, block);
+        } catch (const XmlError&) {
+            return false;
+        }
+        return open == 0;
+    }
+
+    XmlTree& tree_;
+    std::size_t size_;
+    bool hasReferences_;
+    std::size_t at_ = 0;
+    std::array<Level, deepest> levels_{};
+    std::size_t depth_ = 0;
+};
+
+void appendXmlEscaped(std::string& text, std::string_view raw) {
+    for (const char c : raw) {
+        switch (c) {
+        case '&':
+            text += "&amp;";
+            break;
+        case '<':
+            text += "&lt;";
+            break;
+        case '"':
+            text += "&quot;";
+            break;
+        default:
+            text += c;
+        }
+    }
+}
+
+bool isXmlName(std::string_view name) {
+    return name.find_first_of("&\"'/=!?;, \t") == std::string_view::npos;
+}
+
+// Turns the lines of a writer's form in a text that is no XML into XML, line by line.
+class Mender {
+  public:
+    Mender(std::string_view text, std::vector<int>& mendedLines)
+        : text_(text)
+        , mendedLines_(mendedLines) {}
+
+    std::string mend() {
+        const std::string_view end = text_.find(lineEnd) == std::string_view::npos ? "\n" : lineEnd;
+        int number = 1; // of the line in the file, where each line feed counts
+        while (!text_.empty()) {
+            const auto at = text_.find(end);
+            const auto length = at == std::string_view::npos ? text_.size() : at + end.size();
+            const auto line = text_.substr(0, length);
+            const auto bare = line.substr(0, std::min(at, line.size()));
+            take(bare, line.substr(bare.size()), number);
+            number += static_cast<int>(std::count(line.begin(), line.end(), '\n'));
+            text_.remove_prefix(length);
+        }
+        return std::move(result_);
+    }
+
+    // Gives the tags that could not stand in XML their names back.
+    void restoreNames(XmlTree& tree) const {
+        for (std::size_t i = 0; i < names_.size(); ++i) {
+            tree.renameTags(placeholder(i), names_[i]);
+        }
+    }
+
+  private:
+    // A private-use character makes a name that no skin has.
+    static std::string placeholder(std::size_t index) {
+        return "\xEE\x80\x80" + std::to_string(index);
+    }
+
+    void take(std::string_view bare, std::string_view ending, int number) {
+        const auto indent = std::min(bare.find_first_not_of(" \t"), bare.size());
+        const auto line = bare.substr(indent);
+        followLists(line);
+        const WriterLine match = line.size() < 3 ? WriterLine{} : matchTextLine(line, inTagLists_);
+        const std::string mended = match ? asXml(match) : std::string(line);
+        if (mended != line) {
+            mendedLines_.push_back(number);
+        }
+        result_.append(bare.substr(0, indent)).append(mended).append(ending);
+    }
+
+    void followLists(std::string_view line) {
+        const auto starts = [line](std::string_view tag) {
+            return equalsIgnoringCase(line.substr(0, tag.size()), tag);
+        };
+        if (starts("<information") || starts("<resource")) {
+            inTagLists_ = true;
+        } else if (starts("</information") || starts("</resource")) {
+            inTagLists_ = false;
+        }
+    }
+
+    std::string asXml(const WriterLine& match) {
+        std::string value;
+        appendWithReferencesDecoded(value, match.values[0]);
+        std::string line;
+        if (match.form->values == LineForm::Values::tag) {
+            std::string name(match.name);
+            if (!isXmlName(name)) {
+                names_.push_back(name);
+                name = placeholder(names_.size() - 1);
+            }
+            line.append("<").append(name).append(">");
+            appendXmlEscaped(line, value);
+            return line.append("</").append(name).append(">");
+        }
+        line.append(match.form->pieces[0]);
+        appendXmlEscaped(line, value);
+        return line.append(match.form->pieces[1]);
+    }
+
+    std::string_view text_;
+    std::vector<int>& mendedLines_;
+    std::vector<std::string> names_;
+    std::string result_;
+    bool inTagLists_ = false;
+};
+
+void requireText(std::string_view text) {
+    if (text.find_first_not_of(" \t\r\n") == std::string_view::npos) {
+        throw XmlError("the file is empty", 1);
+    }
+    const auto binary = text.find('\0');
+    if (binary != std::string_view::npos) {
+        throw XmlError("it is not a text file", lineAt(text, binary));
+    }
+}
+
+XmlTree parseMended(std::string_view text, SkinTextNotes& notes) {
+    Mender mender(text, notes.mendedLines);
+    XmlTree tree = parseXml(mender.mend());
+    mender.restoreNames(tree);
+    return tree;
+}
+
+} // namespace
+
+XmlTree readSkinText(std::string bytes, SkinTextNotes& notes) {
+    notes = {};
+    DecodedText decoded = decodeText(std::move(bytes));
+    notes.encoding = decoded.encoding;
+    requireText(decoded.text);
+    XmlTree byForms(decoded.text);
+    byForms.reserveText(2 * decoded.text.size()); // for decoded values, without moving the text
+    if (FormReader(byForms).read()) {
+        notes.writerForm = true;
+        return byForms;
+    }
+    try {
+        return parseXml(decoded.text);
+    } catch (const XmlError&) {
+        return parseMended(decoded.text, notes);
+    }
+}
+
+} // namespace tarvel
