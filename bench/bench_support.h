@@ -1,12 +1,12 @@
-// Ratios of two pieces of work, measured in turn in one run, so that a machine whose speed drifts does
-// not bend them.
+// Ratios of two pieces of work, measured in turn in one run, so that a machine whose speed drifts
+// does not bend them.
 #pragma once
+
+#include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <chrono>
 #include <vector>
-
-#include <benchmark/benchmark.h>
 
 namespace tarvel::bench {
 
@@ -22,8 +22,8 @@ inline double median(std::vector<double> values) {
     return *middle;
 }
 
-/// Times `work` against `baseline` in pairs. Reports the median of work as the benchmark's time, and
-/// the median of the pairs' ratios as the counter "ratio".
+/// Times `work` against `baseline` in pairs. Reports the median of work as the benchmark's time,
+/// and the median of the pairs' ratios as the counter "ratio".
 template <class Work, class Baseline>
 void comparePairs(benchmark::State& state, Work&& work, Baseline&& baseline) {
     std::vector<double> ratios;

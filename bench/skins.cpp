@@ -30,7 +30,7 @@ Element elementOf(int number) {
     control.X2 = 640 - control.left;
     control.Y2 = control.top;
     control.fillStyle = FillStyle::solid;
-    control.fillColor = static_cast<ColorNumber>(number * 2654435 & 0xFFFFFF);
+    control.fillColor = static_cast<ColorNumber>(number) * 2654435U & 0xFFFFFFU;
     control.borderStyle = number % 2 == 0 ? BorderStyle::solid : BorderStyle::none;
     control.textColor = white;
     control.caption = "Caption number " + std::to_string(number);

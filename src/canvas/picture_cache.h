@@ -15,9 +15,9 @@ namespace tarvel {
 /// What the cache knows of a picture.
 struct Picture {
     enum class State : std::uint8_t {
-        ready,  ///< image is there
+        ready,   ///< image is there
         pending, ///< will be there later; shown as an empty place until then
-        failed  ///< never will be; problem says why
+        failed   ///< never will be; problem says why
     };
     State state = State::failed;
     /// RGB32 or premultiplied ARGB32, device pixel ratio 1.
@@ -26,8 +26,9 @@ struct Picture {
     QString problem;
 };
 
-/// Decodes pictures on demand and forgets the ones used longest ago when memory runs out. Changes of
-/// a file on the disk go unnoticed until clear(). References it returns are good until the next call.
+/// Decodes pictures on demand and forgets the ones used longest ago when memory runs out. Changes
+/// of a file on the disk go unnoticed until clear(). References it returns are good until the next
+/// call.
 ///
 /// Files are document paths; a text that begins with ":/" is a picture built into the program.
 class PictureCache {

@@ -32,44 +32,70 @@ std::optional<ElementKind> kindOfType(std::string_view type) {
     return std::nullopt;
 }
 
-double number(XmlNode pos, std::string_view name) {
-    return val(getAttrib(pos, name));
+// The attributes of a Pos node; of one given twice, in whatever letter case, the last.
+struct PosTexts {
+    std::string_view x, l, y, t, w, h; // every kind but Line
+    std::string_view x1, y1, x2, y2;   // Line
+};
+
+std::string_view* memberNamed(PosTexts& pos, std::string_view name) {
+    const auto is = [name](std::string_view other) { return equalsIgnoringCase(name, other); };
+    if (name.size() == 1) {
+        return is("l")   ? &pos.l
+               : is("t") ? &pos.t
+               : is("w") ? &pos.w
+               : is("h") ? &pos.h
+               : is("x") ? &pos.x
+               : is("y") ? &pos.y
+                         : nullptr;
+    }
+    return is("x1")   ? &pos.x1
+           : is("y1") ? &pos.y1
+           : is("x2") ? &pos.x2
+           : is("y2") ? &pos.y2
+                      : nullptr;
+}
+
+PosTexts posTexts(XmlNode node) {
+    PosTexts pos;
+    for (std::size_t i = 0; i < node.attributeCount(); ++i) {
+        if (auto* member = memberNamed(pos, node.attributeName(i))) {
+            *member = node.attributeValue(i);
+        }
+    }
+    return pos;
 }
 
 // Two spellings of one coordinate, read as one text: "10" and "20" are 1020.
-double joinedNumber(XmlNode pos, std::string_view first, std::string_view second) {
-    const auto a = getAttrib(pos, first);
-    const auto b = getAttrib(pos, second);
-    if (a.empty() || b.empty()) {
-        return val(a.empty() ? b : a);
+double joinedNumber(std::string_view first, std::string_view second) {
+    if (first.empty() || second.empty()) {
+        return val(first.empty() ? second : first);
     }
-    return val(std::string(a).append(b));
+    return val(std::string(first).append(second));
 }
 
 void drawElement(SkinDocument& document, XmlNode node) {
     const auto kind = kindOfType(getAttrib(node, "Type"));
-    const XmlNode pos = getTag(node, "Pos");
-    if (!kind || !pos) {
+    const XmlNode posNode = getTag(node, "Pos");
+    if (!kind || !posNode) {
         return;
     }
+    const PosTexts pos = posTexts(posNode);
     switch (*kind) {
     case ElementKind::Image:
-    case ElementKind::Box: {
-        const auto source =
-            *kind == ElementKind::Image ? getAttrib(node, "Source") : std::string_view{};
-        makeElement(document, number(pos, "x") + number(pos, "l"),
-                    number(pos, "y") + number(pos, "t"), number(pos, "w"), number(pos, "h"), *kind,
-                    source, node);
+    case ElementKind::Box:
+        makeElement(document, val(pos.x) + val(pos.l), val(pos.y) + val(pos.t), val(pos.w),
+                    val(pos.h), *kind,
+                    *kind == ElementKind::Image ? getAttrib(node, "Source") : std::string_view{},
+                    node);
         break;
-    }
     case ElementKind::Line:
-        makeElement(document, number(pos, "X1"), number(pos, "Y1"), number(pos, "X2"),
-                    number(pos, "Y2"), *kind, {}, node);
+        makeElement(document, pos.x1, pos.y1, pos.x2, pos.y2, *kind, {}, node);
         break;
     case ElementKind::Text:
     case ElementKind::Menu:
-        makeElement(document, joinedNumber(pos, "X", "L"), joinedNumber(pos, "Y", "T"),
-                    number(pos, "W"), number(pos, "H"), *kind, getAttrib(node, "Source"), node);
+        makeElement(document, joinedNumber(pos.x, pos.l), joinedNumber(pos.y, pos.t), val(pos.w),
+                    val(pos.h), *kind, getAttrib(node, "Source"), node);
         break;
     }
 }

@@ -14,15 +14,13 @@ namespace {
 constexpr double pixelsPerPoint = 96.0 / 72.0;
 constexpr double largestPixels = 1024;
 
-// The package fonts-wine keeps a Tahoma of the same widths outside the folders where fonts are looked
-// for, so that it has to be made known to this process.
+// The package fonts-wine keeps a Tahoma of the same widths outside the folders where fonts are
+// looked for, so that it has to be made known to this process.
 void findTahoma() {
     static const bool done = [] {
         if (!QFontDatabase::hasFamily(QStringLiteral("Tahoma"))) {
-            QFontDatabase::addApplicationFont(
-                QStringLiteral("/usr/share/wine/fonts/tahoma.ttf"));
-            QFontDatabase::addApplicationFont(
-                QStringLiteral("/usr/share/wine/fonts/tahomabd.ttf"));
+            QFontDatabase::addApplicationFont(QStringLiteral("/usr/share/wine/fonts/tahoma.ttf"));
+            QFontDatabase::addApplicationFont(QStringLiteral("/usr/share/wine/fonts/tahomabd.ttf"));
         }
         return true;
     }();

@@ -10,8 +10,8 @@ namespace tarvel {
 /// The font of a Text element, sized in whole skin pixels: its points at 96 dots per inch, whatever
 /// the resolution of the screen. Sizes are held between 1 and 1024 pixels.
 ///
-/// Where the system has no Tahoma, a font of the same widths takes its place, and where there is none
-/// either, the system's own font. Needs a QGuiApplication.
+/// Where the system has no Tahoma, a font of the same widths takes its place, and where there is
+/// none either, the system's own font. Needs a QGuiApplication.
 [[nodiscard]] QFont skinFont(const FontChoice& choice);
 
 } // namespace tarvel

@@ -1,4 +1,5 @@
-// One element of a skin: what the dashboard is told of it, and the state of the control that draws it.
+// One element of a skin: what the dashboard is told of it, and the state of the control that draws
+// it.
 //
 // Positions and sizes are skin pixels of the 640 by 480 screen, origin top left, y downward.
 #pragma once
@@ -17,7 +18,8 @@ namespace tarvel {
 /// Kind codes as they are kept; a code outside 1 to 5 is possible and written as a Menu element.
 enum class ElementKind : std::int16_t { Box = 1, Line = 2, Image = 3, Text = 4, Menu = 5 };
 
-/// The control that draws an element. Images have three, chosen by the file's last three characters.
+/// The control that draws an element. Images have three, chosen by the file's last three
+/// characters.
 enum class ControlKind : std::uint8_t { box, lin, img, png, vid, txt, qor };
 
 /// "box", "lin", "img", "png", "vid", "txt" or "qor".

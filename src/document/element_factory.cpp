@@ -11,9 +11,40 @@ namespace {
 
 constexpr std::string_view referenceMark = "::";
 
-void makeBox(Element& element, XmlNode description) {
-    const auto color = getContent(description, "Color");
-    const auto border = getContent(description, "BorderColor");
+// The children that most kinds look for, found in one walk: loading makes thousands of elements.
+struct CommonTags {
+    std::string_view color;
+    std::string_view borderColor;
+    std::string_view condition;
+    bool timers = false;
+    bool modifiers = false;
+};
+
+constexpr std::string_view modifierTag = "Modifier";
+constexpr std::string_view timerTag = "Timer";
+
+CommonTags commonTags(XmlNode description) {
+    CommonTags tags;
+    for (const XmlNode child : description.children()) {
+        const auto tag = child.tag();
+        if (equalsIgnoringCase(tag, "Color")) {
+            tags.color = child.content();
+        } else if (equalsIgnoringCase(tag, "BorderColor")) {
+            tags.borderColor = child.content();
+        } else if (equalsIgnoringCase(tag, "Condition")) {
+            tags.condition = child.content();
+        } else if (equalsIgnoringCase(tag, timerTag)) {
+            tags.timers = true;
+        } else if (equalsIgnoringCase(tag, modifierTag)) {
+            tags.modifiers = true;
+        }
+    }
+    return tags;
+}
+
+void makeBox(Element& element, const CommonTags& tags) {
+    const auto color = tags.color;
+    const auto border = tags.borderColor;
     ElementControl& control = element.elementControl;
     control.kind = ControlKind::box;
     if (!color.empty()) {
@@ -28,8 +59,8 @@ void makeBox(Element& element, XmlNode description) {
     element.label = boxLabel(element.elementAlpha);
 }
 
-void makeLine(Element& element, XmlNode description) {
-    const auto color = getContent(description, "Color");
+void makeLine(Element& element, const CommonTags& tags) {
+    const auto color = tags.color;
     element.elementControl.kind = ControlKind::lin;
     element.elementControl.borderColor = color.empty() ? white : getColor(color);
     element.elementAlpha = static_cast<std::int16_t>(getAlpha(color));
@@ -37,10 +68,10 @@ void makeLine(Element& element, XmlNode description) {
 }
 
 void makeImage(Element& element, const SkinDocument& document, std::string_view source,
-               XmlNode description) {
+               const CommonTags& tags) {
     element.imageSource = source;
     element.label = imageLabel(source);
-    element.elementAlpha = static_cast<std::int16_t>(getAlpha(getContent(description, "Color")));
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(tags.color));
     attachSource(document, source, element.elementControl);
 }
 
@@ -102,10 +133,10 @@ void takeItemColors(XmlNode items, std::string& title, std::string& description)
     }
 }
 
-void makeMenu(Element& element, XmlNode description) {
+void makeMenu(Element& element, XmlNode description, const CommonTags& tags) {
     element.elementControl.kind = ControlKind::qor;
     element.label = "Menu";
-    element.elementAlpha = static_cast<std::int16_t>(getAlpha(getContent(description, "Color")));
+    element.elementAlpha = static_cast<std::int16_t>(getAlpha(tags.color));
     MenuSettings& settings = element.menuSettings.edit();
     takeNumber(settings.itemsShown, getContent(description, "NumItems"));
     takeNumber(settings.scrollFactor, getContent(description, "ScrollFactor"));
@@ -128,27 +159,20 @@ void makeMenu(Element& element, XmlNode description) {
 void takeTimers(Element& element, XmlNode description) {
     constexpr std::array<std::string_view, timerSlots> names = {"Delay", "CycleOn", "CycleOff",
                                                                 "Lifetime"};
-    if (!childTagged(description, "Timer")) {
-        return;
-    }
     for (std::size_t slot = 0; slot < timerSlots; ++slot) {
         element.elementTimers[slot] =
-            toInt32(val(getContentInTag(description, names[slot], "timer")));
+            toInt32(val(getContentInTag(description, names[slot], timerTag)));
     }
 }
 
 // All Modifier children, in file order, under the one spelling of the tag that is written.
 void takeModifiers(Element& element, XmlNode description) {
-    constexpr std::string_view tag = "Modifier";
-    if (!childTagged(description, tag)) {
-        return;
-    }
     XmlTree& tree = element.elementModifiers.edit();
     for (const XmlNode child : description.children()) {
-        if (equalsIgnoringCase(child.tag(), tag)) {
+        if (equalsIgnoringCase(child.tag(), modifierTag)) {
             const auto copy = tree.addCopy(XmlTree::top, child);
-            if (child.tag() != tag) {
-                tree.setTag(copy, tag);
+            if (child.tag() != modifierTag) {
+                tree.setTag(copy, modifierTag);
             }
         }
     }
@@ -218,28 +242,33 @@ std::string textLabel(std::string_view text) {
 
 int makeElement(SkinDocument& document, double a, double b, double c, double d, ElementKind kind,
                 std::string_view source, XmlNode description) {
+    const CommonTags tags = commonTags(description);
     Element element;
     element.elementKind = kind;
     switch (kind) {
     case ElementKind::Box:
-        makeBox(element, description);
+        makeBox(element, tags);
         break;
     case ElementKind::Line:
-        makeLine(element, description);
+        makeLine(element, tags);
         break;
     case ElementKind::Image:
-        makeImage(element, document, source, description);
+        makeImage(element, document, source, tags);
         break;
     case ElementKind::Text:
         makeText(element, source, description);
         break;
     case ElementKind::Menu:
-        makeMenu(element, description);
+        makeMenu(element, description, tags);
         break;
     }
-    element.elementCondition = getContent(description, "Condition");
-    takeTimers(element, description);
-    takeModifiers(element, description);
+    element.elementCondition = tags.condition;
+    if (tags.timers) {
+        takeTimers(element, description);
+    }
+    if (tags.modifiers) {
+        takeModifiers(element, description);
+    }
     takeGeometry(element.elementControl, a, b, c, d);
     return document.addElement(std::move(element));
 }

@@ -15,8 +15,9 @@ inline constexpr ColorNumber white = makeColor(255, 255, 255);
 /// The control that shows an image file: by its last three characters.
 [[nodiscard]] ControlKind imageControl(std::string_view file);
 
-/// Gives an image's control what a source names: its file, or the program icon for a resource without
-/// a file and for program files. A leading "::" of the source is not part of the resource's name.
+/// Gives an image's control what a source names: its file, or the program icon for a resource
+/// without a file and for program files. A leading "::" of the source is not part of the resource's
+/// name.
 void attachSource(const SkinDocument& document, std::string_view source, ElementControl& control);
 
 /// The row texts of the kinds.
@@ -26,9 +27,10 @@ void attachSource(const SkinDocument& document, std::string_view source, Element
 
 /// Makes an element on the current screen and returns its id.
 ///
-/// a, b, c, d are left, top, width and height, for a Line X1, Y1, X2 and Y2, in skin pixels. `source`
-/// is the element's Source attribute; everything else comes from the children of `description`. A tag
-/// that is missing, or holds an empty colour, number or alignment, leaves the default.
+/// a, b, c, d are left, top, width and height, for a Line X1, Y1, X2 and Y2, in skin pixels.
+/// `source` is the element's Source attribute; everything else comes from the children of
+/// `description`. A tag that is missing, or holds an empty colour, number or alignment, leaves the
+/// default.
 int makeElement(SkinDocument& document, double a, double b, double c, double d, ElementKind kind,
                 std::string_view source, XmlNode description);
 

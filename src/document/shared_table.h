@@ -28,7 +28,7 @@ template <class T> class SharedTable {
         return spine_.edit()[index / blockSize].edit()[index % blockSize];
     }
 
-    void push_back(T value) {
+    void push_back(T&& value) {
         auto& spine = spine_.edit();
         if (size_ % blockSize == 0) {
             spine.emplace_back();

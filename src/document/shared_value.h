@@ -1,4 +1,5 @@
-// A value that copies share until one of them is edited, so that copies of a large document stay cheap.
+// A value that copies share until one of them is edited, so that copies of a large document stay
+// cheap.
 #pragma once
 
 #include <memory>

@@ -85,7 +85,7 @@ const Element& SkinDocument::element(int id) const {
     return id == 0 ? slotZero : state_.elements[at(id) - 1];
 }
 
-int SkinDocument::addElement(Element element) {
+int SkinDocument::addElement(Element&& element) {
     const int screen = state_.currentLayout;
     const int id = ++state_.lastElementId;
     element.elementLayout = static_cast<std::int16_t>(screen);

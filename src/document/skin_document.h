@@ -40,11 +40,12 @@ class DocumentObserver {
 
 /// A regular value: copies are independent and cheap, because they share what neither changes.
 ///
-/// Every element has an id from 1 upward that is never used again; id 0 is a slot without an element.
-/// A screen's list fixes which elements it holds and their stacking order, row 0 at the back. Deleting
-/// an element takes away its row only; its record keeps its last values.
+/// Every element has an id from 1 upward that is never used again; id 0 is a slot without an
+/// element. A screen's list fixes which elements it holds and their stacking order, row 0 at the
+/// back. Deleting an element takes away its row only; its record keeps its last values.
 ///
-/// The observer, if any, belongs to the object and not to the value: it is neither copied nor compared.
+/// The observer, if any, belongs to the object and not to the value: it is neither copied nor
+/// compared.
 class SkinDocument {
   public:
     SkinDocument() = default;
@@ -77,7 +78,7 @@ class SkinDocument {
         tell({DocumentChange::What::element, element(id).elementLayout, id});
     }
     /// Gives the element the next id and the last row of the current screen, and counts it there.
-    int addElement(Element element);
+    int addElement(Element&& element);
 
     // Rows of a screen's list.
     [[nodiscard]] int rowCount(int screen) const;
@@ -87,8 +88,8 @@ class SkinDocument {
     [[nodiscard]] int rowOf(int screen, int elementId) const;
     void setRowText(int screen, int row, std::string text);
     void moveRow(int screen, int from, int to);
-    /// Takes the row out of the current screen's list, and with it the element off the screen. Leaves
-    /// its record and the screen's count as they are.
+    /// Takes the row out of the current screen's list, and with it the element off the screen.
+    /// Leaves its record and the screen's count as they are.
     void delItem(int row);
 
     [[nodiscard]] const SkinSettings& settings() const { return state_.settings.get(); }

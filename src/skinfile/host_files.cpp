@@ -8,15 +8,14 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
-#include <system_error>
-#include <thread>
-#include <utility>
-#include <vector>
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace tarvel {
 
@@ -148,8 +147,10 @@ class Replacement {
   private:
     static fs::path besideName(const fs::path& target) {
         static int count = 0;
-        return target.parent_path() / ("." + target.filename().string() + ".part-" +
-                                       std::to_string(::getpid()) + "-" + std::to_string(++count));
+        std::string name(1, '.');
+        name.append(target.filename().string()).append(".part-");
+        name.append(std::to_string(::getpid())).append("-").append(std::to_string(++count));
+        return target.parent_path() / name;
     }
 
     fs::path target_;
@@ -201,7 +202,8 @@ bool lockedTheFileAt(const OpenFile& file, const fs::path& path) {
     }
     struct stat now {};
     const struct stat held = file.status();
-    return ::stat(path.c_str(), &now) == 0 && now.st_ino == held.st_ino && now.st_dev == held.st_dev;
+    return ::stat(path.c_str(), &now) == 0 && now.st_ino == held.st_ino &&
+           now.st_dev == held.st_dev;
 }
 
 std::string saveReadDelete(const OpenFile& file, const fs::path& path, std::string_view text) {

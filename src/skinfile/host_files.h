@@ -1,6 +1,7 @@
 // The only code that opens, copies or creates files, and that knows how paths look on this host.
 //
-// Paths in the document are UTF-8 with backslashes. Failures throw FileError unless stated otherwise.
+// Paths in the document are UTF-8 with backslashes. Failures throw FileError unless stated
+// otherwise.
 #pragma once
 
 #include <cstdint>
@@ -46,9 +47,9 @@ void writeFile(const std::filesystem::path& path, std::string_view bytes);
 /// Told how many bytes of how many are copied; false cancels.
 using CopyProgress = std::function<bool(std::uintmax_t done, std::uintmax_t total)>;
 
-/// Copies a file over another, which is replaced only when the copy is whole. A file is never copied
-/// onto itself, through whatever link: nothing happens then. Returns false when cancelled, and leaves
-/// the older file then, as on failure.
+/// Copies a file over another, which is replaced only when the copy is whole. A file is never
+/// copied onto itself, through whatever link: nothing happens then. Returns false when cancelled,
+/// and leaves the older file then, as on failure.
 bool copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
               const CopyProgress& progress = {});
 

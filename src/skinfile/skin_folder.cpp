@@ -68,7 +68,8 @@ class SaveRun {
         try {
             return copy(settings_.background.path, "Media\\");
         } catch (const FileError&) {
-            return true; // a background that cannot be copied does not keep the rest from the folder
+            return true; // a background that cannot be copied does not keep the rest from the
+                         // folder
         }
     }
 

@@ -15,14 +15,14 @@ namespace tarvel {
 
 inline constexpr std::string_view enterNameMessage =
     "Enter a name for the skin, and then click save again";
-inline constexpr std::string_view saveFolderTitle =
-    "Select an EMPTY folder to save your skin in";
+inline constexpr std::string_view saveFolderTitle = "Select an EMPTY folder to save your skin in";
 
 /// How a save reaches the user while it runs.
 struct SaveHooks {
     /// Shows the description of a failure.
     std::function<void(const std::string& description)> showProblem;
-    /// Told of each step of a copy: the file's name, bytes done, bytes in all. False cancels the save.
+    /// Told of each step of a copy: the file's name, bytes done, bytes in all. False cancels the
+    /// save.
     std::function<bool(std::string_view file, std::uintmax_t done, std::uintmax_t total)> progress;
 };
 

@@ -125,7 +125,8 @@ XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
     try {
         return readSkinText(readFile(skinFilePath(folder)), notes);
     } catch (const XmlError& error) {
-        throw unreadable(std::string(error.what()) + " (line " + std::to_string(error.line()) + ")");
+        throw unreadable(std::string(error.what()) + " (line " + std::to_string(error.line()) +
+                         ")");
     } catch (const FileError& error) {
         throw unreadable(error.what());
     }

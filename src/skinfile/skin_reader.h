@@ -36,9 +36,9 @@ struct SkinReadNotes {
 /// The skin's own file in a folder, whatever the letter case of its name.
 [[nodiscard]] std::filesystem::path skinFilePath(const std::filesystem::path& folder);
 
-/// Adds the skin in the folder to what the document holds, skin-wide settings and elements, and shows
-/// the "Menu" screen. Throws SkinReadError and leaves the document as it was when the folder has no
-/// skin file or the file cannot be read.
+/// Adds the skin in the folder to what the document holds, skin-wide settings and elements, and
+/// shows the "Menu" screen. Throws SkinReadError and leaves the document as it was when the folder
+/// has no skin file or the file cannot be read.
 SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& folder);
 
 /// Adds a skin that is parsed already. `folder` is where its files lie.

@@ -27,7 +27,10 @@ class FormReader {
     explicit FormReader(XmlTree& tree)
         : tree_(tree)
         , size_(tree.text().size())
-        , hasReferences_(tree.text().find("&#") != std::string_view::npos) {}
+        , hasReferences_(tree.text().find("&#") != std::string_view::npos) {
+        constexpr std::size_t bytesPerElement = 40; // of a written skin, roughly
+        tree_.reserveElements(size_ / bytesPerElement);
+    }
 
     // False at the first line that has no form; the tree is of no use then.
     bool read() {
@@ -71,20 +74,16 @@ class FormReader {
         if (section == Section::element && startsModifier(line)) {
             return takeModifier(line);
         }
-        if (line.size() < 3) {
+        if (line.size() < 3 || !matchLine(line, section, match_)) {
             return false;
         }
-        const WriterLine match = matchLine(line, section);
-        if (!match) {
-            return false;
-        }
-        if (match.form->action == LineForm::Action::close) {
+        if (match_.form->action == LineForm::Action::close) {
             --depth_;
             return true;
         }
-        const auto node = addNode(line, match);
-        if (match.form->action == LineForm::Action::open) {
-            levels_[++depth_] = {match.form->enters, node};
+        const auto node = addNode(line, match_);
+        if (match_.form->action == LineForm::Action::open) {
+            levels_[++depth_] = {match_.form->enters, node};
         }
         return true;
     }
@@ -92,36 +91,45 @@ class FormReader {
     XmlTree::Index addNode(std::string_view line, const WriterLine& match) {
         const LineForm& form = *match.form;
         const auto parent = levels_[depth_].node;
-        const auto start = static_cast<std::uint32_t>(line.data() - tree_.text().data());
+        // Places, not views: decoding a value may move the text.
+        std::array<XmlTree::Span, LineForm::mostValues> values;
+        for (std::size_t i = 0; i < match.valueCount; ++i) {
+            values[i] = spanOf(match.values[i]);
+        }
         if (form.values == LineForm::Values::tag) {
-            const auto name = valueSpan(match.name);
-            return tree_.addChild(parent, name, valueSpan(match.values[0]));
+            const auto name = decoded(spanOf(match.name));
+            return tree_.addChild(parent, name, decoded(values[0]));
         }
         const LineLayout layout = layoutOf(match, line);
-        const auto spanOf = [&](const LineForm::Place& place) {
+        const auto start = spanOf(line).position;
+        const auto literal = [&](const LineForm::Place& place) {
             return XmlTree::Span{
                 start + static_cast<std::uint32_t>(layout.pieceStart[place.piece]) + place.offset,
                 place.length};
         };
-        const auto content = form.hasContent ? valueSpan(match.values[0]) : XmlTree::Span{};
-        const auto node = tree_.addChild(parent, spanOf(form.tag), content);
+        const auto content = form.hasContent ? decoded(values[0]) : XmlTree::Span{};
+        const auto node = tree_.addChild(parent, literal(form.tag), content);
         for (std::size_t i = 0; i < form.attributeCount; ++i) {
-            const auto& attribute = form.attributes[i];
-            tree_.addAttribute(node, spanOf(attribute.name),
-                               attribute.isFixed ? spanOf(attribute.fixedValue)
-                                                 : valueSpan(match.values[attribute.name.piece]));
+            const auto& [name, fixedValue, isFixed] = form.attributes[i];
+            tree_.addAttribute(node, literal(name),
+                               isFixed ? literal(fixedValue) : decoded(values[name.piece]));
         }
         return node;
     }
 
-    XmlTree::Span valueSpan(std::string_view value) {
-        if (hasReferences_ && value.find("&#") != std::string_view::npos) {
-            std::string decoded;
-            appendWithReferencesDecoded(decoded, value);
-            return tree_.addText(decoded);
+    [[nodiscard]] XmlTree::Span spanOf(std::string_view part) const {
+        return {static_cast<std::uint32_t>(part.data() - tree_.text().data()),
+                static_cast<std::uint32_t>(part.size())};
+    }
+
+    XmlTree::Span decoded(XmlTree::Span span) {
+        const auto value = tree_.text().substr(span.position, span.length);
+        if (!hasReferences_ || value.find("&#") == std::string_view::npos) {
+            return span;
         }
-        return {static_cast<std::uint32_t>(value.data() - tree_.text().data()),
-                static_cast<std::uint32_t>(value.size())};
+        std::string text;
+        appendWithReferencesDecoded(text, value);
+        return tree_.addText(text);
     }
 
     // A modifier is the XML that an XML writer made of it, over several lines.
@@ -150,6 +158,7 @@ class FormReader {
     std::size_t at_ = 0;
     std::array<Level, deepest> levels_{};
     std::size_t depth_ = 0;
+    WriterLine match_; // of the line at hand
 };
 
 void appendXmlEscaped(std::string& text, std::string_view raw) {
@@ -213,8 +222,9 @@ class Mender {
         const auto indent = std::min(bare.find_first_not_of(" \t"), bare.size());
         const auto line = bare.substr(indent);
         followLists(line);
-        const WriterLine match = line.size() < 3 ? WriterLine{} : matchTextLine(line, inTagLists_);
-        const std::string mended = match ? asXml(match) : std::string(line);
+        WriterLine match;
+        const bool matched = line.size() >= 3 && matchTextLine(line, inTagLists_, match);
+        const std::string mended = matched ? asXml(match) : std::string(line);
         if (mended != line) {
             mendedLines_.push_back(number);
         }
@@ -282,16 +292,17 @@ XmlTree readSkinText(std::string bytes, SkinTextNotes& notes) {
     DecodedText decoded = decodeText(std::move(bytes));
     notes.encoding = decoded.encoding;
     requireText(decoded.text);
-    XmlTree byForms(decoded.text);
-    byForms.reserveText(2 * decoded.text.size()); // for decoded values, without moving the text
+    const auto size = decoded.text.size();
+    XmlTree byForms(std::move(decoded.text));
     if (FormReader(byForms).read()) {
         notes.writerForm = true;
         return byForms;
     }
+    const std::string text(byForms.text().substr(0, size));
     try {
-        return parseXml(decoded.text);
+        return parseXml(text);
     } catch (const XmlError&) {
-        return parseMended(decoded.text, notes);
+        return parseMended(text, notes);
     }
 }
 

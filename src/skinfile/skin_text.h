@@ -14,7 +14,8 @@ struct SkinTextNotes {
     TextEncoding encoding = TextEncoding::utf8;
     /// Every line is one that the writer writes, and was read by its form.
     bool writerForm = false;
-    /// Lines (from 1) with raw XML characters that were taken by their form in a file that is no XML.
+    /// Lines (from 1) with raw XML characters that were taken by their form in a file that is no
+    /// XML.
     std::vector<int> mendedLines;
 };
 

@@ -24,7 +24,7 @@ void append(std::string& line, std::string_view text) {
 }
 
 template <class Number>
-    requires std::integral<Number> || std::floating_point<Number>
+requires std::integral<Number> || std::floating_point<Number>
 void append(std::string& line, Number number) {
     appendNumber(line, number);
 }
@@ -144,7 +144,8 @@ void SkinWriter::writeMusic(const MusicSettings& music) {
     writeLine("<Music>");
     tagLine("PlayGlobal", onOff(music.chkGlobal));
     tagLine("PlayRandom", onOff(music.chkRandom));
-    // The dashboard finds the folder by itself: a ticked box has the state 1, so the line never comes.
+    // The dashboard finds the folder by itself: a ticked box has the state 1, so the line never
+    // comes.
     const int customState = music.chkCustom ? 1 : 0;
     if (!music.lstMusic.empty() && customState == -1) {
         tagLine("Directory", "Music");

@@ -57,8 +57,8 @@ class SkinWriter {
     std::int16_t xmlIndent_ = 0;
 };
 
-/// What is spliced into the skin's text for a modifier tree that was saved as `fileText`: without the
-/// declaration and the last character, lines broken at CR LF.
+/// What is spliced into the skin's text for a modifier tree that was saved as `fileText`: without
+/// the declaration and the last character, lines broken at CR LF.
 [[nodiscard]] std::string splicedModifiers(std::string fileText);
 
 } // namespace tarvel

@@ -11,7 +11,8 @@
 
 namespace tarvel {
 
-/// Content of the last child named tag whose first attribute, whatever its name, has the given value;
+/// Content of the last child named tag whose first attribute, whatever its name, has the given
+/// value;
 /// "" when there is none.
 [[nodiscard]] std::string_view getContentInTag(XmlNode node, std::string_view value,
                                                std::string_view tag);

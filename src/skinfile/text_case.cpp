@@ -42,12 +42,9 @@ std::string lowerCased(std::string_view text) {
     return result;
 }
 
-bool equalsIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) { // every lower-cased form is as long as its capital
-        return false;
-    }
+bool detail::sameLengthEqualsIgnoringCase(std::string_view a, std::string_view b) {
     for (std::size_t i = 0; i < a.size(); ++i) {
-        if (lowerAscii(a[i]) != lowerAscii(b[i])) {
+        if (a[i] != b[i] && lowerAscii(a[i]) != lowerAscii(b[i])) {
             return !isAscii(a[i]) && !isAscii(b[i]) && lowerCased(a) == lowerCased(b);
         }
     }

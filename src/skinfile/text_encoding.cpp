@@ -22,7 +22,8 @@ constexpr std::array<char32_t, 32> highControls = {
 
 constexpr char32_t replacement = 0xFFFD;
 
-// Characters of a numeric reference after "&#", its semicolon included, with room for leading zeros.
+// Characters of a numeric reference after "&#", its semicolon included, with room for leading
+// zeros.
 constexpr std::size_t longestReference = 16;
 
 std::optional<char> toWindows1252(char32_t codePoint) {
@@ -71,7 +72,8 @@ Character characterAt(std::string_view text, std::size_t at) {
         }
         codePoint = codePoint << 6U | (trail & 0x3FU);
     }
-    const bool overlong = (length == 3 && codePoint < 0x800) || (length == 4 && codePoint < 0x10000);
+    const bool overlong =
+        (length == 3 && codePoint < 0x800) || (length == 4 && codePoint < 0x10000);
     if (overlong || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF)) {
         return {};
     }

@@ -16,8 +16,8 @@ struct DecodedText {
 };
 
 /// Decodes a file: a byte order mark or an XML declaration decides; without either, valid UTF-8 is
-/// UTF-8 and anything else Windows-1252. Never fails: bytes that contradict a declared UTF-8 make the
-/// file Windows-1252, unpaired surrogates become U+FFFD.
+/// UTF-8 and anything else Windows-1252. Never fails: bytes that contradict a declared UTF-8 make
+/// the file Windows-1252, unpaired surrogates become U+FFFD.
 [[nodiscard]] DecodedText decodeText(std::string bytes);
 
 /// True when the bytes are well-formed UTF-8 (no surrogates, no overlong forms).

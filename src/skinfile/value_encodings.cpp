@@ -5,6 +5,7 @@
 #include "skinfile/text_case.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -50,6 +51,31 @@ template <class Number> Number heldAtLimits(double value) {
     return static_cast<Number>(rounded);
 }
 
+// Plain digits with at most one point, few enough that the result is exact: most numbers of a skin.
+// False when the text needs the general rule.
+bool shortDecimal(std::string_view text, double& number) {
+    constexpr std::size_t exactDigits = 15;
+    constexpr std::array<double, exactDigits + 1> powers = {
+        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (text.size() > exactDigits) {
+        return false;
+    }
+    std::int64_t digits = 0;
+    std::size_t point = text.size();
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] >= '0' && text[i] <= '9') {
+            digits = digits * 10 + (text[i] - '0');
+        } else if (text[i] == '.' && point == text.size() && text.size() > 1) {
+            point = i;
+        } else {
+            return false;
+        }
+    }
+    const std::size_t decimals = point == text.size() ? 0 : text.size() - point - 1;
+    number = static_cast<double>(digits) / powers[decimals];
+    return true;
+}
+
 template <class Number> std::string textOf(Number value) {
     std::string text;
     appendNumber(text, value);
@@ -75,13 +101,15 @@ bool reverseOnOff(std::string_view text) {
 }
 
 std::int32_t hextodec(std::string_view text) {
-    double total = 0;
+    constexpr std::size_t mostPlaces = 8;
+    std::int64_t total = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const int digit = hexDigit(text[i]);
+        const std::int64_t digit = hexDigit(text[i]);
+        const std::size_t place = text.size() - 1 - i;
         if (digit == 0) {
             continue;
         }
-        total += digit * std::pow(16.0, static_cast<double>(text.size() - 1 - i));
+        total += place < mostPlaces ? digit << (4 * place) : std::int64_t{UINT32_MAX};
         if (total > std::numeric_limits<std::int32_t>::max()) {
             throw std::overflow_error("hexadecimal number beyond 32 bits");
         }
@@ -174,6 +202,9 @@ double val(std::string_view text) {
         return 0;
     }
     double number = 0;
+    if (shortDecimal(text, number)) {
+        return negative ? -number : number;
+    }
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc::result_out_of_range) {
         const std::string_view taken(text.data(), static_cast<std::size_t>(end - text.data()));

@@ -1,5 +1,6 @@
-// How single values look in a skin file, and how they are read back: words for booleans, colours with
-// opacity, lenient numbers, file names out of paths, one-line tags. Pure functions without files.
+// How single values look in a skin file, and how they are read back: words for booleans, colours
+// with opacity, lenient numbers, file names out of paths, one-line tags. Pure functions without
+// files.
 #pragma once
 
 #include <cstdint>
@@ -66,8 +67,8 @@ using ColorNumber = std::uint32_t;
 [[nodiscard]] std::string makeTagAttr(std::string_view name, std::string_view value,
                                       std::string_view attributes);
 
-/// The decimal number that the text begins with after blanks: sign, digits, point, exponent. Anything
-/// else is 0, and a number too large for a double is held at the largest one. Never NaN.
+/// The decimal number that the text begins with after blanks: sign, digits, point, exponent.
+/// Anything else is 0, and a number too large for a double is held at the largest one. Never NaN.
 [[nodiscard]] double val(std::string_view text);
 
 // Numbers held at the limits of the type that stores them; whole ones rounded with halves to even.

@@ -60,7 +60,8 @@ class PlaceFinder {
     LineForm& form_;
 };
 
-// All forms by section; within one the most frequent come first.
+// All forms by section and, because a load matches every line, by the character after the "<".
+// Within one of these the most frequent come first.
 class FormTable {
   public:
     FormTable() {
@@ -69,10 +70,14 @@ class FormTable {
         addMenuSections();
     }
 
-    [[nodiscard]] const std::vector<LineForm>& of(Section section) const {
-        return forms_[static_cast<std::size_t>(section)];
+    /// The forms that a line with this second character can have.
+    [[nodiscard]] const std::vector<LineForm>& of(Section section, char second) const {
+        const auto& forms = forms_[static_cast<std::size_t>(section)];
+        return forms.ofAnyTag.empty() || second == '/' ? forms.bySecond[bucket(second)]
+                                                       : forms.ofAnyTag;
     }
-    [[nodiscard]] const auto& all() const { return forms_; }
+    /// The forms that hold text of the user's.
+    [[nodiscard]] const std::vector<LineForm>& ofText() const { return textForms_; }
 
   private:
     void add(Section in, Action action, Values values, Pieces pieces,
@@ -85,7 +90,12 @@ class FormTable {
         std::copy(pieces.begin(), pieces.end(), form.pieces.begin());
         form.pieceCount = pieces.size();
         PlaceFinder(form).find();
-        forms_[static_cast<std::size_t>(in)].push_back(form);
+        SectionForms& forms = forms_[static_cast<std::size_t>(in)];
+        (values == Values::tag ? forms.ofAnyTag : forms.bySecond[bucket(form.pieces[0][1])])
+            .push_back(form);
+        if (values == Values::text || values == Values::tag) {
+            textForms_.push_back(form);
+        }
     }
     void open(Section in, std::string_view line, Section enters) {
         add(in, Action::open, Values::none, {line}, enters);
@@ -190,7 +200,16 @@ class FormTable {
         close(Section::itemSecondary, "</Secondary>");
     }
 
-    std::array<std::vector<LineForm>, sectionCount> forms_;
+    static constexpr std::size_t buckets = 32;
+    static std::size_t bucket(char second) { return static_cast<unsigned char>(second) % buckets; }
+
+    struct SectionForms {
+        std::array<std::vector<LineForm>, buckets> bySecond;
+        std::vector<LineForm>
+            ofAnyTag; // in a section whose tags the user names, beside its end tag
+    };
+    std::array<SectionForms, sectionCount> forms_;
+    std::vector<LineForm> textForms_;
 };
 
 const FormTable& table() {
@@ -266,6 +285,7 @@ bool startsLike(std::string_view line, const LineForm& form) {
 
 bool matchForm(std::string_view line, const LineForm& form, WriterLine& match) {
     match.form = &form;
+    match.valueCount = 0;
     switch (form.values) {
     case Values::tag:
         return matchTag(line, match);
@@ -280,30 +300,23 @@ bool matchForm(std::string_view line, const LineForm& form, WriterLine& match) {
 
 } // namespace
 
-WriterLine matchLine(std::string_view line, Section section) {
-    for (const LineForm& form : table().of(section)) {
-        if (!startsLike(line, form)) {
-            continue;
-        }
-        if (WriterLine match; matchForm(line, form, match)) {
-            return match;
+bool matchLine(std::string_view line, Section section, WriterLine& match) {
+    for (const LineForm& form : table().of(section, line[1])) {
+        if (startsLike(line, form) && matchForm(line, form, match)) {
+            return true;
         }
     }
-    return {};
+    return false;
 }
 
-WriterLine matchTextLine(std::string_view line, bool inTagLists) {
-    for (const auto& forms : table().all()) {
-        for (const LineForm& form : forms) {
-            const bool counts =
-                form.values == Values::text || (form.values == Values::tag && inTagLists);
-            if (WriterLine match;
-                counts && startsLike(line, form) && matchForm(line, form, match)) {
-                return match;
-            }
+bool matchTextLine(std::string_view line, bool inTagLists, WriterLine& match) {
+    for (const LineForm& form : table().ofText()) {
+        const bool counts = form.values == Values::text || inTagLists;
+        if (counts && startsLike(line, form) && matchForm(line, form, match)) {
+            return true;
         }
     }
-    return {};
+    return false;
 }
 
 LineLayout layoutOf(const WriterLine& line, std::string_view text) {

@@ -1,7 +1,7 @@
 // The lines that the skin writer can write, as forms by which the reader recognises them.
 //
-// The writer escapes nothing, so a value may hold quotes, tags and ampersands. Within a line of known
-// form the first and the last delimiter tell where the value lies.
+// The writer escapes nothing, so a value may hold quotes, tags and ampersands. Within a line of
+// known form the first and the last delimiter tell where the value lies.
 #pragma once
 
 #include <array>
@@ -74,16 +74,15 @@ struct WriterLine {
     std::array<std::string_view, LineForm::mostValues> values{};
     std::size_t valueCount = 0;
     std::string_view name; ///< with Values::tag: the tag
-
-    explicit operator bool() const { return form != nullptr; }
 };
 
-/// Matches a line, without indentation and line end, against the forms of a section.
-[[nodiscard]] WriterLine matchLine(std::string_view line, Section section);
+/// Matches a line of at least three characters, without indentation and line end, against the forms
+/// of a section.
+[[nodiscard]] bool matchLine(std::string_view line, Section section, WriterLine& match);
 
 /// Matches a line against those forms of every section that hold text of the user's. `inTagLists`
 /// tells whether the forms of information fields and resource fragments count.
-[[nodiscard]] WriterLine matchTextLine(std::string_view line, bool inTagLists);
+[[nodiscard]] bool matchTextLine(std::string_view line, bool inTagLists, WriterLine& match);
 
 /// The stretch of the line that a place names, given where each piece starts.
 struct LineLayout {

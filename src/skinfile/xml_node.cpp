@@ -78,6 +78,11 @@ void XmlTree::addAttribute(Index node, Span name, Span value) {
     ++owner.attributeCount;
 }
 
+void XmlTree::reserveElements(std::size_t count) {
+    nodes_.reserve(count + 1);
+    attributes_.reserve(count);
+}
+
 void XmlTree::shrinkToFit() {
     text_.shrink_to_fit();
     nodes_.shrink_to_fit();

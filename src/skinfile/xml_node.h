@@ -1,8 +1,8 @@
 // The XML tree that skin files, modifiers and the modifier catalogue are read into.
 //
-// pugixml parses; the result is kept in a compact tree of our own, because a tree has to be a regular
-// value that costs a few hundred bytes (every element keeps its modifiers as one), while a pugixml
-// document takes a page of 32 KB and cannot be copied.
+// pugixml parses; the result is kept in a compact tree of our own, because a tree has to be a
+// regular value that costs a few hundred bytes (every element keeps its modifiers as one), while a
+// pugixml document takes a page of 32 KB and cannot be copied.
 #pragma once
 
 #include <cstddef>
@@ -17,8 +17,8 @@ namespace tarvel {
 
 class XmlTree;
 
-/// Names an element of an XmlTree. Cheap to copy; valid while the tree lives, unmoved. An empty node
-/// (false in a condition) has no tag, content, attributes or children.
+/// Names an element of an XmlTree. Cheap to copy; valid while the tree lives, unmoved. An empty
+/// node (false in a condition) has no tag, content, attributes or children.
 ///
 /// Only elements count as children. The content is all of the element's own text and CDATA pieces
 /// joined, white space kept.
@@ -119,18 +119,19 @@ class XmlTree {
     /// Copies an element (of this or another tree) with all below it under parent.
     Index addCopy(Index parent, XmlNode source);
 
-    /// Appends text that spans can name. Views into text() end here unless room was reserved.
+    /// Appends text that spans can name. Views into text() end here.
     Span addText(std::string_view text);
     void reserveText(std::size_t bytes) { text_.reserve(bytes); }
+    void reserveElements(std::size_t count);
     /// Gives back memory that was kept for growth.
     void shrinkToFit();
     [[nodiscard]] std::string_view text() const { return text_; }
     /// The text for a parser that works in place; it must not write beyond it.
     [[nodiscard]] char* textBuffer() { return text_.data(); }
 
-    /// The document as the text of an XML file: a declaration, each start tag on a line of its own, an
-    /// end tag straight after the text or, after child elements, on a line of its own below an empty
-    /// one. No indentation, line feeds only.
+    /// The document as the text of an XML file: a declaration, each start tag on a line of its own,
+    /// an end tag straight after the text or, after child elements, on a line of its own below an
+    /// empty one. No indentation, line feeds only.
     [[nodiscard]] std::string fileText() const;
 
     /// Equal when the elements, their attributes and contents are the same in the same order.
@@ -156,7 +157,7 @@ class XmlTree {
     };
 
     [[nodiscard]] std::string_view view(Span span) const {
-        return std::string_view(text_).substr(span.position, span.length);
+        return {text_.data() + span.position, span.length};
     }
     void copyInto(Index target, XmlNode source);
 

@@ -1,9 +1,9 @@
 // pugixml's tree into ours. White-space-only text is kept because content is never trimmed.
 #include "skinfile/xml_parse.h"
 
-#include <algorithm>
-
 #include <pugixml.hpp>
+
+#include <algorithm>
 
 namespace tarvel {
 
@@ -132,9 +132,8 @@ std::string trimmed(std::string text) {
 // The text of a node with child elements in one trimmed piece at its front, as it will be saved.
 void trimMixedContent(pugi::xml_node above) {
     for (pugi::xml_node node = above.first_child(); node;) {
-        if (node.find_child([](const pugi::xml_node& child) {
-                return child.type() == pugi::node_element;
-            })) {
+        if (node.find_child(
+                [](const pugi::xml_node& child) { return child.type() == pugi::node_element; })) {
             std::string text;
             for (pugi::xml_node child = node.first_child(); child;) {
                 const pugi::xml_node next = child.next_sibling();
@@ -181,9 +180,8 @@ XmlTree parseXml(std::string text) {
 
 void parseFragmentInto(XmlTree& tree, XmlTree::Index parent, std::string_view fragment) {
     pugi::xml_document document;
-    const auto result =
-        document.load_buffer(fragment.data(), fragment.size(),
-                             parseFlags | pugi::parse_fragment, pugi::encoding_utf8);
+    const auto result = document.load_buffer(
+        fragment.data(), fragment.size(), parseFlags | pugi::parse_fragment, pugi::encoding_utf8);
     requireParsed(result, fragment);
     trimMixedContent(document);
     Converter(tree, {}).addElements(parent, document);
