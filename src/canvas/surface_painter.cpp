@@ -130,8 +130,6 @@ void SurfacePass::paintElement(int id, const Element& element) {
         paintText(id, element);
         break;
     case ControlKind::qor:
-        paintStretched(controlRect(control), gameListPicture);
-        break;
     case ControlKind::img:
     case ControlKind::png:
     case ControlKind::vid:
@@ -215,6 +213,10 @@ void SurfacePass::paintText(int id, const Element& element) {
 void SurfacePass::paintImage(int id, const ElementControl& control) {
     const QRectF rect = controlRect(control);
     if (targetOf(rect).isEmpty()) {
+        return;
+    }
+    if (control.kind == ControlKind::qor) {
+        paintStretched(rect, gameListPicture);
         return;
     }
     switch (control.picture) {

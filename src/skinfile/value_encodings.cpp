@@ -41,6 +41,9 @@ std::size_t fileNameStart(std::string_view path) {
 }
 
 template <class Number> Number heldAtLimits(double value) {
+    if (std::isnan(value)) {
+        return 0;
+    }
     const double rounded = std::nearbyint(value);
     if (rounded <= std::numeric_limits<Number>::min()) {
         return std::numeric_limits<Number>::min();
@@ -49,6 +52,26 @@ template <class Number> Number heldAtLimits(double value) {
         return std::numeric_limits<Number>::max();
     }
     return static_cast<Number>(rounded);
+}
+
+// Where a decimal number beyond the range of a double is held: at 0 or at the largest one, by the
+// power of ten of its first digit that counts.
+double atLimit(std::string_view number) {
+    const auto exponentAt = number.find_first_of("eE");
+    const auto digits = number.substr(0, exponentAt);
+    const auto point = std::min(digits.find('.'), digits.size());
+    const auto first = std::min(digits.find_first_not_of("0."), digits.size());
+    std::int64_t power = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first);
+    if (exponentAt != std::string_view::npos) {
+        auto text = number.substr(exponentAt + 1);
+        const bool negative = text.starts_with('-');
+        text.remove_prefix(negative || text.starts_with('+') ? 1 : 0);
+        std::int64_t exponent = std::numeric_limits<std::int32_t>::max(); // when it is too long
+        std::from_chars(text.data(), text.data() + text.size(), exponent);
+        exponent = std::min<std::int64_t>(exponent, std::numeric_limits<std::int32_t>::max());
+        power += negative ? -exponent : exponent;
+    }
+    return power < 0 ? 0 : std::numeric_limits<double>::max();
 }
 
 // Plain digits with at most one point, few enough that the result is exact: most numbers of a skin.
@@ -207,19 +230,14 @@ double val(std::string_view text) {
     }
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc::result_out_of_range) {
-        const std::string_view taken(text.data(), static_cast<std::size_t>(end - text.data()));
-        const auto exponent = taken.find_first_of("eE");
-        const bool tiny = exponent == std::string_view::npos
-                              ? taken.front() == '0' || taken.front() == '.'
-                              : taken.substr(exponent + 1).starts_with('-');
-        number = tiny ? 0 : std::numeric_limits<double>::max();
+        number = atLimit({text.data(), static_cast<std::size_t>(end - text.data())});
     }
     return negative ? -number : number;
 }
 
 float toSingle(double value) {
     constexpr double limit = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(value, -limit, limit));
+    return std::isnan(value) ? 0 : static_cast<float>(std::clamp(value, -limit, limit));
 }
 
 std::int16_t toInt16(double value) {

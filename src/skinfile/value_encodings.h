@@ -71,7 +71,8 @@ using ColorNumber = std::uint32_t;
 /// Anything else is 0, and a number too large for a double is held at the largest one. Never NaN.
 [[nodiscard]] double val(std::string_view text);
 
-// Numbers held at the limits of the type that stores them; whole ones rounded with halves to even.
+// Numbers held at the limits of the type that stores them, NaN as 0; whole ones rounded with halves
+// to even.
 [[nodiscard]] float toSingle(double value);
 [[nodiscard]] std::int16_t toInt16(double value);
 [[nodiscard]] std::int32_t toInt32(double value);

@@ -1,6 +1,7 @@
 // The compact XML tree: building, copying, comparing, saving.
 #include "skinfile/xml_node.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace tarvel {
@@ -106,10 +107,18 @@ void XmlTree::setContent(Index node, std::string_view content) {
     nodes_[node].content = addText(content);
 }
 
-void XmlTree::copyInto(Index target, XmlNode source) {
-    for (std::size_t i = 0; i < source.attributeCount(); ++i) {
-        addAttribute(target, source.attributeName(i), source.attributeValue(i));
+XmlTree::Index XmlTree::addShallowCopy(Index parent, XmlNode source) {
+    constexpr std::string_view blanks = " \t\r\n";
+    auto content = source.content();
+    if (source.firstChild()) {
+        content.remove_prefix(std::min(content.find_first_not_of(blanks), content.size()));
+        content = content.substr(0, content.find_last_not_of(blanks) + 1);
     }
+    const Index copy = addChild(parent, source.tag(), content);
+    for (std::size_t i = 0; i < source.attributeCount(); ++i) {
+        addAttribute(copy, source.attributeName(i), source.attributeValue(i));
+    }
+    return copy;
 }
 
 XmlTree::Index XmlTree::addCopy(Index parent, XmlNode source) {
@@ -121,8 +130,7 @@ XmlTree::Index XmlTree::addCopy(Index parent, XmlNode source) {
         Index target;
         XmlNode child;
     };
-    const Index copy = addChild(parent, source.tag(), source.content());
-    copyInto(copy, source);
+    const Index copy = addShallowCopy(parent, source);
     std::vector<Pending> pending{{copy, source.firstChild()}};
     while (!pending.empty()) {
         const auto [target, child] = pending.back();
@@ -131,8 +139,7 @@ XmlTree::Index XmlTree::addCopy(Index parent, XmlNode source) {
             continue;
         }
         pending.back().child = child.nextSibling();
-        const Index added = addChild(target, child.tag(), child.content());
-        copyInto(added, child);
+        const Index added = addShallowCopy(target, child);
         pending.push_back({added, child.firstChild()});
     }
     return copy;

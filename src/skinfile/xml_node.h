@@ -116,7 +116,8 @@ class XmlTree {
     void setContent(Index node, std::string_view content);
     /// Gives every element tagged `from` the tag `to`.
     void renameTags(std::string_view from, std::string_view to);
-    /// Copies an element (of this or another tree) with all below it under parent.
+    /// Copies an element (of this or another tree) with all below it under parent. Content of elements
+    /// that have children loses the white space around it, which is but their indentation.
     Index addCopy(Index parent, XmlNode source);
 
     /// Appends text that spans can name. Views into text() end here.
@@ -159,7 +160,7 @@ class XmlTree {
     [[nodiscard]] std::string_view view(Span span) const {
         return {text_.data() + span.position, span.length};
     }
-    void copyInto(Index target, XmlNode source);
+    Index addShallowCopy(Index parent, XmlNode source);
 
     std::string text_;
     std::vector<Node> nodes_;

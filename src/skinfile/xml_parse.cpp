@@ -97,9 +97,12 @@ std::string problemOf(const pugi::xml_parse_result& result, std::string_view tex
     case pugi::status_no_document_element:
         return "no XML element is in it";
     case pugi::status_end_element_mismatch:
-        return static_cast<std::size_t>(result.offset) >= text.size()
+        // The end of the text is told as the place of its last character.
+        return static_cast<std::size_t>(result.offset) + 1 >= text.size()
                    ? "it ends before its elements are closed"
                    : "an end tag does not match its start tag";
+    case pugi::status_unrecognized_tag:
+        return "a \"<\" that begins no tag";
     case pugi::status_out_of_memory:
         return "not enough memory to read it";
     default: {
@@ -115,43 +118,6 @@ void requireParsed(const pugi::xml_parse_result& result, std::string_view text) 
     if (!result) {
         const auto offset = std::min(static_cast<std::size_t>(result.offset), text.size());
         throw XmlError(problemOf(result, text), lineAt(text, offset));
-    }
-}
-
-bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-std::string trimmed(std::string text) {
-    const auto visible = [](char c) { return !isBlank(c); };
-    text.erase(std::find_if(text.rbegin(), text.rend(), visible).base(), text.end());
-    text.erase(text.begin(), std::find_if(text.begin(), text.end(), visible));
-    return text;
-}
-
-// The text of a node with child elements in one trimmed piece at its front, as it will be saved.
-void trimMixedContent(pugi::xml_node above) {
-    for (pugi::xml_node node = above.first_child(); node;) {
-        if (node.find_child(
-                [](const pugi::xml_node& child) { return child.type() == pugi::node_element; })) {
-            std::string text;
-            for (pugi::xml_node child = node.first_child(); child;) {
-                const pugi::xml_node next = child.next_sibling();
-                if (isText(child)) {
-                    text += child.value();
-                    node.remove_child(child);
-                }
-                child = next;
-            }
-            node.prepend_child(pugi::node_pcdata).set_value(trimmed(text).c_str());
-        }
-        // The next node in document order, below `above`.
-        pugi::xml_node next = node.first_child();
-        while (!next && node && node != above) {
-            next = node.next_sibling();
-            node = node.parent();
-        }
-        node = next;
     }
 }
 
@@ -183,7 +149,6 @@ void parseFragmentInto(XmlTree& tree, XmlTree::Index parent, std::string_view fr
     const auto result = document.load_buffer(
         fragment.data(), fragment.size(), parseFlags | pugi::parse_fragment, pugi::encoding_utf8);
     requireParsed(result, fragment);
-    trimMixedContent(document);
     Converter(tree, {}).addElements(parent, document);
 }
 

@@ -1,0 +1,61 @@
+// The commands that save, load and show the skin, and those for its background picture.
+#pragma once
+
+#include "document/skin_document.h"
+
+#include <QObject>
+#include <QString>
+
+#include <filesystem>
+#include <functional>
+
+class QWidget;
+
+namespace tarvel {
+
+class Prompts;
+
+/// Works on the document that it is given and asks the user through Prompts; owns neither.
+class SkinFileCommands : public QObject {
+    Q_OBJECT
+
+  public:
+    /// What the commands need of the rest of the program.
+    struct Surroundings {
+        /// The window that questions stand over; also the parent of windows that commands open.
+        QWidget* window = nullptr;
+        /// Where modifiers pass through "temp.xml".
+        std::filesystem::path programFolder;
+        /// Shows the Information dialog and returns when it is closed.
+        std::function<void()> showInformation;
+    };
+
+    SkinFileCommands(SkinDocument& document, Prompts& prompts, Surroundings surroundings);
+
+    /// Skin > Save: asks for a folder and saves into it. True when the skin was saved.
+    bool mnuSave_Click();
+    /// Skin > Load: asks for a folder and adds its skin to the document.
+    void mnuLoad_Click();
+    /// Skin > View XML: opens a window with the text of the skin.
+    void mnuView_Click();
+    void mnuLoadBg_Click();
+    void mnuUnloadBg_Click();
+
+    /// The folder of the last save, with a closing separator; empty before the first.
+    [[nodiscard]] const QString& saveFolder() const { return saveFolder_; }
+
+  signals:
+    /// One line on how a command went, for the status line.
+    void told(const QString& text);
+
+  private:
+    bool saveInto(const QString& folder);
+    void loadFrom(const QString& folder);
+
+    SkinDocument& document_;
+    Prompts& prompts_;
+    Surroundings surroundings_;
+    QString saveFolder_;
+};
+
+} // namespace tarvel

@@ -1,0 +1,30 @@
+// The XML window.
+#include "app/xml_window.h"
+
+#include <QFontDatabase>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+namespace tarvel {
+
+XmlWindow::XmlWindow(const QString& text, QWidget* parent)
+    : QDialog(parent) {
+    setObjectName(QStringLiteral("frmXml"));
+    setWindowTitle(QStringLiteral("QOR_Skin.xml"));
+    auto* edit = new QPlainTextEdit;
+    edit->setObjectName(QStringLiteral("txtXml"));
+    edit->setAccessibleName(tr("Text of the skin file"));
+    edit->setReadOnly(true);
+    edit->setLineWrapMode(QPlainTextEdit::NoWrap);
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    edit->setFont(fixed);
+    constexpr int tabColumns = 4;
+    edit->setTabStopDistance(tabColumns * QFontMetricsF(fixed).horizontalAdvance(u' '));
+    edit->setPlainText(text);
+    auto* box = new QVBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(edit);
+    resize(760, 560);
+}
+
+} // namespace tarvel

@@ -1,0 +1,38 @@
+// The commands of tarvel-skin.
+#pragma once
+
+#include <filesystem>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace tarvel::tool {
+
+/// Exit codes of all commands.
+enum ExitCode : int {
+    done = 0,
+    findings = 1,   ///< check: something to know; resave and render: the output is not complete
+    unreadable = 2, ///< the skin cannot be read, or the arguments are wrong
+};
+
+/// Where a command writes its results and its complaints.
+struct Output {
+    std::ostream& out;
+    std::ostream& err;
+};
+
+/// Reads a skin as Load does and saves it as Save does. Makes the output folder when it is missing.
+ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& out, Output output);
+
+/// Prints one line for each finding.
+ExitCode check(const std::filesystem::path& folder, Output output);
+
+/// Draws one screen, named in any letter case, as the editor's surface shows it. Needs a
+/// QGuiApplication.
+ExitCode render(const std::filesystem::path& folder, const std::string& screen,
+                const std::filesystem::path& png, Output output);
+
+/// Runs what the arguments (without the program's name) ask for. Prepares Qt only for `render`.
+ExitCode run(const std::vector<std::string>& arguments, Output output);
+
+} // namespace tarvel::tool
