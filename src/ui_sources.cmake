@@ -1,5 +1,17 @@
 # Sources of the window library, relative to this folder.
 set(TARVEL_UI_SOURCES
+  app/behaviour_buttons.cpp
+  app/create_panel.cpp
+  app/element_list_model.cpp
+  app/elements_panel.cpp
+  app/frm_main.cpp
+  app/layout_panel.cpp
+  app/main_menus.cpp
+  app/panel_slide.cpp
+  app/position_panel.cpp
+  app/qt_prompts.cpp
+  app/skin_file_commands.cpp
+  app/xml_window.cpp
   canvas/pic.cpp
   canvas/picture_cache.cpp
   canvas/picture_place.cpp
@@ -10,16 +22,34 @@ set(TARVEL_UI_SOURCES
   canvas/surface_painter.cpp
   canvas/text_cache.cpp
   canvas/video_stage.cpp
+  dialogs/field_edit.cpp
+  dialogs/fields_frame.cpp
+  dialogs/frm_info.cpp
   dialogs/frm_instructions.cpp
   dialogs/frm_pic.cpp
   dialogs/png_view.cpp
+  dialogs/skin_dialog.cpp
 )
 # Headers with Q_OBJECT, for the meta-object compiler.
 set(TARVEL_UI_HEADERS
+  app/behaviour_buttons.h
+  app/create_panel.h
+  app/element_list_model.h
+  app/elements_panel.h
+  app/frm_main.h
+  app/layout_panel.h
+  app/panel_slide.h
+  app/position_panel.h
+  app/skin_file_commands.h
+  app/xml_window.h
   canvas/pic.h
   canvas/surface_cover.h
   canvas/video_stage.h
+  dialogs/field_edit.h
+  dialogs/fields_frame.h
+  dialogs/frm_info.h
   dialogs/frm_instructions.h
   dialogs/frm_pic.h
   dialogs/png_view.h
+  dialogs/skin_dialog.h
 )

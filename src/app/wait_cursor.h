@@ -1,6 +1,7 @@
 // The pointer of a busy program, for the length of a scope.
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace tarvel {

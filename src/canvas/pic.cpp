@@ -70,9 +70,8 @@ void Pic::documentChanged(const DocumentChange& change) {
         settingsChanged();
         break;
     case What::rows:
-        if (shown) {
-            catchUpLater();
-        }
+        // Of other screens too: their elements may have had videos.
+        catchUpLater();
         break;
     case What::element:
         if (shown) {

@@ -5,8 +5,8 @@
 
 namespace tarvel {
 
-/// The document as it comes back after being saved and loaded into a new document, its files' folders
-/// apart. A skin file carries no
+/// The document as it comes back after being saved and loaded into a new document, its files'
+/// folders apart. A skin file carries no
 /// - fonts and text alignments, locks, and ids: elements are numbered anew, screen by screen, in
 ///   stacking order;
 /// - opacity of lines, images and menus, and of boxes without a fill;
@@ -16,7 +16,8 @@ namespace tarvel {
 /// - list of music files, custom music, and whatever music is set while it is off;
 /// - background's role: it becomes the first resource and the first element of "Menu";
 /// - condition "None", which is none;
-/// - captions that differ from what a source or constant makes them, and row labels but those that a
+/// - captions that differ from what a source or constant makes them, and row labels but those that
+/// a
 ///   fresh element gets.
 /// Resources are named by file name only.
 [[nodiscard]] SkinDocument normalised(const SkinDocument& document);

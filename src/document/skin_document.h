@@ -132,7 +132,9 @@ class SkinDocument {
         ObserverLink() = default;
         ObserverLink(const ObserverLink& /*other*/) {}
         ObserverLink(ObserverLink&& /*other*/) noexcept {}
-        ObserverLink& operator=(const ObserverLink& /*other*/) { return *this; }
+        ObserverLink& operator=(const ObserverLink& /*other*/) {
+            return *this;
+        } // NOLINT: takes nothing
         ObserverLink& operator=(ObserverLink&& /*other*/) noexcept { return *this; }
         ~ObserverLink() = default;
     };

@@ -330,7 +330,7 @@ std::string throughTempFile(const fs::path& folder, std::string_view text) {
 
 fs::path programFolder() {
     std::error_code error;
-    const fs::path own = fs::read_symlink("/proc/self/exe", error).parent_path();
+    fs::path own = fs::read_symlink("/proc/self/exe", error).parent_path();
     if (!error && ::access(own.c_str(), W_OK) == 0) {
         return own;
     }

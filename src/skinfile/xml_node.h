@@ -116,8 +116,8 @@ class XmlTree {
     void setContent(Index node, std::string_view content);
     /// Gives every element tagged `from` the tag `to`.
     void renameTags(std::string_view from, std::string_view to);
-    /// Copies an element (of this or another tree) with all below it under parent. Content of elements
-    /// that have children loses the white space around it, which is but their indentation.
+    /// Copies an element (of this or another tree) with all below it under parent. Content of
+    /// elements that have children loses the white space around it, which is but their indentation.
     Index addCopy(Index parent, XmlNode source);
 
     /// Appends text that spans can name. Views into text() end here.

@@ -27,12 +27,12 @@ ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& ou
 /// Prints one line for each finding.
 ExitCode check(const std::filesystem::path& folder, Output output);
 
-/// Draws one screen, named in any letter case, as the editor's surface shows it. Needs a
-/// QGuiApplication.
+/// Draws one screen, named in any letter case, as the editor's surface shows it, videos by their
+/// first frame. Makes a QGuiApplication of its own, so it runs once in a process.
 ExitCode render(const std::filesystem::path& folder, const std::string& screen,
                 const std::filesystem::path& png, Output output);
 
-/// Runs what the arguments (without the program's name) ask for. Prepares Qt only for `render`.
+/// Runs what the arguments (without the program's name) ask for.
 ExitCode run(const std::vector<std::string>& arguments, Output output);
 
 } // namespace tarvel::tool

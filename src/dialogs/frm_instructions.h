@@ -1,0 +1,16 @@
+// What to do with a skin once it is saved.
+#pragma once
+
+#include <QDialog>
+
+namespace tarvel {
+
+/// Shown modally with exec(). Enter, Escape and the button close it.
+class FrmInstructions : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit FrmInstructions(QWidget* parent = nullptr);
+};
+
+} // namespace tarvel

@@ -1,0 +1,96 @@
+// render: one screen to a PNG file, by the painting code of the editor's surface.
+#include "tool/skin_commands.h"
+
+#include "app/text.h"
+#include "behaviour/layout_screens.h"
+#include "canvas/picture_cache.h"
+#include "canvas/surface_painter.h"
+#include "canvas/video_stage.h"
+#include "skinfile/skin_reader.h"
+#include "skinfile/text_case.h"
+
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QTimer>
+
+#include <algorithm>
+#include <ostream>
+
+namespace tarvel::tool {
+
+namespace {
+
+std::vector<int> videosOf(const SkinDocument& document, int screen) {
+    std::vector<int> ids;
+    for (int row = 0; row < document.rowCount(screen); ++row) {
+        const int id = document.itemData(screen, row);
+        if (document.element(id).elementControl.kind == ControlKind::vid) {
+            ids.push_back(id);
+        }
+    }
+    return ids;
+}
+
+// Lets the videos of the screen come to their first frame, or to a word why there is none.
+void awaitVideos(VideoStage& stage, const SkinDocument& document, int screen) {
+    const std::vector<int> ids = videosOf(document, screen);
+    const auto isSettled = [&](int id) {
+        return !stage.frame(id).isNull() || !stage.problem(id).isEmpty();
+    };
+    constexpr int longestMs = 5000;
+    const QDeadlineTimer deadline(longestMs);
+    QTimer wake; // so that the wait ends even when no event comes
+    wake.start(50);
+    while (!std::all_of(ids.begin(), ids.end(), isSettled) && !deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+QImage screenImage(const SkinDocument& document, int screen) {
+    PictureCache pictures;
+    VideoStage videos;
+    videos.show(document, screen);
+    awaitVideos(videos, document, screen);
+    SurfacePainter painter(pictures);
+    painter.setVideoFrames(&videos);
+    QImage image(skinWidth, skinHeight, QImage::Format_RGB32);
+    QPainter target(&image);
+    painter.paint(target, document, screen, QRectF(0, 0, skinWidth, skinHeight));
+    return image;
+}
+
+} // namespace
+
+ExitCode render(const std::filesystem::path& folder, const std::string& screen,
+                const std::filesystem::path& png, Output output) {
+    const int number = getLayoutNum(lowerCased(screen));
+    if (!equalsIgnoringCase(layoutScreens[static_cast<std::size_t>(number)].caption, screen)) {
+        output.err << "tarvel-skin: there is no screen \"" << screen << "\"\n";
+        return unreadable;
+    }
+    SkinDocument document;
+    try {
+        readSkin(document, folder);
+    } catch (const SkinReadError& error) {
+        output.err << "tarvel-skin: " << error.what() << '\n';
+        return unreadable;
+    }
+    document.setCurrentLayout(number);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // a picture needs no display
+    }
+    int argc = 1;
+    std::string name = "tarvel-skin";
+    char* argv = name.data();
+    const QGuiApplication application(argc, &argv);
+    if (!screenImage(document, number).save(qtText(png.string()), "PNG")) {
+        output.err << "tarvel-skin: " << png.string() << " cannot be written\n";
+        return findings;
+    }
+    return done;
+}
+
+} // namespace tarvel::tool
