@@ -16,7 +16,8 @@ XmlWindow::XmlWindow(const QString& text, QWidget* parent)
     edit->setAccessibleName(tr("Text of the skin file"));
     edit->setReadOnly(true);
     edit->setLineWrapMode(QPlainTextEdit::NoWrap);
-    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setStyleHint(QFont::Monospace); // where the system's font is but a name for one
     edit->setFont(fixed);
     constexpr int tabColumns = 4;
     edit->setTabStopDistance(tabColumns * QFontMetricsF(fixed).horizontalAdvance(u' '));

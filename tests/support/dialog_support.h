@@ -1,0 +1,67 @@
+// Working a dialog in a test as a user does: by mouse and keys, controls found by name.
+#pragma once
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+
+namespace tarvel::test {
+
+/// The control of that name; ends the test program when there is none of that type.
+template <class Control> Control& control(const QWidget& window, const QString& name) {
+    auto* found = window.findChild<Control*>(name);
+    if (found == nullptr) {
+        qFatal("no control %s of the type wanted", qPrintable(name));
+    }
+    return *found;
+}
+
+/// Shows a window and waits until it takes keys.
+inline bool open(QWidget& window) {
+    window.show();
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window);
+}
+
+inline void click(QWidget& control) {
+    QTest::mouseClick(&control, Qt::LeftButton);
+}
+
+inline void clickRow(QListWidget& list, int row, Qt::MouseButton button = Qt::LeftButton) {
+    list.scrollToItem(list.item(row));
+    QTest::mouseClick(list.viewport(), button, {}, list.visualItemRect(list.item(row)).center());
+}
+
+/// Clicks into a text box and types over what is in it.
+inline void typeOver(QLineEdit& edit, const QString& text) {
+    click(edit);
+    edit.selectAll();
+    if (text.isEmpty()) {
+        QTest::keyClick(&edit, Qt::Key_Delete);
+    }
+    QTest::keyClicks(&edit, text);
+}
+
+inline QStringList rowTexts(const QListWidget& list) {
+    QStringList texts;
+    for (int row = 0; row < list.count(); ++row) {
+        texts << list.item(row)->text();
+    }
+    return texts;
+}
+
+/// The accessible names of a window's focusable controls that have none.
+inline QStringList withoutAccessibleName(const QWidget& window) {
+    QStringList nameless;
+    const auto controls = window.findChildren<QWidget*>();
+    for (const QWidget* each : controls) {
+        const bool own = !each->objectName().startsWith(QStringLiteral("qt_"));
+        if (own && each->focusPolicy() != Qt::NoFocus && each->accessibleName().isEmpty()) {
+            nameless << each->objectName() + QLatin1Char(' ') +
+                            QLatin1String(each->metaObject()->className());
+        }
+    }
+    return nameless;
+}
+
+} // namespace tarvel::test
