@@ -185,7 +185,6 @@ TEST(ModifierBlock, HoldsAllModifiersOfAnElement) {
                                     "\t\t\t\t\r\n"
                                     "\t\t\t</Modifier>\r\n"
                                     "\t\t\t\r\n"
-                                    "\t\t\t\r\n"
                                     "\t\t\t<Modifier Type=\"Wobble\"></Modifier>\r\n"
                                     "\t\t\t\r\n"
                                     "\t\t</LayoutElement>\r\n");

@@ -12,7 +12,7 @@
 namespace tarvel::test {
 
 inline std::filesystem::path assetsFolder() {
-    return std::filesystem::path(TARVEL_SOURCE_DIR) / "assets";
+    return TARVEL_ASSETS_DIR;
 }
 
 /// An empty folder that goes with all its content at the end of the scope.
