@@ -1,11 +1,11 @@
 // Hits: elements by their edges, lines by their ends, the frontmost first, and the handles.
 #include "canvas/hit_test.h"
-#include "canvas/stacking.h"
 #include "support/place_support.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
 
 namespace tarvel {
 namespace {
@@ -67,7 +67,7 @@ TEST(IsAt, LooksAtTheKind) {
     EXPECT_FALSE(isAt(lineAt({0, 0, 100, 100}), {50, 50}));
     EXPECT_TRUE(isAt(lineAt({0, 0, 100, 100}), {-6, 3}));
     EXPECT_FALSE(isAt(boxAt({0, 0, 100, 100}), {-1, 3}));
-    for (const auto [kind, control] : std::array<std::pair<ElementKind, ControlKind>, 5>{
+    for (const auto& [kind, control] : std::array<std::pair<ElementKind, ControlKind>, 5>{
              {{ElementKind::Image, ControlKind::img},
               {ElementKind::Image, ControlKind::png},
               {ElementKind::Image, ControlKind::vid},

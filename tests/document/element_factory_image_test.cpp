@@ -103,14 +103,14 @@ TEST(MakeImage, TakesTheLastResourceOfTheName) {
 
 TEST(MakeImage, BarsFilesOutsideTheFolder) {
     SkinDocument document;
-    document.addRes("a", "..\\a.png", true);
-    document.addRes("b", "..\\b.xbe", true);
-    Element expected = plain(ElementKind::Image, ControlKind::png, "Image: a");
-    expected.imageSource = "a";
+    document.addRes("logo", "..\\a.png", true);
+    document.addRes("game", "..\\b.xbe", true);
+    Element expected = plain(ElementKind::Image, ControlKind::png, "Image: logo");
+    expected.imageSource = "logo";
     expected.elementControl.file = "..\\a.png";
     expected.elementControl.picture = PictureContent::barred;
-    EXPECT_EQ(made(document, ElementKind::Image, "<e/>", "a"), expected);
-    EXPECT_EQ(made(document, ElementKind::Image, "<e/>", "b").elementControl.picture,
+    EXPECT_EQ(made(document, ElementKind::Image, "<e/>", "logo"), expected);
+    EXPECT_EQ(made(document, ElementKind::Image, "<e/>", "game").elementControl.picture,
               PictureContent::barred);
 }
 

@@ -313,12 +313,12 @@ TEST(MakeElement, KeepsAllModifiersUnderOneSpelling) {
 }
 
 TEST(MakeElement, GivesEveryKindItsBehaviour) {
-    const std::string xml = "<e><Condition>c</Condition><Timer Type='CycleOn'>3</Timer>"
+    const std::string xml = "<e><Condition>MenuOpen</Condition><Timer Type='CycleOn'>3</Timer>"
                             "<Modifier Type='m'/></e>";
     for (const auto kind : {ElementKind::Box, ElementKind::Line, ElementKind::Image,
                             ElementKind::Text, ElementKind::Menu}) {
         Element expected = made(kind, "<e/>", "source");
-        expected.elementCondition = "c";
+        expected.elementCondition = "MenuOpen";
         expected.elementTimers[1] = 3;
         expected.elementModifiers = SharedValue(parse("<Modifier Type='m'/>"));
         EXPECT_EQ(made(kind, xml, "source"), expected);

@@ -286,9 +286,11 @@ TEST(Val, IsExactWhereverThePointStands) {
     const std::string digits = "12345678901234567890";
     for (std::size_t length = 1; length <= digits.size(); ++length) {
         for (std::size_t point = 0; point <= length; ++point) {
-            const std::string text = digits.substr(0, length).insert(point, ".");
+            std::string text = digits.substr(0, length);
+            text.insert(text.begin() + static_cast<std::ptrdiff_t>(point), '.');
             EXPECT_EQ(val(text), std::strtod(text.c_str(), nullptr)) << text;
-            EXPECT_EQ(val("-" + text + "x"), -std::strtod(text.c_str(), nullptr)) << text;
+            EXPECT_EQ(val(text + "x"), val(text)) << text;
+            EXPECT_EQ(val(std::string("-").append(text)), -val(text)) << text;
         }
     }
     for (int thousandths = 0; thousandths < 2000; ++thousandths) {
