@@ -92,7 +92,7 @@ void keepText(Element& kept, const Element& element) {
     const std::string text = fileColor(element.elementAlpha, element.elementControl.textColor);
     kept.elementControl.textColor = getColor(text);
     kept.elementAlpha = static_cast<std::int16_t>(getAlpha(text));
-    kept.label = textLabel(caption);
+    kept.label = textLabel(kept.elementControl.caption);
 }
 
 void keepGeometry(ElementControl& kept, const ElementControl& control, bool line) {

@@ -56,13 +56,11 @@ class Converter {
     XmlTree::Span content(const pugi::xml_node& node) {
         const char* only = "";
         int pieces = 0;
-        bool hasElements = false;
         for (const pugi::xml_node& child : node.children()) {
             if (isText(child)) {
                 only = child.value();
                 ++pieces;
             }
-            hasElements = hasElements || child.type() == pugi::node_element;
         }
         if (pieces <= 1) {
             return span(only);

@@ -27,9 +27,8 @@ class XmlError : public std::runtime_error {
 /// raw "&" and ">" are accepted. Throws XmlError.
 [[nodiscard]] XmlTree parseXml(std::string text);
 
-/// Appends the elements of a piece of XML under parent, for text that has no single root. Text of
-/// an element that has child elements is trimmed of the white space around it, so that re-indented
-/// blocks compare equal. Throws XmlError.
+/// Appends the elements of a piece of XML under parent, for text that has no single root. White
+/// space is kept as it stands. Throws XmlError, with the tree as it was.
 void parseFragmentInto(XmlTree& tree, XmlTree::Index parent, std::string_view fragment);
 
 /// The number of the line (from 1) that holds the byte at offset.

@@ -3,12 +3,12 @@
 #include "document/element_factory.h"
 #include "skinfile/host_files.h"
 #include "skinfile/skin_writer.h"
+#include "support/line_ends.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <regex>
 
 namespace tarvel {
 
@@ -19,8 +19,7 @@ class SkinWriterTest : public testing::Test {
     // The text between two markers, line ends as "\n", which every test spells out.
     std::string generated() {
         writer_.generateXML(document_);
-        std::string text = writer_.xmlText();
-        return std::regex_replace(text, std::regex("\r\n"), "\n");
+        return withLineFeeds(writer_.xmlText());
     }
     std::string section(const std::string& start, const std::string& end) {
         const std::string text = generated();
@@ -235,9 +234,10 @@ TEST_F(SkinWriterTest, ScreensInOrderWithoutTheEmptyOnes) {
     document_.setScreenElementCount(4, 0);
     const std::string text = generated();
     std::string screens;
-    static const std::regex opening("<Layout Screen=\"(\\w+)\">");
-    for (std::sregex_iterator at(text.begin(), text.end(), opening), end; at != end; ++at) {
-        screens += (*at)[1].str() + " ";
+    constexpr std::string_view opening = "<Layout Screen=\"";
+    for (auto at = text.find(opening); at != std::string::npos; at = text.find(opening, at)) {
+        at += opening.size();
+        screens.append(text, at, text.find('"', at) - at).append(" ");
     }
     EXPECT_EQ(screens, "Title Load FileManager ");
     EXPECT_EQ(document_.currentLayout(), menuScreen);
