@@ -25,7 +25,8 @@ bool isLayoutBold(const SkinDocument& document, int screen) {
 BehaviourMarks behaviourMarks(const Element& element) {
     const auto isSet = [](std::int32_t timer) { return timer != 0; };
     return {.modifiers = !element.elementModifiers->empty(),
-            .timers = std::any_of(element.elementTimers.begin(), element.elementTimers.end(), isSet),
+            .timers =
+                std::any_of(element.elementTimers.begin(), element.elementTimers.end(), isSet),
             .condition = !isNoCondition(element.elementCondition)};
 }
 

@@ -69,14 +69,18 @@ bool onElementLine(float x, float y, const ElementControl& line) {
     return isAtEnd(x, y, line.X1, line.Y1) || isAtEnd(x, y, line.X2, line.Y2);
 }
 
+bool isAt(const Element& element, SkinPoint point) {
+    const ElementControl& control = element.elementControl;
+    const bool hit = element.elementKind == ElementKind::Line
+                         ? onElementLine(point.x, point.y, control)
+                         : onElement(point.x, point.y, control);
+    return hit && !element.elementLocked;
+}
+
 int rowAt(const SkinDocument& document, SkinPoint point) {
     const int screen = document.currentLayout();
     for (int row = document.rowCount(screen) - 1; row >= 0; --row) {
-        const Element& element = document.element(document.itemData(screen, row));
-        const bool hit = element.elementKind == ElementKind::Line
-                             ? onElementLine(point.x, point.y, element.elementControl)
-                             : onElement(point.x, point.y, element.elementControl);
-        if (hit && !element.elementLocked) {
+        if (isAt(document.element(document.itemData(screen, row)), point)) {
             return row;
         }
     }

@@ -18,8 +18,11 @@ inline constexpr float lineEndReach = 7;
 /// Whether the point is at either end of the line. The middle of a line is no hit.
 [[nodiscard]] bool onElementLine(float x, float y, const ElementControl& line);
 
-/// The row of the frontmost element of the current screen at the point; -1 when there is none.
-/// Locked elements are part of the ground and never found.
+/// Whether the element can be picked at the point. A locked one is part of the ground and cannot.
+[[nodiscard]] bool isAt(const Element& element, SkinPoint point);
+
+/// The row of the frontmost element of the current screen that can be picked at the point; -1 when
+/// there is none. Takes time in proportion to the number of rows; PickIndex is faster.
 [[nodiscard]] int rowAt(const SkinDocument& document, SkinPoint point);
 
 /// What the selected element is sized by: eight places of its selection box, or two line ends.

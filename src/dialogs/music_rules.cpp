@@ -1,9 +1,19 @@
 // Adding and removing of music.
 #include "dialogs/music_rules.h"
 
+#include "skinfile/text_case.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace tarvel {
+
+bool isMusicFile(std::string_view name) {
+    return std::any_of(musicEndings.begin(), musicEndings.end(), [&](std::string_view ending) {
+        return name.size() > ending.size() &&
+               equalsIgnoringCase(name.substr(name.size() - ending.size()), ending);
+    });
+}
 
 void addMusicFile(MusicSettings& music, std::string path) {
     music.lstMusic.push_back(static_cast<int>(music.musicFiles.size()));

@@ -23,16 +23,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A file descriptor that closes itself.
+// A file descriptor that closes itself. `shownAs` is the file that failures name.
 class OpenFile {
   public:
-    OpenFile(fs::path path, int flags, mode_t mode = 0666)
-        : path_(std::move(path))
-        , descriptor_(::open(path_.c_str(), flags | O_CLOEXEC, mode)) { // NOLINT: variadic by POSIX
+    OpenFile(const fs::path& path, int flags, mode_t mode, fs::path shownAs)
+        : path_(std::move(shownAs))
+        , descriptor_(::open(path.c_str(), flags | O_CLOEXEC, mode)) { // NOLINT: variadic by POSIX
         if (descriptor_ < 0) {
             fail();
         }
     }
+    OpenFile(const fs::path& path, int flags, mode_t mode = 0666)
+        : OpenFile(path, flags, mode, path) {}
     ~OpenFile() {
         if (descriptor_ >= 0) {
             ::close(descriptor_);
@@ -124,7 +126,7 @@ class Replacement {
     explicit Replacement(fs::path target)
         : target_(std::move(target))
         , beside_(besideName(target_))
-        , file_(beside_, O_WRONLY | O_CREAT | O_EXCL) {}
+        , file_(beside_, O_WRONLY | O_CREAT | O_EXCL, 0666, target_) {}
     ~Replacement() {
         if (!beside_.empty()) {
             ::unlink(beside_.c_str());

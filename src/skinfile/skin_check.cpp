@@ -50,7 +50,11 @@ class SkinCheck {
         }
     }
 
-    void find(std::string finding) { findings_.push_back(std::move(finding)); }
+    void find(std::string finding) {
+        const auto isLineBreak = [](char c) { return c == '\n' || c == '\r'; };
+        std::replace_if(finding.begin(), finding.end(), isLineBreak, ' ');
+        findings_.push_back(std::move(finding));
+    }
 
     void checkResources() {
         for (const Resource& resource : document_.settings().resources) {

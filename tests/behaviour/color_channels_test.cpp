@@ -70,6 +70,25 @@ TEST(ColorChannels, DragHoldsValuesAtTheirLimits) {
     }
 }
 
+TEST(ColorChannels, ChangeMakesWholeAndHoldsAtTheLimits) {
+    struct Case {
+        ChannelValue which;
+        double asked;
+        double expected;
+    };
+    constexpr Case cases[] = {{Min, 15.4, 15}, {Min, 15.5, 16},   {Min, 16.5, 16},
+                              {Min, 500, 200}, {Min, -0.4, 0},    {Max, 254.6, 255},
+                              {Max, 256, 255}, {Max, 3, 10},      {Period, 50.5, 50},
+                              {Period, 1, 50}, {Period, 1e9, 1e9}};
+    for (const Case& c : cases) {
+        ColorChannel channel{true, 10, 200, 1000};
+        ColorChannel expected = channel;
+        expected.setValue(c.which, c.expected);
+        channel.change(c.which, c.asked);
+        EXPECT_EQ(channel, expected) << channelValueName(c.which) << ' ' << c.asked;
+    }
+}
+
 TEST(ColorChannels, KeepTheirValuesApart) {
     ColorChannel channel{true, 1, 2, 3};
     for (const ChannelValue which : channelValues) {

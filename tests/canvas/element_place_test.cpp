@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace tarvel {
 namespace {
 
 using test::add;
 using test::boxAt;
-using test::elementAt;
 using test::lineAt;
 using test::RecordingObserver;
 using test::setLocked;

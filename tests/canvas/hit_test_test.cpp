@@ -245,6 +245,7 @@ TEST(HandleAt, KnowsLinesByTheNearerEnd) {
         {{100, 100, 108, 100}, {105, 100}, Handle::secondEnd},
         {{100, 100, 108, 100}, {104, 100}, Handle::secondEnd},
         {{100, 100, 100, 100}, {101, 101}, Handle::secondEnd},
+        {{100, 100, 113, 106}, {106, 106}, Handle::firstEnd}, // the other end is out of reach
     };
     for (const auto& c : cases) {
         EXPECT_EQ(handleAt(lineAt(c.line), c.point), c.handle) << c.point.x << ' ' << c.point.y;

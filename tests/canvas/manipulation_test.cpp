@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <limits>
+#include <optional>
 #include <vector>
 
 namespace tarvel {
@@ -257,7 +258,9 @@ TEST(Resized, KeepsProportions) {
         {start, Handle::bottomRight, 1, 0, {100, 50, 41, 21}}, // whole pixels, 20.5 up
         {start, Handle::bottomRight, -300, -300, {100, 50, 2, 1}},
         {start, Handle::right, -300, 0, {100, 60, 1, 1}},
-        {{0, 0, 100, 1}, Handle::right, -90, 0, {0, 0, 10, 1}},    // no side below a pixel
+        {{0, 0, 100, 1}, Handle::right, -90, 0, {0, 0, 10, 1}}, // no side below a pixel
+        {{0, 0, 2, 1}, Handle::bottomRight, 2, 0, {0, 0, 4, 2}},
+        {{0, 0, 1, 2}, Handle::bottomRight, 0, 2, {0, 0, 2, 4}},
         {{0, 0, 0, 20}, Handle::bottomRight, 5, 7, {0, 0, 5, 27}}, // no proportions to keep
         {{0, 0, 20, 0}, Handle::right, 5, 7, {0, 0, 25, 0}},
     };
@@ -460,6 +463,8 @@ TEST(DefaultSize, IsThatOfTheKindOrOfWhatItShows) {
         {ElementKind::Image, SkinSize{641, 480}, {160, 120}},
         {ElementKind::Image, SkinSize{640, 481}, {160, 120}},
         {ElementKind::Image, SkinSize{0, 0}, {160, 120}},
+        {ElementKind::Image, SkinSize{1, 1}, {1, 1}},
+        {ElementKind::Image, SkinSize{13, 0}, {160, 120}},
         {ElementKind::Text, SkinSize{73.2F, 12.5F}, {74, 13}},
         {ElementKind::Text, SkinSize{2000, 13}, {2000, 13}},
         {ElementKind::Text, {}, {120, 16}},

@@ -81,6 +81,15 @@ TEST(PickIndex, FindsLinesByTheirEndsStrictly) {
     EXPECT_EQ(pick.rowAt({150, 200}), 0);
 }
 
+TEST(PickIndex, FindsElementsWithoutExtent) {
+    Indexed pick;
+    add(pick.document, boxAt({10, 10, 0, 0}));
+    EXPECT_EQ(pick.rowAt({10, 10}), 0);
+    EXPECT_EQ(pick.rowAt({10.5F, 10}), -1);
+    placeElement(pick.document, 1, {10, 10, -5, 20});
+    EXPECT_EQ(pick.rowAt({10, 10}), -1);
+}
+
 TEST(PickIndex, AgreesWithTheWalkOverTheRows) {
     std::mt19937 random(20'240'611); // NOLINT: the same numbers in every run
     const auto number = [&](int from, int to) {

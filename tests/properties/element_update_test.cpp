@@ -176,7 +176,7 @@ TEST(TakePanel, LeavesAnImageWithoutAChosenResource) {
     for (const int chosen : {-1, static_cast<int>(resources.size())}) {
         Element image = elementAt(ElementKind::Image, ControlKind::vid, {1, 2, 3, 4});
         image.elementControl.file = "a.wmv";
-        image.imageSource = "a";
+        image.imageSource = "before";
         Element expected = image;
         expected.elementAlpha = 40;
         PanelValues values = fullPanel();

@@ -1,11 +1,13 @@
 // Which values of the panel can make an element, and the messages about those that cannot.
 #include "properties/panel_check.h"
+#include "properties/panel_texts.h"
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tarvel {
@@ -78,6 +80,13 @@ TEST(IsInvalid, ChecksWhatTheOtherKindsNeed) {
     for (const auto& c : cases) {
         EXPECT_EQ(isInvalid(c.tool, hopeless), c.messages);
     }
+}
+
+TEST(IsInvalid, NeverComplainsOfTheOpacitysCaption) {
+    EXPECT_EQ(message::badAlpha, "Alpha value should be from 0 to 255");
+    EXPECT_EQ(val(caption::lblAlpha), 0); // what the check looks at
+    const auto messages = isInvalid(ElementKind::Box, hopelessValues());
+    EXPECT_EQ(messages, (Messages{noBoxColor, badOpacity}));
 }
 
 TEST(IsInvalid, LooksOnlyAtWhatTheKindNeeds) {
