@@ -1,14 +1,14 @@
 // render: one screen to a PNG file, by the painting code of the editor's surface.
-#include "tool/skin_commands.h"
-
-#include "app/text.h"
 #include "behaviour/layout_screens.h"
 #include "canvas/picture_cache.h"
 #include "canvas/surface_painter.h"
 #include "canvas/video_stage.h"
+#include "skinfile/host_files.h"
 #include "skinfile/skin_reader.h"
 #include "skinfile/text_case.h"
+#include "tool/skin_commands.h"
 
+#include <QBuffer>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -17,7 +17,10 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <ostream>
+#include <cerrno>
+#include <cstdio>
+#include <stdexcept>
+#include <string_view>
 
 namespace tarvel::tool {
 
@@ -62,32 +65,60 @@ QImage screenImage(const SkinDocument& document, int screen) {
     return image;
 }
 
+std::string pngBytes(const QImage& image) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return buffer.data().toStdString();
+}
+
+// Replaces a picture, through links to it, but never a device or a pipe.
+void writePicture(std::filesystem::path file, std::string_view bytes) {
+    if (std::filesystem::exists(file)) {
+        file = std::filesystem::canonical(file);
+        if (!std::filesystem::is_regular_file(file)) {
+            throw FileError(std::filesystem::is_directory(file) ? EISDIR : EINVAL, file);
+        }
+    }
+    writeFile(file, bytes);
+}
+
+// What Qt and its plugins note about the machine is not for those who read a command's errors.
+void passOnlyFatal(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "tarvel-skin: %s\n", qPrintable(text)); // NOLINT: must not throw
+    }
+}
+
 } // namespace
 
 ExitCode render(const std::filesystem::path& folder, const std::string& screen,
                 const std::filesystem::path& png, Output output) {
     const int number = getLayoutNum(lowerCased(screen));
     if (!equalsIgnoringCase(layoutScreens[static_cast<std::size_t>(number)].caption, screen)) {
-        output.err << "tarvel-skin: there is no screen \"" << screen << "\"\n";
+        complain(output, "there is no screen \"" + screen + "\"");
         return unreadable;
     }
     SkinDocument document;
     try {
         readSkin(document, folder);
     } catch (const SkinReadError& error) {
-        output.err << "tarvel-skin: " << error.what() << '\n';
+        complain(output, error.what());
         return unreadable;
     }
     document.setCurrentLayout(number);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen"); // a picture needs no display
     }
+    qInstallMessageHandler(passOnlyFatal);
     int argc = 1;
     std::string name = "tarvel-skin";
     char* argv = name.data();
     const QGuiApplication application(argc, &argv);
-    if (!screenImage(document, number).save(qtText(png.string()), "PNG")) {
-        output.err << "tarvel-skin: " << png.string() << " cannot be written\n";
+    try {
+        writePicture(png, pngBytes(screenImage(document, number)));
+    } catch (const std::runtime_error& error) {
+        complain(output, error.what());
         return findings;
     }
     return done;

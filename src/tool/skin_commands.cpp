@@ -8,9 +8,11 @@
 #include "skinfile/skin_reader.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <exception>
 #include <ostream>
 #include <string_view>
+#include <system_error>
 
 namespace tarvel::tool {
 
@@ -30,12 +32,6 @@ constexpr std::string_view help =
     "Exit codes: 0 done, nothing found; 1 check found something, or not everything could be\n"
     "written; 2 the skin cannot be read, or the arguments are wrong.\n";
 
-// One line on the error stream, whatever the description holds.
-void complain(Output output, std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    output.err << "tarvel-skin: " << text << '\n';
-}
-
 ExitCode save(SkinDocument& document, const std::filesystem::path& out, Output output) {
     if (document.settings().skinName.empty()) {
         complain(output, std::string(enterNameMessage));
@@ -43,16 +39,24 @@ ExitCode save(SkinDocument& document, const std::filesystem::path& out, Output o
     }
     try {
         createFolder(out);
+        std::error_code ignored;
+        if (!std::filesystem::is_directory(out, ignored)) {
+            throw FileError(ENOTDIR, out);
+        }
     } catch (const FileError& error) {
         complain(output, error.what());
         return findings;
     }
     SkinWriter writer(programFolder());
-    const SaveHooks hooks{.showProblem = [output](const auto& text) { complain(output, text); },
+    std::vector<std::string> problems;
+    const SaveHooks hooks{.showProblem = [&](const auto& text) { problems.push_back(text); },
                           .progress = {}};
     const SaveOutcome outcome = saveSkin(document, writer, out, hooks);
-    if (!outcome.textWritten && !outcome.stopped) {
-        complain(output, outcome.writeProblem);
+    if (!outcome.textWritten) {
+        problems = {outcome.writeProblem}; // whatever else fails has the same cause
+    }
+    for (const std::string& problem : problems) {
+        complain(output, problem);
     }
     if (!outcome.leftOut.empty()) {
         complain(output, outsideMessage(outcome.leftOut));
@@ -66,6 +70,12 @@ ExitCode usageError(Output output) {
 }
 
 } // namespace
+
+void complain(Output output, std::string text) {
+    const auto isLineBreak = [](char c) { return c == '\n' || c == '\r'; };
+    std::replace_if(text.begin(), text.end(), isLineBreak, ' ');
+    output.err << "tarvel-skin: " << text << '\n';
+}
 
 ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& out, Output output) {
     SkinDocument document;

@@ -21,6 +21,9 @@ struct Output {
     std::ostream& err;
 };
 
+/// Writes the text to the error stream as one line, whatever it holds.
+void complain(Output output, std::string text);
+
 /// Reads a skin as Load does and saves it as Save does. Makes the output folder when it is missing.
 ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& out, Output output);
 
