@@ -1,55 +1,76 @@
-# Sources of the window library, relative to this folder.
+# Sources of the window library, relative to this folder; of headers those with Q_OBJECT alone.
 set(TARVEL_UI_SOURCES
   app/behaviour_buttons.cpp
+  app/behaviour_panels.cpp
   app/create_panel.cpp
+  app/easing.cpp
+  app/element_commands.cpp
   app/element_list_model.cpp
   app/elements_panel.cpp
   app/frm_main.cpp
+  app/frm_main_build.cpp
   app/layout_panel.cpp
+  app/locked_ground.cpp
   app/main_menus.cpp
   app/panel_slide.cpp
   app/position_panel.cpp
   app/qt_prompts.cpp
+  app/skin_dialogs.cpp
   app/skin_file_commands.cpp
+  app/window_gate.cpp
   app/xml_window.cpp
+  behaviour/behaviour_panel.cpp
+  behaviour/color_frame.cpp
+  behaviour/color_name_label.cpp
+  behaviour/condition_panel.cpp
+  behaviour/modifier_panel.cpp
+  behaviour/timer_panel.cpp
+  behaviour/value_label.cpp
+  canvas/draw_tools.cpp
+  canvas/edit_tools.cpp
   canvas/pic.cpp
   canvas/picture_cache.cpp
   canvas/picture_place.cpp
+  canvas/selection_marks.cpp
   canvas/skin_fonts.cpp
+  canvas/surface_controller.cpp
   canvas/surface_cover.cpp
   canvas/surface_damage.cpp
   canvas/surface_geometry.cpp
   canvas/surface_painter.cpp
   canvas/text_cache.cpp
   canvas/video_stage.cpp
+  dialogs/color_samples.cpp
+  dialogs/color_swatch.cpp
   dialogs/field_edit.cpp
   dialogs/fields_frame.cpp
+  dialogs/frm_colors.cpp
+  dialogs/frm_delays.cpp
   dialogs/frm_info.cpp
   dialogs/frm_instructions.cpp
+  dialogs/frm_music.cpp
+  dialogs/frm_music_layout.cpp
   dialogs/frm_pic.cpp
+  dialogs/frm_resources.cpp
+  dialogs/music_list.cpp
+  dialogs/opacity_field.cpp
+  dialogs/path_label.cpp
+  dialogs/play_button.cpp
   dialogs/png_view.cpp
+  dialogs/resource_frames.cpp
+  dialogs/resource_looks.cpp
+  dialogs/resource_preview.cpp
+  dialogs/resource_thumbnails.cpp
   dialogs/skin_dialog.cpp
-)
-# Headers with Q_OBJECT, for the meta-object compiler.
-set(TARVEL_UI_HEADERS
-  app/behaviour_buttons.h
-  app/create_panel.h
-  app/element_list_model.h
-  app/elements_panel.h
-  app/frm_main.h
-  app/layout_panel.h
-  app/panel_slide.h
-  app/position_panel.h
-  app/skin_file_commands.h
-  app/xml_window.h
-  canvas/pic.h
-  canvas/surface_cover.h
-  canvas/video_stage.h
-  dialogs/field_edit.h
-  dialogs/fields_frame.h
-  dialogs/frm_info.h
-  dialogs/frm_instructions.h
-  dialogs/frm_pic.h
-  dialogs/png_view.h
-  dialogs/skin_dialog.h
+  dialogs/track_player.cpp
+  properties/click_label.h
+  properties/color_well.cpp
+  properties/font_button.cpp
+  properties/image_frame.cpp
+  properties/menu_settings_frame.cpp
+  properties/preview_area.cpp
+  properties/property_panel.cpp
+  properties/shared_frame.cpp
+  properties/text_frame.cpp
+  properties/video_preview.cpp
 )

@@ -30,6 +30,14 @@ ElementsPanel::ElementsPanel(const SkinDocument& document, QWidget* parent)
         list->setEditTriggers(QAbstractItemView::NoEditTriggers);
         connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this, screen] { emit listIndexChanged(screen); });
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(list, &QListView::customContextMenuRequested, this,
+                [this, screen, list](const QPoint& point) {
+                    if (!list->indexAt(point).isValid()) {
+                        setListIndex(screen, -1);
+                    }
+                    emit menuWanted(list->viewport()->mapToGlobal(point), listIndex(screen) >= 0);
+                });
         stack_->addWidget(list);
         models_[static_cast<std::size_t>(screen)] = model;
         lst_[static_cast<std::size_t>(screen)] = list;

@@ -37,6 +37,8 @@ class ElementsPanel : public QGroupBox {
   signals:
     /// Another row, or none, is selected in the screen's list.
     void listIndexChanged(int screen);
+    /// The right button asks for a menu; `onElement` when a row is selected.
+    void menuWanted(QPoint globalPosition, bool onElement);
 
   private:
     std::array<ElementListModel*, screenCount> models_{};

@@ -1,45 +1,41 @@
-// The main window's composition and its reactions.
+// The main window's reactions; its composition is in frm_main_build.cpp.
 #include "app/frm_main.h"
 
 #include "app/behaviour_buttons.h"
+#include "app/behaviour_panels.h"
 #include "app/create_panel.h"
 #include "app/elements_panel.h"
 #include "app/layout_panel.h"
+#include "app/locked_ground.h"
 #include "app/main_menus.h"
 #include "app/panel_slide.h"
 #include "app/position_panel.h"
 #include "app/prompts.h"
+#include "app/skin_dialogs.h"
 #include "app/text.h"
-#include "app/version.h"
+#include "app/window_gate.h"
 #include "behaviour/layout_screens.h"
 #include "canvas/pic.h"
-#include "dialogs/frm_info.h"
+#include "canvas/selection_marks.h"
+#include "canvas/skin_fonts.h"
+#include "canvas/surface_controller.h"
+#include "canvas/surface_cover.h"
+#include "properties/panel_check.h"
+#include "properties/property_panel.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QFrame>
-#include <QLabel>
-#include <QPushButton>
+#include <QFontMetricsF>
+#include <QMenu>
 #include <QRandomGenerator>
-#include <QStatusBar>
 #include <QTimer>
-#include <QVBoxLayout>
+
+#include <cmath>
 
 namespace tarvel {
 
 namespace {
-
-constexpr auto noteText = "Note: Most TV's cut off edges of the screen, so make sure you leave some "
-                          "extra room around your layout.";
-
-// Panels that slide in keep their place in the layout while they are still hidden.
-template <class Panel> Panel* sliding(Panel* panel) {
-    QSizePolicy policy = panel->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    panel->setSizePolicy(policy);
-    panel->setVisible(false);
-    return panel;
-}
 
 std::string randomSkinName() {
     constexpr int names = 350;
@@ -48,125 +44,28 @@ std::string randomSkinName() {
 
 } // namespace
 
-FrmMain::FrmMain(Prompts& prompts, std::filesystem::path programFolder)
+FrmMain::FrmMain(Prompts& prompts, const std::filesystem::path& programFolder)
     : prompts_(prompts)
     , files_(document_, prompts,
-             {.window = this,
-              .programFolder = std::move(programFolder),
-              .showInformation = [this] { frmInfo_->exec(); }}) {
-    setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(
-        QStringLiteral(":: TARVEL %1.%2 :: by varnokelt ").arg(versionMajor).arg(versionMinor));
-    setWindowIcon(QIcon(QStringLiteral(":/tarvel/tarvel.png")));
-    menus_ = new MainMenus(*this);
-    frmInfo_ = new FrmInfo(document_, prompts, this);
-    buildCentre();
-    connectMenus();
-    connect(&files_, &SkinFileCommands::told, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
+             {.window = this, .programFolder = programFolder, .showInformation = [this] {
+                  dialogs_->mnuInfo_Click();
+              }}) {
+    build(programFolder);
     document_.setObserver(this);
     pic_->setDocument(&document_);
     fraLayout_->setCurrent(menuScreen);
     optScreen_Click(menuScreen);
+    QApplication::instance()->installEventFilter(this);
 }
 
 FrmMain::~FrmMain() {
+    QApplication::instance()->removeEventFilter(this);
     document_.setObserver(nullptr);
     pic_->setDocument(nullptr); // the document goes before the widgets do
 }
 
-void FrmMain::buildCentre() {
-    auto* centre = new QWidget;
-    auto* columns = new QHBoxLayout(centre);
-    columns->addWidget(buildLeftSide());
-    columns->addWidget(buildRightSide(), 1);
-    setCentralWidget(centre);
-    slide_ = new PanelSlide(this);
-}
-
-QWidget* FrmMain::buildLeftSide() {
-    auto* side = new QWidget;
-    auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, 0);
-
-    auto* frame = new QFrame;
-    frame->setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
-    auto* inside = new QVBoxLayout(frame);
-    inside->setContentsMargins(0, 0, 0, 0);
-    pic_ = new Pic(pictures_);
-    inside->addWidget(pic_);
-    surface_ = sliding(frame);
-
-    lblPos_ = new QLabel(QStringLiteral("X: 0 Y: 0"));
-    lblPos_->setObjectName(QStringLiteral("lblPos"));
-    lblPos_->setAccessibleName(tr("Position of the pointer"));
-    connect(pic_, &Pic::pointerMoved, this, [this](QPointF point) {
-        lblPos_->setText(QStringLiteral("X: %1    Y: %2").arg(point.x()).arg(point.y()));
-    });
-
-    fraCreate_ = sliding(new CreatePanel);
-    fraCreate_->setEnabled(false); // there is nothing yet to draw with
-    auto* note = new QLabel(QLatin1String(noteText));
-    note->setObjectName(QStringLiteral("fraNote"));
-    note->setWordWrap(true);
-    fraNote_ = sliding(note);
-
-    column->addWidget(surface_, 0, Qt::AlignLeft);
-    column->addWidget(lblPos_);
-    column->addWidget(fraCreate_);
-    column->addWidget(fraNote_);
-    column->addStretch();
-    return side;
-}
-
-QWidget* FrmMain::buildRightSide() {
-    auto* side = new QWidget;
-    auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, 0);
-
-    fraLayout_ = sliding(new LayoutPanel);
-    fraElements_ = sliding(new ElementsPanel(document_));
-    fraPos_ = sliding(new PositionPanel);
-    behaviours_ = new BehaviourButtons({menus_->entry(QStringLiteral("mnuModifier(0)")),
-                                        menus_->entry(QStringLiteral("mnuModifier(1)")),
-                                        menus_->entry(QStringLiteral("mnuModifier(2)"))});
-    behaviours_->setEnabled(false);
-    auto* cmdStop = new QPushButton(QStringLiteral("Stop Vids"));
-    cmdStop->setObjectName(QStringLiteral("cmdStop"));
-    cmdStop->setAccessibleName(tr("Stop the videos of this screen"));
-    connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
-    connect(fraLayout_, &LayoutPanel::screenClicked, this, &FrmMain::optScreen_Click);
-    connect(fraElements_, &ElementsPanel::listIndexChanged, this, &FrmMain::showSelection);
-
-    auto* top = new QHBoxLayout;
-    top->addWidget(fraLayout_);
-    top->addWidget(fraElements_, 1);
-    auto* bottom = new QHBoxLayout;
-    bottom->addWidget(behaviours_, 1);
-    bottom->addWidget(cmdStop);
-    column->addLayout(top, 1);
-    column->addWidget(fraPos_);
-    column->addLayout(bottom);
-    side->setMinimumWidth(380);
-    return side;
-}
-
-void FrmMain::connectMenus() {
-    const auto on = [this](const char* name, auto&& handler) {
-        connect(menus_->entry(QLatin1String(name)), &QAction::triggered, this, handler);
-    };
-    on("mnuSave", [this] { files_.mnuSave_Click(); });
-    on("mnuLoad", [this] { files_.mnuLoad_Click(); });
-    on("mnuView", [this] { files_.mnuView_Click(); });
-    on("mnuLoadBg", [this] { files_.mnuLoadBg_Click(); });
-    on("mnuUnloadBg", [this] { files_.mnuUnloadBg_Click(); });
-    on("mnuInfo", [this] { frmInfo_->exec(); });
-    for (const char* name : {"mnuDelays", "mnuColors", "mnuAudio", "mnuResource"}) {
-        menus_->entry(QLatin1String(name))->setEnabled(false);
-    }
-}
-
 void FrmMain::optScreen_Click(int index) {
+    controller_->cancelWork();
     document_.setCurrentLayout(index);
 }
 
@@ -183,27 +82,81 @@ void FrmMain::setBolds() {
 }
 
 int FrmMain::curNum() const {
-    const int screen = document_.currentLayout();
-    const int row = fraElements_->listIndex(screen);
-    return row < 0 ? 0 : document_.itemData(screen, row);
+    const int row = selectedRow();
+    return row < 0 ? 0 : document_.itemData(document_.currentLayout(), row);
+}
+
+int FrmMain::selectedRow() const {
+    return fraElements_->listIndex(document_.currentLayout());
+}
+
+void FrmMain::selectRow(int row) {
+    fraElements_->setListIndex(document_.currentLayout(), row);
+}
+
+PanelValues FrmMain::panelValues() const {
+    return properties_->values();
+}
+
+std::optional<SkinSize> FrmMain::naturalSize(ElementKind kind) const {
+    const PanelValues values = properties_->values();
+    if (kind == ElementKind::Text) {
+        const QSizeF size = QFontMetricsF(skinFont(values.cmdFont)).size(0, qtText(values.txtText));
+        return SkinSize{static_cast<float>(std::ceil(size.width()) + 1),
+                        static_cast<float>(std::ceil(size.height()))};
+    }
+    const auto& resources = document_.settings().resources;
+    if (kind != ElementKind::Image || values.lstR < 0 ||
+        values.lstR >= static_cast<int>(resources.size())) {
+        return std::nullopt;
+    }
+    const Resource& resource = resources[static_cast<std::size_t>(values.lstR)];
+    if (!resource.isFile || resource.outside || isVideoFile(resource.content)) {
+        return std::nullopt;
+    }
+    // Reading a size fills the cache, which is no part of the window's state.
+    const QSize size = const_cast<PictureCache&>(pictures_).pictureSize(resource.content); // NOLINT
+    return size.isEmpty() ? std::nullopt
+                          : std::optional(SkinSize{static_cast<float>(size.width()),
+                                                   static_cast<float>(size.height())});
+}
+
+void FrmMain::drawingEnded() {
+    chooseTool(std::nullopt);
+    fraCreate_->releaseTool();
+    showSelection();
 }
 
 void FrmMain::documentChanged(const DocumentChange& change) {
+    using What = DocumentChange::What;
+    controller_->documentChanged(change);
     fraElements_->documentChanged(change);
     pic_->documentChanged(change);
+    ground_->documentChanged(change);
     switch (change.what) {
-    case DocumentChange::What::everything:
-    case DocumentChange::What::currentLayout:
+    case What::everything:
+        properties_->resourcesChanged();
         showCurrentLayout();
         break;
-    case DocumentChange::What::counts:
+    case What::currentLayout:
+        showCurrentLayout();
+        break;
+    case What::settings:
+        properties_->resourcesChanged();
+        break;
+    case What::counts:
         setLayoutBolds();
         break;
-    case DocumentChange::What::rows:
-    case DocumentChange::What::element:
+    case What::rows:
         showSelection();
         break;
-    default:
+    case What::element:
+        if (change.elementId == curNum()) {
+            setCurrentSel();
+            setBolds();
+        }
+        break;
+    case What::rowText:
         break;
     }
 }
@@ -219,14 +172,80 @@ void FrmMain::showCurrentLayout() {
 
 void FrmMain::showSelection() {
     const int id = curNum();
-    if (id == 0) {
-        fraPos_->clear();
-    } else if (document_.element(id).elementKind == ElementKind::Line) {
-        fraPos_->setPosLine(document_.element(id).elementControl);
-    } else {
-        fraPos_->setPos(document_.element(id).elementControl);
-    }
+    setCurrentSel();
     setBolds();
+    if (id != 0) {
+        properties_->showElement(document_.element(id));
+    } else if (!fraCreate_->tool()) {
+        properties_->showNothing();
+    }
+}
+
+void FrmMain::setCurrentSel() {
+    const int id = curNum();
+    if (id == 0) {
+        marks_->hideSels();
+        fraPos_->clear();
+        return;
+    }
+    const Element& element = document_.element(id);
+    marks_->setCurrentSel(element);
+    if (element.elementKind == ElementKind::Line) {
+        fraPos_->setPosLine(element.elementControl);
+    } else {
+        fraPos_->setPos(element.elementControl);
+    }
+}
+
+void FrmMain::chooseTool(std::optional<ElementKind> kind) {
+    controller_->cancelWork();
+    controller_->setTool(kind);
+    if (!kind) {
+        cover_->uncover();
+        return;
+    }
+    selectRow(-1);
+    cover_->cover([this, kind] {
+        if (fraCreate_->tool() == kind) {
+            properties_->showKind(*kind);
+        }
+    });
+}
+
+void FrmMain::refuseInvalid(ElementKind kind, bool& refuse) {
+    for (const std::string_view text : isInvalid(kind, properties_->values())) {
+        prompts_.message(this, qtText(text));
+        refuse = true;
+    }
+}
+
+void FrmMain::popupMenu(QPoint globalPosition, bool onElement) {
+    if (onElement) {
+        menus_->entry(QStringLiteral("mnuLocked"))
+            ->setChecked(document_.element(curNum()).elementLocked);
+        menus_->mnuRight()->popup(globalPosition);
+    } else {
+        menus_->mnuRight2()->popup(globalPosition);
+    }
+}
+
+bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
+    // Delete deletes the selected element wherever the focus is in this window.
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const auto* widget = qobject_cast<QWidget*>(watched);
+        if (key->key() == Qt::Key_Delete && widget != nullptr && widget->window() == this &&
+            !gate_->isClosed() && selectedRow() >= 0) {
+            if (event->type() == QEvent::KeyPress) {
+                controller_->cancelWork();
+                commands_.mnuDelete_Click();
+            } else {
+                event->accept();
+            }
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 bool FrmMain::Form_Unload() {
@@ -269,17 +288,6 @@ void FrmMain::showEvent(QShowEvent* event) {
 void FrmMain::resizeEvent(QResizeEvent* event) {
     slide_->finish();
     QMainWindow::resizeEvent(event);
-}
-
-void FrmMain::slideIn() {
-    for (QWidget* panel : {surface_, fraNote_, static_cast<QWidget*>(fraCreate_)}) {
-        slide_->movetoX(panel, true);
-    }
-    for (QWidget* panel : {static_cast<QWidget*>(fraLayout_), static_cast<QWidget*>(fraElements_),
-                           static_cast<QWidget*>(fraPos_)}) {
-        slide_->movetoX(panel, false);
-    }
-    slide_->start();
 }
 
 } // namespace tarvel

@@ -1,8 +1,9 @@
 // The panels' entrance when the program starts.
 #pragma once
 
+#include "app/easing.h"
+
 #include <QObject>
-#include <QTimer>
 
 #include <vector>
 
@@ -11,8 +12,8 @@ class QWidget;
 namespace tarvel {
 
 /// Slides widgets to the places that their layout gave them, all together, fast at first. Each step
-/// covers one fifteenth of what is left; within 3 pixels the place is taken exactly. Takes less
-/// than 400 ms and never holds up events. Owns none of the widgets; they outlive it.
+/// covers one fifteenth of what is left; within 3 pixels the place is taken exactly. Owns none of
+/// the widgets; they outlive it.
 class PanelSlide : public QObject {
     Q_OBJECT
 
@@ -30,15 +31,8 @@ class PanelSlide : public QObject {
     void finished();
 
   private:
-    struct Sliding {
-        QWidget* panel;
-        int target; // left edge
-        double left;
-    };
-    void stepFrame();
-
-    std::vector<Sliding> panels_;
-    QTimer frames_;
+    std::vector<Easing::Move> moves_;
+    Easing easing_;
 };
 
 } // namespace tarvel

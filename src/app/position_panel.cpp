@@ -2,10 +2,10 @@
 #include "app/position_panel.h"
 
 #include "app/text.h"
+#include "dialogs/field_edit.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 
 namespace tarvel {
 
@@ -13,50 +13,76 @@ PositionPanel::PositionPanel(QWidget* parent)
     : QGroupBox(QStringLiteral("POSITION"), parent) {
     struct Field {
         const char* name;
-        const char* caption;
         const char* meaning;
     };
-    static constexpr std::array<Field, 4> fields = {{{"txtL", "L", "Left, or first end across"},
-                                                     {"txtT", "T", "Top, or first end down"},
-                                                     {"txtW", "W", "Width, or second end across"},
-                                                     {"txtH", "H", "Height, or second end down"}}};
+    static constexpr std::array<Field, positionFields> fields = {
+        {{"txtL", "Left, or first end across"},
+         {"txtT", "Top, or first end down"},
+         {"txtW", "Width, or second end across"},
+         {"txtH", "Height, or second end down"}}};
     setObjectName(QStringLiteral("fraPos"));
     setAccessibleName(tr("Position in skin pixels"));
     auto* row = new QHBoxLayout(this);
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        auto* edit = new QLineEdit;
+        auto* edit = new FieldEdit;
         edit->setObjectName(QLatin1String(fields[i].name));
         edit->setAccessibleName(QLatin1String(fields[i].meaning));
         edit->setToolTip(edit->accessibleName());
-        edit->setReadOnly(true);
-        auto* label = new QLabel(QLatin1String(fields[i].caption));
+        connect(edit, &QLineEdit::editingFinished, this, [this, i] { leave(i); });
+        auto* label = new QLabel;
         label->setBuddy(edit);
+        // Room for the captions of a line: they are wider.
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("X2")));
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         row->addWidget(label);
         row->addWidget(edit);
         fields_[i] = edit;
+        captions_[i] = label;
     }
     clear();
 }
 
-void PositionPanel::show(const std::array<float, 4>& values) {
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        fields_[i]->setText(qtText(numberText(values[i])));
+void PositionPanel::show(const ElementControl& control) {
+    const PositionTexts texts = positionTexts(control);
+    const auto& captions = positionCaptions(control.kind);
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (fields_[i]->text() != qtText(texts[i])) {
+            fields_[i]->setText(qtText(texts[i]));
+        }
+        fields_[i]->setModified(false);
         fields_[i]->setEnabled(true);
+        captions_[i]->setText(qtText(captions[i]));
     }
 }
 
 void PositionPanel::setPos(const ElementControl& control) {
-    show({control.left, control.top, control.width, control.height});
+    show(control);
 }
 
 void PositionPanel::setPosLine(const ElementControl& control) {
-    show({control.X1, control.Y1, control.X2, control.Y2});
+    show(control);
 }
 
 void PositionPanel::clear() {
-    for (QLineEdit* field : fields_) {
+    show({});
+    for (FieldEdit* field : fields_) {
         field->clear();
         field->setEnabled(false);
+    }
+}
+
+PositionTexts PositionPanel::texts() const {
+    PositionTexts result;
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        result[i] = coreText(fields_[i]->text());
+    }
+    return result;
+}
+
+void PositionPanel::leave(std::size_t field) {
+    if (fields_[field]->isModified()) {
+        fields_[field]->setModified(false);
+        emit entered(static_cast<PositionField>(field), fields_[field]->text());
     }
 }
 

@@ -1,15 +1,17 @@
-// The panel "POSITION": where the selected element lies.
+// The panel "POSITION": where the selected element lies, to be read and typed over.
 #pragma once
 
-#include "document/element.h"
+#include "properties/position_fields.h"
 
 #include <QGroupBox>
 
 #include <array>
 
-class QLineEdit;
+class QLabel;
 
 namespace tarvel {
+
+class FieldEdit;
 
 /// Shows left, top, width and height of an element in skin pixels, of a line its two ends.
 class PositionPanel : public QGroupBox {
@@ -22,11 +24,18 @@ class PositionPanel : public QGroupBox {
     void setPosLine(const ElementControl& control);
     /// Shows that nothing is selected.
     void clear();
+    [[nodiscard]] PositionTexts texts() const;
+
+  signals:
+    /// A field was typed over and left, or Enter was pressed in it.
+    void entered(tarvel::PositionField field, const QString& text);
 
   private:
-    void show(const std::array<float, 4>& values);
+    void show(const ElementControl& control);
+    void leave(std::size_t field);
 
-    std::array<QLineEdit*, 4> fields_{};
+    std::array<FieldEdit*, positionFields> fields_{};
+    std::array<QLabel*, positionFields> captions_{};
 };
 
 } // namespace tarvel

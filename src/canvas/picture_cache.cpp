@@ -18,9 +18,9 @@ namespace tarvel {
 
 namespace {
 
-// Originals are kept no larger than this: stretched over the whole screen at double resolution they
+// Sources are kept no larger than this: stretched over the whole screen at double resolution they
 // still have more pixels than they need.
-constexpr qint64 originalPixels = qint64{8} << 20;
+constexpr qint64 sourcePixels = qint64{8} << 20;
 // Stretching to more than this costs more memory than it saves time.
 constexpr qint64 stretchedPixels = qint64{8} << 20;
 // Of an unscaled picture no more than this can come into view.
@@ -131,7 +131,7 @@ Decoded decode(const QByteArray& file, qint64 pixels) {
 
 PictureCache::PictureCache(qsizetype bytes)
     : shown_(bytes - bytes / 4)
-    , originals_(bytes / 4) {
+    , sources_(bytes / 4) {
     // Qt's own limit, in megabytes, is below what is promised here.
     constexpr int limit = static_cast<int>(largestPixels * 4 >> 20);
     if (QImageReader::allocationLimit() != 0 && QImageReader::allocationLimit() < limit) {
@@ -144,9 +144,9 @@ const Picture& PictureCache::stretched(std::string_view file, QSize size) {
     if (const Picture* known = shown_.object(key)) {
         return *known;
     }
-    const Original& from = original(key.file);
+    const Source& from = source(key.file);
     if (from.picture.state != Picture::State::ready) {
-        // Kept here too, where it outlives the originals: the disk is not asked again at every
+        // Kept here too, where it outlives the sources: the disk is not asked again at every
         // paint.
         return keep(key, from.picture);
     }
@@ -172,41 +172,41 @@ const Picture& PictureCache::unscaled(std::string_view file) {
 }
 
 QSize PictureCache::pictureSize(std::string_view file) {
-    return original(QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size())))
+    return source(QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size())))
         .ownSize;
 }
 
 void PictureCache::clear() {
     shown_.clear();
-    originals_.clear();
+    sources_.clear();
     uncachedPicture_ = {};
-    uncachedOriginal_ = {};
+    uncachedSource_ = {};
 }
 
 qsizetype PictureCache::bytes() const {
-    return shown_.totalCost() + originals_.totalCost();
+    return shown_.totalCost() + sources_.totalCost();
 }
 
-const PictureCache::Original& PictureCache::original(const QByteArray& file) {
-    if (const Original* known = originals_.object(file)) {
+const PictureCache::Source& PictureCache::source(const QByteArray& file) {
+    if (const Source* known = sources_.object(file)) {
         return *known;
     }
-    Decoded decoded = decode(file, originalPixels);
+    Decoded decoded = decode(file, sourcePixels);
     QImage& image = decoded.picture.image;
-    if (pixelsOf(image.size()) > originalPixels) {
-        image = image.scaled(within(image.size(), originalPixels), Qt::IgnoreAspectRatio,
+    if (pixelsOf(image.size()) > sourcePixels) {
+        image = image.scaled(within(image.size(), sourcePixels), Qt::IgnoreAspectRatio,
                              Qt::SmoothTransformation);
     }
     const qsizetype cost = costOf(decoded.picture);
-    Original found{std::move(decoded.picture), decoded.ownSize};
-    if (cost > originals_.maxCost()) {
-        uncachedOriginal_ = std::move(found);
-        return uncachedOriginal_;
+    Source found{std::move(decoded.picture), decoded.ownSize};
+    if (cost > sources_.maxCost()) {
+        uncachedSource_ = std::move(found);
+        return uncachedSource_;
     }
     // A deep copy of the name: the caller's may end before the cache does.
     const QByteArray name(file.constData(), file.size());
-    auto* kept = new Original(std::move(found)); // NOLINT: owned by the cache
-    originals_.insert(name, kept, cost);
+    auto* kept = new Source(std::move(found)); // NOLINT: owned by the cache
+    sources_.insert(name, kept, cost);
     return *kept;
 }
 

@@ -33,7 +33,8 @@ struct Picture {
 /// Files are document paths; a text that begins with ":/" is a picture built into the program.
 class PictureCache {
   public:
-    /// Memory for decoded pictures in bytes, about a quarter of it for unscaled originals.
+    /// Memory for decoded pictures in bytes, about a quarter of it for the pictures that stretched
+    /// ones are made from.
     static constexpr qsizetype defaultBytes = qsizetype{256} << 20;
     /// Pictures of more pixels are refused, unless their format can be decoded at a smaller size.
     static constexpr qsizetype largestPixels = qsizetype{64} << 20;
@@ -67,19 +68,19 @@ class PictureCache {
         }
     };
     /// A decoded picture to stretch from, not larger than a few screens.
-    struct Original {
+    struct Source {
         Picture picture;
         QSize ownSize;
     };
 
-    const Original& original(const QByteArray& file);
+    const Source& source(const QByteArray& file);
     const Picture& keep(const Key& key, Picture picture);
 
     QCache<Key, Picture> shown_;
-    QCache<QByteArray, Original> originals_;
+    QCache<QByteArray, Source> sources_;
     // Answers that are too large for the caches.
     Picture uncachedPicture_;
-    Original uncachedOriginal_;
+    Source uncachedSource_;
 };
 
 } // namespace tarvel

@@ -16,7 +16,7 @@ constexpr QColor frameColor{172, 181, 194};
 constexpr QColor crossColor{172, 181, 194, 110};
 constexpr QColor nameColor{240, 243, 247};
 constexpr QColor reasonColor{255, 196, 120};
-constexpr double textMargin = 4;     // skin pixels
+constexpr double textMargin = 2;     // skin pixels
 constexpr double narrowestText = 24; // skin pixels; less shows nothing but dots
 
 void paintFrame(QPainter& painter, const QRectF& rect, const QColor& color) {
@@ -35,17 +35,16 @@ void paintCross(QPainter& painter, const QRectF& rect) {
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
-// One line of text in the middle of the width at a height; returns where it ends below.
-double paintLine(QPainter& painter, const QRectF& room, double top, const QFont& font,
-                 const QColor& color, const QString& text) {
+// One line of text in the middle of the width.
+void paintLine(QPainter& painter, const QRectF& room, double top, const QFont& font,
+               const QColor& color, const QString& text, Qt::TextElideMode elision) {
     const QFontMetricsF metrics(font);
     const double width = room.width() - 2 * textMargin;
-    const QString shown = metrics.elidedText(text, Qt::ElideMiddle, width);
+    const QString shown = metrics.elidedText(text, elision, width);
     const double left = room.center().x() - metrics.horizontalAdvance(shown) / 2;
     painter.setFont(font);
     painter.setPen(color);
     painter.drawText(QPointF(qRound(left), top + qRound(metrics.ascent())), shown);
-    return top + qRound(metrics.height());
 }
 
 void paintTexts(QPainter& painter, const QRectF& room, const QString& name, const QString& reason) {
@@ -65,9 +64,9 @@ void paintTexts(QPainter& painter, const QRectF& room, const QString& name, cons
     const double plate = std::min(room.width() - 2, widest + 2 * textMargin);
     painter.fillRect(QRectF(qRound(room.center().x() - plate / 2), top, qRound(plate), height),
                      groundColor);
-    const double below = paintLine(painter, room, top, nameFont, nameColor, name);
+    paintLine(painter, room, top, nameFont, nameColor, name, Qt::ElideMiddle);
     if (both) {
-        paintLine(painter, room, below, reasonFont, reasonColor, reason);
+        paintLine(painter, room, top + nameHeight, reasonFont, reasonColor, reason, Qt::ElideRight);
     }
 }
 

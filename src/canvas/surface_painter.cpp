@@ -1,6 +1,7 @@
 // How each kind of control looks.
 #include "canvas/surface_painter.h"
 
+#include "app/text.h"
 #include "canvas/picture_cache.h"
 #include "canvas/picture_place.h"
 #include "canvas/surface_geometry.h"
@@ -21,24 +22,14 @@ constexpr QRectF surfaceRect(0, 0, skinWidth, skinHeight);
 constexpr double edgeMargin = 1;
 constexpr double lineMargin = 2;
 
-QColor opaque(ColorNumber color) {
-    return {static_cast<int>(redOf(color)), static_cast<int>(greenOf(color)),
-            static_cast<int>(blueOf(color))};
-}
-
 QColor withOpacity(ColorNumber color, int percent) {
-    const int alpha = (std::clamp(percent, 0, 100) * 255 + 50) / 100;
-    return {static_cast<int>(redOf(color)), static_cast<int>(greenOf(color)),
-            static_cast<int>(blueOf(color)), alpha};
+    QColor result = qtColor(color);
+    result.setAlpha((std::clamp(percent, 0, 100) * 255 + 50) / 100);
+    return result;
 }
 
 bool isVisible(const ElementControl& control) {
     return control.width > 0 && control.height > 0;
-}
-
-QString fileName(std::string_view path) {
-    const auto name = trimtofile(path);
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 // One run over the rows. It remembers the painter's pen and font, because setting them again for
@@ -149,7 +140,7 @@ void SurfacePass::paintBox(const Element& element) {
     if (control.borderStyle != BorderStyle::solid) {
         return;
     }
-    const QColor color = opaque(control.borderColor);
+    const QColor color = qtColor(control.borderColor);
     const double edge = grid_.lineWidth();
     if (rect.width() <= 2 * edge || rect.height() <= 2 * edge) {
         painter_.fillRect(rect, color);
@@ -173,7 +164,7 @@ void SurfacePass::paintLine(const ElementControl& control) {
     if (!line) {
         return;
     }
-    const QColor color = opaque(control.borderColor);
+    const QColor color = qtColor(control.borderColor);
     if (x1 == x2 || y1 == y2) {
         // Both ends included, so a line of no length is a dot.
         const QRectF box = QRectF(line->p1(), line->p2()).normalized();
@@ -302,7 +293,7 @@ void SurfacePass::paintWithoutPicture(const QRectF& rect, std::string_view file,
 }
 
 void SurfacePass::paintMissing(const QRectF& rect, std::string_view file, const QString& reason) {
-    paintMissingPicture(painter_, targetOf(rect), surfaceRect, fileName(file), reason);
+    paintMissingPicture(painter_, targetOf(rect), surfaceRect, qtText(trimtofile(file)), reason);
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 // Laying captions out.
 #include "canvas/text_cache.h"
 
+#include "app/text.h"
 #include "canvas/skin_fonts.h"
 
 #include <QTextOption>
 
 #include <algorithm>
+#include <string_view>
 
 namespace tarvel {
 
@@ -79,7 +81,7 @@ void TextCache::layOut(LaidOutText& entry, const ElementControl& control) {
     entry.text.setTextFormat(Qt::PlainText);
     entry.text.setTextOption(option);
     entry.text.setTextWidth(std::min(double{control.width}, double{largestWidth}));
-    entry.text.setText(QString::fromStdString(entry.caption.substr(0, largestCaption)));
+    entry.text.setText(qtText(std::string_view(entry.caption).substr(0, largestCaption)));
     entry.text.prepare({}, font(entry.font));
     entry.size = entry.text.size();
 }

@@ -24,6 +24,9 @@ namespace {
 // rests.
 constexpr int restMilliseconds = 200;
 
+// How long a player may take to its first frame.
+constexpr int patienceMilliseconds = 10'000;
+
 const QString tooMany = QStringLiteral("too many videos");
 
 bool isVideo(const Element& element) {
@@ -205,8 +208,24 @@ void VideoStage::open(int elementId, Seat& seat) {
     // The state of a player says nothing after an error, and errors come in bursts.
     connect(player, &QMediaPlayer::errorOccurred, this,
             [this, elementId, path] { fail(elementId, problemOfContent(path)); });
+    watch(elementId, player, path);
     player->setSource(QUrl::fromLocalFile(QString::fromStdString(path.string())));
     player->play();
+}
+
+// Some broken files keep a player loading for ever, with neither a frame nor an error.
+void VideoStage::watch(int elementId, QMediaPlayer* player, const std::filesystem::path& path) {
+    auto* timer = new QTimer(player);
+    connect(timer, &QTimer::timeout, this, [this, elementId, player, path, timer] {
+        const auto found = seats_.find(elementId);
+        if (found == seats_.end() || found->second.player != player ||
+            !found->second.frame.isNull()) {
+            timer->stop();
+        } else if (isPlaying(elementId)) {
+            fail(elementId, problemOfContent(path));
+        }
+    });
+    timer->start(patienceMilliseconds);
 }
 
 void VideoStage::fail(int elementId, const QString& problem) {

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <filesystem>
 #include <map>
 #include <string>
 
@@ -67,6 +68,7 @@ class VideoStage : public QObject, public VideoFrames {
     void play(int elementId, const SkinDocument& document);
     bool makeRoom(const SkinDocument& document);
     void open(int elementId, Seat& seat);
+    void watch(int elementId, QMediaPlayer* player, const std::filesystem::path& path);
     void fail(int elementId, const QString& problem);
     void takeFrame(int elementId, const QVideoFrame& frame);
     void retire(QMediaPlayer* player);

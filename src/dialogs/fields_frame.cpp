@@ -5,6 +5,7 @@
 #include "dialogs/skin_dialog.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -14,7 +15,7 @@ namespace tarvel {
 namespace {
 
 enum Row { labelRow, valueRow, belowValueRow, restRow, belowRow };
-enum Column { listColumn, valueColumn, besideColumn };
+enum Column { listColumn, valueColumn };
 
 } // namespace
 
@@ -22,7 +23,8 @@ FieldsFrame::FieldsFrame(const QString& caption, QWidget* parent)
     : QGroupBox(caption, parent)
     , lstFields_(named(new QListWidget, QStringLiteral("lstFields"), tr("Fields")))
     , txtData_(named(new FieldEdit, QStringLiteral("txtData"), tr("Value of the selected field")))
-    , grid_(new QGridLayout(this)) {
+    , grid_(new QGridLayout(this))
+    , valueLine_(new QHBoxLayout) {
     grid_->setHorizontalSpacing(12);
     grid_->setColumnStretch(listColumn, 1);
     grid_->setColumnStretch(valueColumn, 1);
@@ -34,7 +36,9 @@ FieldsFrame::FieldsFrame(const QString& caption, QWidget* parent)
     grid_->addWidget(lblField, labelRow, listColumn);
     grid_->addWidget(lblValue, labelRow, valueColumn);
     grid_->addWidget(lstFields_, valueRow, listColumn, restRow - valueRow + 1, 1);
-    grid_->addWidget(txtData_, valueRow, valueColumn);
+    valueLine_->setSpacing(8);
+    valueLine_->addWidget(txtData_);
+    grid_->addLayout(valueLine_, valueRow, valueColumn);
     lstFields_->setMinimumSize(170, 110);
     txtData_->setMinimumWidth(170);
 
@@ -69,7 +73,7 @@ void FieldsFrame::setValue(const QString& text) {
 }
 
 void FieldsFrame::addBesideValue(QWidget* widget) {
-    grid_->addWidget(widget, valueRow, besideColumn);
+    valueLine_->addWidget(widget);
 }
 
 void FieldsFrame::addBelowValue(QWidget* widget) {
@@ -77,7 +81,7 @@ void FieldsFrame::addBelowValue(QWidget* widget) {
 }
 
 void FieldsFrame::addBelow(QWidget* widget) {
-    grid_->addWidget(widget, belowRow, listColumn, 1, besideColumn - listColumn + 1);
+    grid_->addWidget(widget, belowRow, listColumn, 1, 2);
 }
 
 void FieldsFrame::lstFields_Click() {

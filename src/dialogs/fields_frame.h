@@ -4,6 +4,7 @@
 #include <QGroupBox>
 
 class QGridLayout;
+class QHBoxLayout;
 class QListWidget;
 
 namespace tarvel {
@@ -46,6 +47,7 @@ class FieldsFrame : public QGroupBox {
     QListWidget* lstFields_;
     FieldEdit* txtData_;
     QGridLayout* grid_;
+    QHBoxLayout* valueLine_;
 };
 
 } // namespace tarvel

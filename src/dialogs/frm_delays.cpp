@@ -19,6 +19,7 @@ FrmDelays::FrmDelays(SkinDocument& document, Prompts& prompts, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(fields_);
     column->addWidget(makeOk(), 0, Qt::AlignRight);
+    resize(460, 250);
 
     connect(fields_, &FieldsFrame::fieldClicked, this, [this](int field) {
         fields_->setValue(qtText(delayText(this->document().settings(), field)));

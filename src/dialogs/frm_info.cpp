@@ -33,6 +33,7 @@ FrmInfo::FrmInfo(SkinDocument& document, Prompts& prompts, QWidget* parent)
     column->addLayout(nameRow);
     column->addWidget(fields_);
     column->addWidget(makeOk(), 0, Qt::AlignRight);
+    resize(460, 310);
 
     connect(cmdAdd, &QPushButton::clicked, this, &FrmInfo::cmdAdd_Click);
     connect(txtName_, &QLineEdit::textChanged, this, [this](const QString& text) {

@@ -1,17 +1,20 @@
 // The Instructions dialog.
 #include "dialogs/frm_instructions.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace tarvel {
 
 namespace {
+
+constexpr int iconSize = 32; // pixels at 100 %
 
 QString instructions() {
     return QStringLiteral(
@@ -38,8 +41,33 @@ QPlainTextEdit* makeText(QWidget* parent) {
     const QSize lines = metrics.size(0, instructions());
     const int width = lines.width() + margins + metrics.averageCharWidth();
     const int height = text->document()->blockCount() * metrics.lineSpacing() + margins + 2;
-    text->setMinimumSize(width, height);
+    text->setFixedSize(width, height);
     return text;
+}
+
+QLayout* makeHeading(QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(12);
+    if (const QIcon icon = QApplication::windowIcon(); !icon.isNull()) {
+        auto* picture = new QLabel(parent);
+        picture->setPixmap(icon.pixmap(QSize(iconSize, iconSize), parent->devicePixelRatioF()));
+        row->addWidget(picture);
+    }
+    auto* heading = new QLabel(QObject::tr("Your skin is saved"), parent);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.25);
+    font.setBold(true);
+    heading->setFont(font);
+    row->addWidget(heading, 1);
+    return row;
+}
+
+QPushButton* makeButton(QWidget* parent) {
+    auto* button = new QPushButton(QObject::tr("OK"), parent);
+    button->setObjectName("Command1");
+    button->setAccessibleName(QObject::tr("Close the instructions"));
+    button->setDefault(true);
+    return button;
 }
 
 } // namespace
@@ -49,36 +77,15 @@ FrmInstructions::FrmInstructions(QWidget* parent)
     setObjectName("frmInstructions");
     setWindowTitle(tr("Instructions"));
 
-    auto* icon = new QLabel(this);
-    const int iconSize = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    icon->setPixmap(style()
-                        ->standardIcon(QStyle::SP_MessageBoxInformation, nullptr, this)
-                        .pixmap(QSize(iconSize, iconSize), devicePixelRatioF()));
-    auto* heading = new QLabel(tr("Your skin is saved"), this);
-    QFont font = heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.25);
-    font.setBold(true);
-    heading->setFont(font);
-    auto* headingRow = new QHBoxLayout;
-    headingRow->setSpacing(12);
-    headingRow->addWidget(icon);
-    headingRow->addWidget(heading, 1);
-
-    auto* button = new QPushButton(tr("OK"), this);
-    button->setObjectName("Command1");
-    button->setAccessibleName(tr("Close the instructions"));
-    button->setDefault(true);
+    QPushButton* button = makeButton(this);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
-    auto* buttonRow = new QHBoxLayout;
-    buttonRow->addStretch(1);
-    buttonRow->addWidget(button);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 18, 20, 16);
     column->setSpacing(14);
-    column->addLayout(headingRow);
+    column->addLayout(makeHeading(this));
     column->addWidget(makeText(this));
-    column->addLayout(buttonRow);
+    column->addWidget(button, 0, Qt::AlignRight);
     column->setSizeConstraint(QLayout::SetFixedSize);
     button->setFocus();
 }

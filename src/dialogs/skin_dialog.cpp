@@ -6,6 +6,12 @@
 
 namespace tarvel {
 
+QColor faintText(const QPalette& palette) {
+    QColor color = palette.color(QPalette::Text);
+    color.setAlphaF(0.6F);
+    return color;
+}
+
 SkinDialog::SkinDialog(const QString& name, const QString& title, SkinDocument& document,
                        Prompts& prompts, QWidget* parent)
     : QDialog(parent)

@@ -3,6 +3,7 @@
 
 #include "document/skin_document.h"
 
+#include <QColor>
 #include <QDialog>
 #include <QString>
 
@@ -19,6 +20,9 @@ Control* named(Control* control, const QString& name, const QString& accessibleN
     control->setAccessibleName(accessibleName);
     return control;
 }
+
+/// The colour of words that are less important than the text.
+[[nodiscard]] QColor faintText(const QPalette& palette);
 
 /// A modal dialog over settings of the document, which it shows when it is opened and changes with
 /// every change of a control. It lives hidden until exec() and may be shown again and again. Escape

@@ -1,9 +1,13 @@
 // Working a dialog in a test as a user does: by mouse and keys, controls found by name.
 #pragma once
 
+#include <QApplication>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QTest>
+#include <QUrl>
 
 namespace tarvel::test {
 
@@ -50,7 +54,30 @@ inline QStringList rowTexts(const QListWidget& list) {
     return texts;
 }
 
-/// The accessible names of a window's focusable controls that have none.
+/// Drags files over the middle of a widget and drops them there. False when they are not taken.
+inline bool dropFiles(QWidget& target, const QStringList& files) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& file : files) {
+        urls << QUrl::fromLocalFile(file);
+    }
+    data.setUrls(urls);
+    const QPoint at = target.rect().center();
+    QDragEnterEvent enter(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &enter);
+    if (!enter.isAccepted()) {
+        return false;
+    }
+    QDragMoveEvent move(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &move);
+    QDropEvent drop(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    drop.setDropAction(Qt::MoveAction);
+    QApplication::sendEvent(&target, &drop);
+    // A move would let the other side delete the file.
+    return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+}
+
+/// The focusable controls of a window that have no accessible name.
 inline QStringList withoutAccessibleName(const QWidget& window) {
     QStringList nameless;
     const auto controls = window.findChildren<QWidget*>();

@@ -1,105 +1,28 @@
 // The main window: start, menus, screens, markers, loading, saving, closing.
-#include "app/frm_main.h"
-#include "app/panel_slide.h"
-#include "app/text.h"
-#include "document/element_factory.h"
 #include "document/normalised.h"
-#include "skinfile/host_files.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
-#include "support/scripted_prompts.h"
+#include "support/editor.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QDir>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
-#include <QListView>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 
 using namespace tarvel;
-using tarvel::test::ScriptedPrompts;
+using namespace tarvel::test;
 using Answer = Prompts::Answer;
 
 namespace {
 
 constexpr auto examples = TARVEL_EXAMPLES_DIR;
 
-Element box(int opacity) {
-    Element element;
-    element.elementKind = ElementKind::Box;
-    element.elementControl.kind = ControlKind::box;
-    element.elementAlpha = static_cast<std::int16_t>(opacity);
-    element.label = boxLabel(opacity);
-    element.elementControl.width = 100;
-    element.elementControl.height = 50;
-    return element;
-}
-
-int addBox(FrmMain& window, int screen) {
-    window.document().setCurrentLayout(screen);
-    return window.document().addElement(box(80));
-}
-
-// A window with everything that it asks answered by a script.
-struct Editor {
-    QTemporaryDir folder;
-    ScriptedPrompts prompts;
-    FrmMain window{prompts, hostPathOf(folder.path())};
-
-    template <class Widget> Widget* find(const char* name) {
-        return window.findChild<Widget*>(QLatin1String(name));
-    }
-    QAction* entry(const char* name) { return find<QAction>(name); }
-    QRadioButton* optScreen(int screen) {
-        return window.findChild<QRadioButton*>(QStringLiteral("optScreen(%1)").arg(screen));
-    }
-    QListView* lst(int screen) {
-        return window.findChild<QListView*>(QStringLiteral("lst(%1)").arg(screen));
-    }
-    QString path(const QString& name) const { return folder.filePath(name); }
-    QString newFolder(const QString& name) const {
-        QDir(folder.path()).mkpath(name);
-        return path(name);
-    }
-    void nameSkin(const std::string& name) {
-        window.document().editSettings([&](SkinSettings& settings) { settings.skinName = name; });
-    }
-    void selectRow(int screen, int row) {
-        lst(screen)->setCurrentIndex(lst(screen)->model()->index(row, 0));
-    }
-};
-
-// Shows the window and waits until its panels have slid in.
-void showWhole(FrmMain& window) {
-    QSignalSpy finished(window.findChild<PanelSlide*>(), &PanelSlide::finished);
-    window.show();
-    QVERIFY(finished.wait(5000));
-}
-
-// Closes the next modal dialog with Enter and notes its name.
-void closeNextDialog(QStringList& seen) {
-    auto* poll = new QTimer(qApp);
-    QObject::connect(poll, &QTimer::timeout, poll, [poll, &seen] {
-        if (QWidget* dialog = QApplication::activeModalWidget()) {
-            seen << dialog->objectName();
-            poll->deleteLater();
-            poll->stop();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        }
-    });
-    poll->start(10);
+int addBox(Editor& editor, int screen) {
+    return editor.add(boxAt(0, 0, 100, 50), screen);
 }
 
 } // namespace
@@ -149,8 +72,14 @@ void FrmMainTest::startsOnMenuWithAnEmptyDocument() {
     QCOMPARE(editor.window.document() == SkinDocument(), true);
     QVERIFY(editor.optScreen(1)->isChecked());
     QCOMPARE(editor.find<QLabel>("lblPos")->text(), QStringLiteral("X: 0 Y: 0"));
-    QVERIFY(editor.find<QWidget>("frmInfo") != nullptr);
-    QVERIFY(!editor.find<QWidget>("frmInfo")->isVisible());
+    for (const char* dialog : {"frmInfo", "frmColors", "frmResources", "frmDelays", "frmMusic"}) {
+        QVERIFY(editor.find<QWidget>(dialog) != nullptr);
+        QVERIFY(!editor.find<QWidget>(dialog)->isVisible());
+    }
+    auto* cmdSave = editor.find<QPushButton>("cmdSave");
+    QVERIFY(!cmdSave->isVisible());
+    cmdSave->click();
+    QCOMPARE(editor.prompts.messages, QStringList());
 }
 
 void FrmMainTest::titleShowsTheVersionRecord() {
@@ -272,9 +201,9 @@ void FrmMainTest::panelsSlideToTheirPlaces() {
 
 void FrmMainTest::switchingShowsOnlyThatScreen() {
     Editor editor;
-    showWhole(editor.window);
-    addBox(editor.window, 0);
-    addBox(editor.window, 1);
+    editor.show();
+    addBox(editor, 0);
+    addBox(editor, 1);
     editor.selectRow(1, 0);
     QVERIFY(editor.window.curNum() != 0);
     QTest::mouseClick(editor.optScreen(0), Qt::LeftButton);
@@ -302,7 +231,7 @@ void FrmMainTest::screensWithElementsAreBold() {
     Editor editor;
     for (int screen = 0; screen < screenCount; ++screen) {
         QVERIFY(!editor.optScreen(screen)->font().bold());
-        addBox(editor.window, screen);
+        addBox(editor, screen);
         QCOMPARE(editor.optScreen(screen)->font().bold(), screen != 5);
     }
     editor.window.document().setScreenElementCount(4, 0);
@@ -311,7 +240,7 @@ void FrmMainTest::screensWithElementsAreBold() {
 
 void FrmMainTest::behaviourMarksFollowTheSelection() {
     Editor editor;
-    const int id = addBox(editor.window, 1);
+    const int id = addBox(editor, 1);
     editor.window.document().editElement(id, [](Element& element) {
         element.elementTimers[2] = 500;
         element.elementCondition = "ItemEntry";
@@ -350,7 +279,7 @@ void FrmMainTest::behaviourMarksFollowTheSelection() {
 
 void FrmMainTest::readoutFollowsThePointer() {
     Editor editor;
-    showWhole(editor.window);
+    editor.show();
     auto* pic = editor.find<QWidget>("Pic");
     QTest::mouseMove(pic, QPoint(10, 20));
     QTest::mouseMove(pic, QPoint(123, 45));
@@ -359,7 +288,7 @@ void FrmMainTest::readoutFollowsThePointer() {
 
 void FrmMainTest::positionOfTheSelection() {
     Editor editor;
-    const int id = addBox(editor.window, 1);
+    const int id = addBox(editor, 1);
     Element line;
     line.elementKind = ElementKind::Line;
     line.elementControl.kind = ControlKind::lin;
@@ -439,7 +368,7 @@ void FrmMainTest::loadOfAFolderWithoutASkin() {
 
 void FrmMainTest::loadOfABrokenSkinLeavesTheDocument() {
     Editor editor;
-    addBox(editor.window, 2);
+    addBox(editor, 2);
     editor.window.optScreen_Click(1);
     const SkinDocument before = editor.window.document();
     const QString folder = editor.newFolder("broken");
@@ -537,7 +466,7 @@ void FrmMainTest::saveStopsWhenACopyFails() {
 void FrmMainTest::viewXmlShowsTheText() {
     Editor editor;
     editor.nameSkin("Nova");
-    addBox(editor.window, 2);
+    addBox(editor, 2);
     editor.entry("mnuView")->trigger();
     auto* edit = editor.find<QPlainTextEdit>("txtXml");
     QVERIFY(edit != nullptr);
@@ -567,7 +496,7 @@ void FrmMainTest::backgroundIsLoadedAndUnloaded() {
 
 void FrmMainTest::inertEntries() {
     Editor editor;
-    addBox(editor.window, 1);
+    addBox(editor, 1);
     const SkinDocument before = editor.window.document();
     auto* cover = editor.entry("mnuCover");
     QVERIFY(!cover->isChecked());
@@ -628,7 +557,7 @@ void FrmMainTest::closeSavingNamesTheSkin() {
 void FrmMainTest::closeSavingWithCancelledFolder() {
     Editor editor;
     editor.window.show();
-    addBox(editor.window, 1);
+    addBox(editor, 1);
     const SkinDocument before = editor.window.document();
     editor.prompts.answers << Answer::Yes;
     QVERIFY(!editor.window.close());
@@ -649,8 +578,8 @@ void FrmMainTest::closeSavingWithAFailedSave() {
 
 void FrmMainTest::stopVidsOnAScreenWithoutVideos() {
     Editor editor;
-    showWhole(editor.window);
-    addBox(editor.window, 1);
+    editor.show();
+    addBox(editor, 1);
     const SkinDocument before = editor.window.document();
     QTest::mouseClick(editor.find<QPushButton>("cmdStop"), Qt::LeftButton);
     QVERIFY(editor.window.document() == before);

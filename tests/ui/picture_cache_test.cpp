@@ -162,7 +162,7 @@ void PictureCacheTest::keepsWhatItDecoded() {
     QVERIFY(QFile::remove(path));
     QVERIFY(cache.stretched(file, {20, 20}).state == Picture::State::ready);
     QVERIFY(cache.unscaled(file).state == Picture::State::ready);
-    // Another size comes from the original, as while an element is being resized.
+    // Another size needs no file either, as while an element is being resized.
     QVERIFY(cache.stretched(file, {21, 20}).state == Picture::State::ready);
 }
 

@@ -90,6 +90,15 @@ Drawing fills(const std::vector<std::pair<QRect, QColor>>& rects) {
     };
 }
 
+void addRow(const char* name, const Elements& elements, const Drawing& expected) {
+    QTest::newRow(name) << elements << expected;
+}
+
+void addColumns() {
+    QTest::addColumn<Elements>("elements");
+    QTest::addColumn<Drawing>("expected");
+}
+
 // The smallest rectangle around everything that is not black.
 QRect painting(const QImage& image) {
     QRect result;
@@ -109,8 +118,12 @@ class SurfacePainterTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void paintsAsDrawnByHand_data();
-    void paintsAsDrawnByHand();
+    void paintsBoxes_data();
+    void paintsBoxes() { comparesWithDrawing(); }
+    void paintsLines_data();
+    void paintsLines() { comparesWithDrawing(); }
+    void paintsTexts_data();
+    void paintsTexts() { comparesWithDrawing(); }
     void rowsArePaintedBackToFront();
     void paintsTheRowsOfOneScreen();
     void textStaysWithinItsElement();
@@ -129,71 +142,76 @@ class SurfacePainterTest : public QObject {
     void boundsHoldEverythingPainted();
 
   private:
+    void comparesWithDrawing();
+
     PictureCache pictures_;
     SurfacePainter surface_{pictures_};
 };
 
-void SurfacePainterTest::paintsAsDrawnByHand_data() {
-    QTest::addColumn<Elements>("elements");
-    QTest::addColumn<Drawing>("expected");
+void SurfacePainterTest::paintsBoxes_data() {
+    addColumns();
     const QRect rect(20, 30, 100, 50);
-    const QRectF textRect(20, 30, 200, 60);
-    const auto row = [](const char* name, const Elements& elements, const Drawing& expected) {
-        QTest::newRow(name) << elements << expected;
-    };
-    row("nothing", {}, fills({}));
-    row("opaque box", {boxOf(rect, red)}, fills({{rect, Qt::red}}));
-    row("half opaque box", {boxOf(rect, red, 50)}, fills({{rect, QColor(255, 0, 0, 128)}}));
-    row("box without opacity", {boxOf(rect, red, 0)}, fills({}));
-    row("negative opacity counts as none", {boxOf(rect, red, -5)}, fills({}));
-    row("opacity above 100 counts as 100", {boxOf(rect, red, 300)}, fills({{rect, Qt::red}}));
-    row("box without fill and border", {transparent(boxOf(rect, red))}, fills({}));
-    row("border lies within the box and is opaque", {bordered(boxOf(rect, red, 0), green)},
-        fills({{{20, 30, 100, 1}, Qt::green},
-               {{20, 79, 100, 1}, Qt::green},
-               {{20, 30, 1, 50}, Qt::green},
-               {{119, 30, 1, 50}, Qt::green}}));
-    row("fill and border", {bordered(boxOf(rect, red, 50), green)},
-        fills({{rect, Qt::green},
-               {{21, 31, 98, 48}, Qt::black},
-               {{21, 31, 98, 48}, {255, 0, 0, 128}}}));
-    row("box of two pixels is all border", {bordered(boxOf({5, 5, 2, 2}, red), green)},
-        fills({{{5, 5, 2, 2}, Qt::green}}));
-    row("edges between pixels go to the nearest", {boxOf({20.4, 29.6, 99.9, 50.2}, red)},
-        fills({{rect, Qt::red}}));
-    row("no width", {boxOf({20, 30, 0, 50}, red)}, fills({}));
-    row("negative height", {boxOf({20, 30, 50, -10}, red)}, fills({}));
-    row("outside the screen", {boxOf({700, 30, 50, 10}, red)}, fills({}));
-    row("level line, both ends included", {lineOf({10, 20, 50, 20}, green)},
-        fills({{{10, 20, 41, 1}, Qt::green}}));
-    row("upright line from the lower end", {lineOf({10, 90, 10, 20}, green)},
-        fills({{{10, 20, 1, 71}, Qt::green}}));
-    row("line of no length", {lineOf({10, 20, 10, 20}, green)},
-        fills({{{10, 20, 1, 1}, Qt::green}}));
-    row("line that is half transparent in the document",
-        {withOpacity(lineOf({1, 2, 9, 2}, red), 50)}, fills({{{1, 2, 9, 1}, Qt::red}}));
-    row("slanted line", {lineOf({10, 20, 90, 55}, green)}, [](QPainter& painter) {
+    addRow("nothing", {}, fills({}));
+    addRow("opaque box", {boxOf(rect, red)}, fills({{rect, Qt::red}}));
+    addRow("half opaque box", {boxOf(rect, red, 50)}, fills({{rect, QColor(255, 0, 0, 128)}}));
+    addRow("box without opacity", {boxOf(rect, red, 0)}, fills({}));
+    addRow("negative opacity counts as none", {boxOf(rect, red, -5)}, fills({}));
+    addRow("opacity above 100 counts as 100", {boxOf(rect, red, 300)}, fills({{rect, Qt::red}}));
+    addRow("box without fill and border", {transparent(boxOf(rect, red))}, fills({}));
+    addRow("border lies within the box and is opaque", {bordered(boxOf(rect, red, 0), green)},
+           fills({{{20, 30, 100, 1}, Qt::green},
+                  {{20, 79, 100, 1}, Qt::green},
+                  {{20, 30, 1, 50}, Qt::green},
+                  {{119, 30, 1, 50}, Qt::green}}));
+    addRow("fill and border", {bordered(boxOf(rect, red, 50), green)},
+           fills({{rect, Qt::green},
+                  {{21, 31, 98, 48}, Qt::black},
+                  {{21, 31, 98, 48}, {255, 0, 0, 128}}}));
+    addRow("box of two pixels is all border", {bordered(boxOf({5, 5, 2, 2}, red), green)},
+           fills({{{5, 5, 2, 2}, Qt::green}}));
+    addRow("edges between pixels go to the nearest", {boxOf({20.4, 29.6, 99.9, 50.2}, red)},
+           fills({{rect, Qt::red}}));
+    addRow("no width", {boxOf({20, 30, 0, 50}, red)}, fills({}));
+    addRow("negative height", {boxOf({20, 30, 50, -10}, red)}, fills({}));
+    addRow("outside the screen", {boxOf({700, 30, 50, 10}, red)}, fills({}));
+}
+
+void SurfacePainterTest::paintsLines_data() {
+    addColumns();
+    addRow("level line, both ends included", {lineOf({10, 20, 50, 20}, green)},
+           fills({{{10, 20, 41, 1}, Qt::green}}));
+    addRow("upright line from the lower end", {lineOf({10, 90, 10, 20}, green)},
+           fills({{{10, 20, 1, 71}, Qt::green}}));
+    addRow("line of no length", {lineOf({10, 20, 10, 20}, green)},
+           fills({{{10, 20, 1, 1}, Qt::green}}));
+    addRow("line that is half transparent in the document",
+           {withOpacity(lineOf({1, 2, 9, 2}, red), 50)}, fills({{{1, 2, 9, 1}, Qt::red}}));
+    addRow("slanted line", {lineOf({10, 20, 90, 55}, green)}, [](QPainter& painter) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::green);
         painter.drawLine(QLineF(10.5, 20.5, 90.5, 55.5));
     });
-    row("text", {textOf(textRect, "DriveCFree", red)},
-        textDrawing(textRect, "DriveCFree", Qt::red));
-    row("half opaque text", {withOpacity(textOf(textRect, "Time", red), 50)},
-        textDrawing(textRect, "Time", QColor(255, 0, 0, 128)));
-    row("text to the right", {aligned(textOf(textRect, "Date", red), TextAlignment::right)},
-        textDrawing(textRect, "Date", Qt::red, {}, Qt::AlignRight));
-    row("text in the middle", {aligned(textOf(textRect, "Date", red), TextAlignment::center)},
-        textDrawing(textRect, "Date", Qt::red, {}, Qt::AlignHCenter));
-    row("markup is not read", {textOf(textRect, "<b>x</b> & y", red)},
-        textDrawing(textRect, "<b>x</b> & y", Qt::red));
-    const FontChoice large{.size = 20, .bold = true, .underline = true};
-    row("font", {withFont(textOf(textRect, "MAC", red), large)},
-        textDrawing(textRect, "MAC", Qt::red, large));
-    row("empty caption", {textOf(textRect, "", red)}, fills({}));
 }
 
-void SurfacePainterTest::paintsAsDrawnByHand() {
+void SurfacePainterTest::paintsTexts_data() {
+    addColumns();
+    const QRectF rect(20, 30, 200, 60);
+    addRow("text", {textOf(rect, "DriveCFree", red)}, textDrawing(rect, "DriveCFree", Qt::red));
+    addRow("half opaque text", {withOpacity(textOf(rect, "Time", red), 50)},
+           textDrawing(rect, "Time", QColor(255, 0, 0, 128)));
+    addRow("text to the right", {aligned(textOf(rect, "Date", red), TextAlignment::right)},
+           textDrawing(rect, "Date", Qt::red, {}, Qt::AlignRight));
+    addRow("text in the middle", {aligned(textOf(rect, "Date", red), TextAlignment::center)},
+           textDrawing(rect, "Date", Qt::red, {}, Qt::AlignHCenter));
+    addRow("markup is not read", {textOf(rect, "<b>x</b> & y", red)},
+           textDrawing(rect, "<b>x</b> & y", Qt::red));
+    const FontChoice large{.size = 20, .bold = true, .underline = true};
+    addRow("font", {withFont(textOf(rect, "MAC", red), large)},
+           textDrawing(rect, "MAC", Qt::red, large));
+    addRow("empty caption", {textOf(rect, "", red)}, fills({}));
+}
+
+void SurfacePainterTest::comparesWithDrawing() {
     QFETCH(Elements, elements);
     QFETCH(Drawing, expected);
     QCOMPARE(painted(surface_, documentOf(elements)), drawn(expected));

@@ -1,0 +1,53 @@
+// The panels for modifiers, timers and condition, of which one at a time lies over the window.
+#pragma once
+
+#include "document/skin_document.h"
+
+#include <QObject>
+
+#include <array>
+#include <filesystem>
+
+class QWidget;
+
+namespace tarvel {
+
+class BehaviourPanel;
+class Prompts;
+class WindowGate;
+
+/// Opens a panel over a place of the window and lets nothing else be worked with until it closes.
+/// Document, prompts and gate are not owned and outlive it; the panels are children of `place`'s
+/// parent.
+class BehaviourPanels : public QObject {
+    Q_OBJECT
+
+  public:
+    static constexpr std::size_t count = 3;
+
+    /// `place` is the widget that an open panel covers. The modifier catalogue is looked for in
+    /// `programFolder`.
+    BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, QWidget& place,
+                    const std::filesystem::path& programFolder);
+
+    /// Opens panel 0 modifiers, 1 timers or 2 condition for an element; for id 0 nothing happens.
+    void cmdModifier_Click(int index, int elementId);
+    [[nodiscard]] bool isOpen() const;
+
+  signals:
+    /// A panel was closed by its OK button.
+    void closed();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void place(BehaviourPanel& panel);
+    void panelClosed();
+
+    WindowGate& gate_;
+    QWidget& place_;
+    std::array<BehaviourPanel*, count> panels_{};
+};
+
+} // namespace tarvel

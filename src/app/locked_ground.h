@@ -1,0 +1,34 @@
+// Shows the locked elements of a screen as the flat ground under the others.
+#pragma once
+
+#include "document/skin_document.h"
+
+#include <QObject>
+#include <QTimer>
+
+namespace tarvel {
+
+class Pic;
+
+/// Keeps the surface's flat ground in line with the document's locks. Owns neither; both outlive
+/// it.
+class LockedGround : public QObject {
+    Q_OBJECT
+
+  public:
+    LockedGround(const SkinDocument& document, Pic& pic);
+
+    /// To be told of every change of the document.
+    void documentChanged(const DocumentChange& change);
+
+  private:
+    void refresh();
+
+    const SkinDocument& document_;
+    Pic& pic_;
+    int screen_ = -1;
+    int locked_ = 0;
+    QTimer later_; // gathers the changes of one command
+};
+
+} // namespace tarvel

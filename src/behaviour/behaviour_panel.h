@@ -1,0 +1,59 @@
+// What the three panels for an element's behaviour have in common: heading, OK, opening and
+// closing.
+#pragma once
+
+#include "document/skin_document.h"
+
+#include <QFrame>
+#include <QString>
+
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+
+namespace tarvel {
+
+/// A panel that lies over the disabled window while it is open. It is hidden until open(), and
+/// closes through its OK button only, or Enter; Escape does nothing. The document is not owned and
+/// outlives the panel.
+class BehaviourPanel : public QFrame {
+    Q_OBJECT
+
+  public:
+    /// Shows the panel for an element. Nothing happens for an id without an element.
+    void open(int elementId);
+
+  signals:
+    /// The panel has stored what it shows and is hidden.
+    void closed();
+
+  protected:
+    BehaviourPanel(SkinDocument& document, const QString& name, const QString& heading,
+                   QWidget* parent);
+
+    /// Fills the controls from the element.
+    virtual void fill(const Element& element) = 0;
+    /// Takes what the controls show into the element.
+    virtual void store(Element& element) const = 0;
+
+    /// The panel's rows, below the heading.
+    [[nodiscard]] QVBoxLayout& rows() { return *rows_; }
+    /// Ends the rows with the OK button, which stays at the bottom of a taller panel.
+    void addOk(const QString& name, const QString& accessibleName);
+    /// The control that has the focus after opening.
+    void setFirstControl(QWidget* control) { firstControl_ = control; }
+
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void ok();
+
+    SkinDocument& document_;
+    int elementId_ = 0;
+    QVBoxLayout* rows_;
+    QPushButton* cmdOK_ = nullptr;
+    QWidget* firstControl_ = nullptr;
+};
+
+} // namespace tarvel

@@ -1,0 +1,33 @@
+// The marks of the selected element on the surface: a box with handles, or two line ends.
+#pragma once
+
+#include "document/element.h"
+
+#include <QWidget>
+
+namespace tarvel {
+
+/// Owns nothing; the marks are children of the surface and let the pointer through to it.
+class SelectionMarks : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit SelectionMarks(QWidget& surface);
+
+    /// Puts the marks on an element: `fraSel` for boxes, images, texts and menus.
+    void setSel(const Element& element);
+    /// `fraResize1` and `fraResize2` for a line.
+    void setSelLine(const Element& element);
+    /// Whichever of the two suits the element.
+    void setCurrentSel(const Element& element);
+    void hideSels();
+    /// Whether the selection box is shown, which arrow keys ask for.
+    [[nodiscard]] bool isBoxShown() const;
+
+  private:
+    QWidget* fraSel_;
+    QWidget* fraResize1_;
+    QWidget* fraResize2_;
+};
+
+} // namespace tarvel

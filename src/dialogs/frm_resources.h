@@ -1,0 +1,59 @@
+// The dialog for the skin's resources.
+#pragma once
+
+#include "dialogs/skin_dialog.h"
+
+class QListWidget;
+
+namespace tarvel {
+
+class CustomFrame;
+class PathLabel;
+class PictureCache;
+class PresetFrame;
+class ResourcePreview;
+class ResourceThumbnails;
+
+/// Lists the resources with a small picture of each, shows the selected one in large and adds new
+/// ones, from files or presets. Files can be dropped anywhere onto it.
+class FrmResources : public SkinDialog {
+    Q_OBJECT
+
+  public:
+    /// `pictures` outlives the dialog.
+    FrmResources(SkinDocument& document, Prompts& prompts, PictureCache& pictures,
+                 QWidget* parent = nullptr);
+
+    /// Fills in a file of the host, as browsing to it does. May be called before exec().
+    void takeFile(const QString& file);
+
+  protected:
+    void readDocument() override;
+    void hideEvent(QHideEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void buildColumns();
+    QWidget* makeCurrentFrame();
+    QWidget* makePreviewFrame();
+    void showSource(bool preset);
+    [[nodiscard]] int addedHeight() const;
+    void resizeForm(int added);
+    void listNewResources();
+    void selectLast();
+    void finishAdding(bool added);
+    void lstRes_Click();
+    void preview(const Resource& resource);
+
+    CustomFrame* fraCustom_;
+    PresetFrame* fraPreset_;
+    QListWidget* lstRes_;
+    ResourceThumbnails* thumbnails_;
+    ResourcePreview* imgPreview_;
+    PathLabel* lblPreview_;
+    QPushButton* cmdOK_;
+    int fitted_ = 0; // the height that resizeForm found last
+};
+
+} // namespace tarvel

@@ -1,0 +1,100 @@
+// The two ways to add a resource: from a file, or out of what the dashboard supplies.
+#pragma once
+
+#include "document/skin_document.h"
+
+#include <QGroupBox>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+
+namespace tarvel {
+
+class PathLabel;
+class PictureCache;
+class Prompts;
+
+/// The choice between the two ways. It stands in both frames and shows the same in both.
+class SourceButtons : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// The names optCustom and optPreset get the suffix.
+    explicit SourceButtons(const QString& suffix, QWidget* parent = nullptr);
+
+    /// Shows a choice without telling of it.
+    void setPreset(bool preset);
+    /// Gives the focus to the chosen one.
+    void focusChosen();
+
+  signals:
+    void chosen(bool preset);
+
+  private:
+    QRadioButton* optCustom_;
+    QRadioButton* optPreset_;
+};
+
+/// fraCustom: adds files.
+class CustomFrame : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    /// `owner` is the window that questions stand over.
+    CustomFrame(SkinDocument& document, Prompts& prompts, QWidget* owner);
+
+    /// Takes a file of the host as if it had been browsed to.
+    void takeFile(const QString& file);
+    [[nodiscard]] SourceButtons* source() const { return source_; }
+
+  signals:
+    void fileTaken(const QString& file);
+    /// Add was pressed, and not refused.
+    void done(bool added);
+
+  private:
+    void buildGrid();
+    void cmdBrowse_Click();
+    void cmdAdd_Click();
+
+    SkinDocument& document_;
+    Prompts& prompts_;
+    QWidget* owner_;
+    SourceButtons* source_;
+    QLineEdit* txtRes_;
+    PathLabel* lblFile_;
+    QPushButton* cmdBrowse_;
+    QPushButton* cmdAdd_;
+};
+
+/// fraPreset: adds presets.
+class PresetFrame : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget* parent = nullptr);
+
+    [[nodiscard]] SourceButtons* source() const { return source_; }
+
+  signals:
+    /// Add was pressed, and the name is not taken.
+    void done();
+
+  private:
+    void buildGrid(PictureCache& pictures);
+    void lstResDef_Click();
+    void cmdAddDef_Click();
+    [[nodiscard]] int selectedPreset() const;
+
+    SkinDocument& document_;
+    SourceButtons* source_;
+    QListWidget* lstResDef_;
+    QLabel* lblDesc_;
+    QLineEdit* txtResDef_;
+    QPushButton* cmdAddDef_;
+};
+
+} // namespace tarvel

@@ -1,0 +1,108 @@
+// Painting of colour wells.
+#include "properties/color_well.h"
+
+#include "app/prompts.h"
+#include "app/text.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int wellWidth = 44; // pixels
+constexpr int square = 5;     // of the checkerboard, in pixels
+constexpr double corner = 3;
+constexpr QColor lightSquare{236, 236, 236};
+constexpr QColor darkSquare{196, 196, 196};
+constexpr QColor stroke{200, 40, 40};
+
+void paintClear(QPainter& painter, const QRect& rect) {
+    painter.fillRect(rect, lightSquare);
+    for (int row = 0; row * square < rect.height(); ++row) {
+        for (int column = row % 2; column * square < rect.width(); column += 2) {
+            painter.fillRect(rect.left() + column * square, rect.top() + row * square, square,
+                             square, darkSquare);
+        }
+    }
+    painter.setPen(QPen(stroke, 1.5));
+    painter.drawLine(QRectF(rect).bottomLeft(), QRectF(rect).topRight());
+}
+
+} // namespace
+
+ColorWell::ColorWell(QWidget* parent)
+    : QAbstractButton(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setCursor(Qt::PointingHandCursor);
+    setSwatch({});
+}
+
+void ColorWell::setSwatch(const Swatch& swatch) {
+    swatch_ = swatch;
+    setToolTip(tr("%1, click to change").arg(valueText()));
+    setAccessibleDescription(valueText());
+    update();
+}
+
+QString ColorWell::valueText() const {
+    return swatch_.fillStyle == FillStyle::transparent
+               ? tr("none")
+               : QLatin1Char('#') + qtText(rgbHex(swatch_.color));
+}
+
+QSize ColorWell::sizeHint() const {
+    return {wellWidth, QFontMetrics(font()).height() + 8};
+}
+
+void ColorWell::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool strong = isEnabled() && (hasFocus() || underMouse());
+    const double pen = strong && hasFocus() ? 2 : 1;
+    const QRectF edge = QRectF(rect()).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2);
+    QPainterPath shape;
+    shape.addRoundedRect(edge, corner, corner);
+    painter.setOpacity(isEnabled() ? 1 : 0.4);
+    painter.save();
+    painter.setClipPath(shape);
+    if (swatch_.fillStyle == FillStyle::transparent) {
+        paintClear(painter, rect());
+    } else {
+        painter.fillRect(rect(), qtColor(swatch_.color));
+    }
+    painter.restore();
+    QColor frame = palette().color(QPalette::WindowText);
+    frame.setAlphaF(0.6F);
+    painter.setPen(QPen(strong ? palette().color(QPalette::Highlight) : frame, pen));
+    painter.drawPath(shape);
+}
+
+void ColorWell::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+    } else {
+        QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void ColorWell::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void ColorWell::leaveEvent(QEvent* event) {
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+std::optional<ColorNumber> askColor(Prompts& prompts, const QWidget& control, ColorNumber initial) {
+    const auto chosen = prompts.color(control.window(), qtColor(initial));
+    return chosen ? std::optional(colorNumber(*chosen)) : std::nullopt;
+}
+
+} // namespace tarvel

@@ -1,0 +1,125 @@
+// The main window for tests, with everything that it asks answered by a script.
+#pragma once
+
+#include "app/frm_main.h"
+#include "app/panel_slide.h"
+#include "app/text.h"
+#include "document/element_factory.h"
+#include "skinfile/host_files.h"
+#include "support/scripted_prompts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QListView>
+#include <QMenu>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+namespace tarvel::test {
+
+/// A filled box at a place, in skin pixels.
+inline Element boxAt(float left, float top, float width, float height, int opacity = 80) {
+    Element element;
+    element.elementKind = ElementKind::Box;
+    element.elementAlpha = static_cast<std::int16_t>(opacity);
+    element.label = boxLabel(opacity);
+    ElementControl& control = element.elementControl;
+    control.kind = ControlKind::box;
+    control.fillStyle = FillStyle::solid;
+    control.fillColor = makeColor(200, 40, 40);
+    control.left = left;
+    control.top = top;
+    control.width = width;
+    control.height = height;
+    return element;
+}
+
+struct Editor {
+    QTemporaryDir folder;
+    ScriptedPrompts prompts;
+    FrmMain window{prompts, hostPathOf(folder.path())};
+
+    SkinDocument& document() { return window.document(); }
+    template <class Widget> Widget* find(const char* name) {
+        return window.findChild<Widget*>(QLatin1String(name));
+    }
+    QAction* entry(const char* name) { return find<QAction>(name); }
+    QWidget* pic() { return find<QWidget>("Pic"); }
+    QRadioButton* optScreen(int screen) {
+        return window.findChild<QRadioButton*>(QStringLiteral("optScreen(%1)").arg(screen));
+    }
+    QListView* lst(int screen) {
+        return window.findChild<QListView*>(QStringLiteral("lst(%1)").arg(screen));
+    }
+    QString path(const QString& name) const { return folder.filePath(name); }
+    QString newFolder(const QString& name) const {
+        QDir(folder.path()).mkpath(name);
+        return path(name);
+    }
+    void nameSkin(const std::string& name) {
+        document().editSettings([&](SkinSettings& settings) { settings.skinName = name; });
+    }
+    void selectRow(int screen, int row) {
+        lst(screen)->setCurrentIndex(lst(screen)->model()->index(row, 0));
+    }
+    int selectedRow(int screen) {
+        const auto rows = lst(screen)->selectionModel()->selectedIndexes();
+        return rows.isEmpty() ? -1 : rows.front().row();
+    }
+    int add(Element element, int screen = 1) {
+        document().setCurrentLayout(screen);
+        return document().addElement(std::move(element));
+    }
+    const ElementControl& control(int id) { return document().element(id).elementControl; }
+
+    /// Shows the window and waits until its panels have slid in.
+    void show() {
+        QSignalSpy finished(window.findChild<PanelSlide*>(), &PanelSlide::finished);
+        window.show();
+        QVERIFY(finished.wait(5000));
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+    void press(QPoint at) { QTest::mousePress(pic(), Qt::LeftButton, {}, at); }
+    void release(QPoint at) { QTest::mouseRelease(pic(), Qt::LeftButton, {}, at); }
+    void click(QPoint at) { QTest::mouseClick(pic(), Qt::LeftButton, {}, at); }
+    /// Moves the pointer with the left button held.
+    void drag(QPoint to, Qt::KeyboardModifiers keys = {}) {
+        QMouseEvent move(QEvent::MouseMove, to, pic()->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, keys);
+        QApplication::sendEvent(pic(), &move);
+    }
+    void pressDragRelease(QPoint from, QPoint to) {
+        press(from);
+        drag((from + to) / 2);
+        drag(to);
+        release(to);
+    }
+    void key(Qt::Key which, Qt::KeyboardModifiers keys = {}) {
+        QTest::keyClick(pic(), which, keys);
+    }
+    /// Chooses a tool with the mouse and waits until its frames are shown.
+    void chooseTool(const char* name) {
+        QTest::mouseClick(find<QWidget>(name), Qt::LeftButton);
+        QTRY_VERIFY(find<QWidget>("picBox")->isHidden());
+    }
+};
+
+/// Closes the next modal dialog with Enter and notes its name.
+inline void closeNextDialog(QStringList& seen) {
+    auto* poll = new QTimer(qApp);
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, &seen] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            seen << dialog->objectName();
+            poll->deleteLater();
+            poll->stop();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        }
+    });
+    poll->start(10);
+}
+
+} // namespace tarvel::test

@@ -1,0 +1,721 @@
+// The Music dialog.
+#include "dialogs/frm_music.h"
+#include "dialogs/music_list.h"
+#include "dialogs/play_button.h"
+#include "support/dialog_support.h"
+#include "support/scripted_prompts.h"
+#include "support/temporary_folder.h"
+
+#include <QAudioDevice>
+#include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
+#include <QMediaDevices>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTimer>
+
+namespace tarvel {
+
+using test::click;
+using test::clickRow;
+using test::control;
+
+namespace {
+
+// The four options, and no files.
+MusicSettings options(bool yes, bool global, bool custom, bool random) {
+    MusicSettings settings;
+    settings.optYesMusic = yes;
+    settings.chkGlobal = global;
+    settings.chkCustom = custom;
+    settings.chkRandom = random;
+    return settings;
+}
+
+constexpr int settled = Easing::duration + 150; // milliseconds
+
+// Notes what it is told to play, and tells what a test wants.
+class FakePlayer : public TrackPlayer {
+  public:
+    explicit FakePlayer(QStringList& log)
+        : log_(log) {}
+
+    void play(const QString& file) override {
+        log_ << "play " + file;
+        setState({.playing = true, .file = file});
+    }
+    void stop() override {
+        log_ << "stop";
+        setState({});
+    }
+    void tell(const State& state) { setState(state); }
+
+  private:
+    QStringList& log_;
+};
+
+QString shown(const std::filesystem::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+// Where everything stands, to compare states of the dialog.
+QStringList geometries(const QWidget& dialog) {
+    QStringList all;
+    for (const char* name : {"optYesMusic", "optNoMusic", "fraStuff", "chkGlobal", "chkCustom",
+                             "fraMusic", "cmdAdd", "lstMusic", "chkRandom", "cmdOK"}) {
+        const auto& widget = control<QWidget>(dialog, QLatin1String(name));
+        if (widget.isVisible()) {
+            const QRect at = widget.geometry();
+            all << QStringLiteral("%1 %2,%3 %4x%5")
+                       .arg(QLatin1String(name))
+                       .arg(at.x())
+                       .arg(at.y())
+                       .arg(at.width())
+                       .arg(at.height());
+        }
+    }
+    return all << QStringLiteral("form %1x%2").arg(dialog.width()).arg(dialog.height());
+}
+
+int bottomOf(const QWidget& dialog, const char* name) {
+    const auto& widget = control<QWidget>(dialog, QLatin1String(name));
+    return widget.mapTo(&dialog, QPoint(0, widget.height())).y();
+}
+
+int topOf(const QWidget& dialog, const char* name) {
+    const auto& widget = control<QWidget>(dialog, QLatin1String(name));
+    return widget.mapTo(&dialog, QPoint(0, 0)).y();
+}
+
+} // namespace
+
+class FrmMusicTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init();
+    void showsItsTexts();
+    void startsWithoutMusic();
+    void showsTheDocumentEachTimeItIsOpened();
+    void optionsGoToTheDocumentAtOnce();
+    void controlsStandBelowOneAnother_data();
+    void controlsStandBelowOneAnother();
+    void growsAndShrinksToTheExactPlaces();
+    void growsWhileEventsRun();
+    void furtherClicksWhileItGrowsAreHarmless();
+    void closingWhileItGrowsIsHarmless();
+    void severalFilesAreAdded();
+    void nothingIsAdded_data();
+    void nothingIsAdded();
+    void deleteRemovesTheEntryOnly();
+    void rightClickRemovesTheEntryOnly();
+    void removingWithoutASelectionDoesNothing();
+    void removalGoesOnWithTheNextEntry();
+    void droppedMusicIsAdded();
+    void otherDropsAreRefused();
+    void missingFilesAreMarked();
+    void selectedFileIsPlayed();
+    void otherFileTakesThePlace();
+    void playButtonNeedsAFile();
+    void progressAndProblemsAreShown();
+    void fallsSilentWhenClosed();
+    void fallsSilentWhenTheEntryIsRemoved();
+    void realPlayerTellsOfProblems();
+    void realPlayerPlaysToTheEnd();
+    void worksByKeysAlone();
+    void closes_data();
+    void closes();
+    void controlsHaveAccessibleNames();
+
+  private:
+    const MusicSettings& music() const { return document_.settings().music; }
+    void setMusic(const MusicSettings& value) {
+        document_.editSettings([&](SkinSettings& settings) { settings.music = value; });
+    }
+    // On, custom, with three files that exist.
+    void setThreeFiles();
+    std::unique_ptr<FrmMusic> makeDialog();
+
+    SkinDocument document_;
+    std::unique_ptr<test::ScriptedPrompts> prompts_;
+    QStringList log_;
+    FakePlayer* player_ = nullptr;
+    TemporaryFolder folder_;
+};
+
+void FrmMusicTest::init() {
+    document_ = SkinDocument();
+    prompts_ = std::make_unique<test::ScriptedPrompts>();
+    log_.clear();
+}
+
+void FrmMusicTest::setThreeFiles() {
+    MusicSettings value = options(true, false, true, false);
+    for (const char* name : {"a.wma", "b.wma", "c.wma"}) {
+        folder_.file(name, "music");
+        value.musicFiles.push_back(folder_.document(name));
+    }
+    value.lstMusic = {0, 1, 2};
+    setMusic(value);
+}
+
+std::unique_ptr<FrmMusic> FrmMusicTest::makeDialog() {
+    auto player = std::make_unique<FakePlayer>(log_);
+    player_ = player.get();
+    return std::make_unique<FrmMusic>(document_, *prompts_, nullptr, std::move(player));
+}
+
+void FrmMusicTest::showsItsTexts() {
+    const auto dialog = makeDialog();
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(dialog->isModal());
+    QCOMPARE(dialog->objectName(), "frmMusic");
+    QCOMPARE(dialog->windowTitle(), "  :: Audio Settings ::");
+    QCOMPARE(dialog->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly)->text(),
+             "BACKGROUND MUSIC");
+    const auto text = [&](const char* name) {
+        return control<QAbstractButton>(*dialog, QLatin1String(name)).text();
+    };
+    QCOMPARE(text("optYesMusic"), "Use Background Music");
+    QCOMPARE(text("optNoMusic"), "No Music");
+    QCOMPARE(text("chkGlobal"), "Use Global Music (from your xbox soundtracks)");
+    QCOMPARE(text("chkCustom"), "Use Custom Music");
+    QCOMPARE(text("chkRandom"), "Play Music in Random Order");
+    QCOMPARE(text("cmdAdd"), "Add Files");
+    QVERIFY(control<QFrame>(*dialog, "fraStuff")
+                .isAncestorOf(&control<QCheckBox>(*dialog, "chkRandom")));
+    QVERIFY(control<QFrame>(*dialog, "fraMusic")
+                .isAncestorOf(&control<MusicList>(*dialog, "lstMusic")));
+}
+
+void FrmMusicTest::startsWithoutMusic() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    QVERIFY(control<QRadioButton>(*dialog, "optNoMusic").isChecked());
+    QVERIFY(!control<QFrame>(*dialog, "fraStuff").isVisible());
+    QCOMPARE(document_, SkinDocument());
+}
+
+void FrmMusicTest::showsTheDocumentEachTimeItIsOpened() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    dialog->hide();
+    setThreeFiles();
+    MusicSettings value = music();
+    value.chkGlobal = true;
+    value.lstMusic = {2, 0};
+    setMusic(value);
+    QVERIFY(test::open(*dialog));
+    QVERIFY(control<QRadioButton>(*dialog, "optYesMusic").isChecked());
+    QVERIFY(control<QCheckBox>(*dialog, "chkGlobal").isChecked());
+    QVERIFY(control<QCheckBox>(*dialog, "chkCustom").isChecked());
+    QVERIFY(!control<QCheckBox>(*dialog, "chkRandom").isChecked());
+    const auto& list = control<MusicList>(*dialog, "lstMusic");
+    QCOMPARE(test::rowTexts(list),
+             (QStringList{shown(folder_ / "c.wma"), shown(folder_ / "a.wma")}));
+    QCOMPARE(list.item(0)->data(Qt::UserRole).toInt(), 2);
+    QCOMPARE(list.item(1)->data(Qt::UserRole).toInt(), 0);
+    QCOMPARE(music(), value);
+    dialog->hide();
+    setMusic(options(false, false, false, true));
+    QVERIFY(test::open(*dialog));
+    QVERIFY(control<QRadioButton>(*dialog, "optNoMusic").isChecked());
+    QVERIFY(control<QCheckBox>(*dialog, "chkRandom").isChecked());
+    QVERIFY(!control<QCheckBox>(*dialog, "chkGlobal").isChecked());
+    QCOMPARE(list.count(), 0);
+}
+
+void FrmMusicTest::optionsGoToTheDocumentAtOnce() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    MusicSettings expected;
+    const auto press = [&](const char* name) {
+        QTest::qWait(settled);
+        click(control<QWidget>(*dialog, QLatin1String(name)));
+    };
+    press("optYesMusic");
+    expected.optYesMusic = true;
+    QCOMPARE(music(), expected);
+    press("chkCustom");
+    expected.chkCustom = true;
+    QCOMPARE(music(), expected);
+    press("chkGlobal");
+    press("chkRandom");
+    expected.chkGlobal = true;
+    expected.chkRandom = true;
+    QCOMPARE(music(), expected);
+    press("chkCustom");
+    press("chkGlobal");
+    press("optNoMusic");
+    QCOMPARE(music(), options(false, false, false, true));
+}
+
+void FrmMusicTest::controlsStandBelowOneAnother_data() {
+    QTest::addColumn<bool>("yes");
+    QTest::addColumn<bool>("custom");
+    QTest::addColumn<QStringList>("order");
+    const QStringList options = {"optYesMusic", "optNoMusic"};
+    QTest::newRow("none") << false << false << options + QStringList{"cmdOK"};
+    QTest::newRow("none, though custom") << false << true << options + QStringList{"cmdOK"};
+    QTest::newRow("no custom") << true << false
+                               << options +
+                                      QStringList{"chkGlobal", "chkCustom", "chkRandom", "cmdOK"};
+    QTest::newRow("custom") << true << true
+                            << options + QStringList{"chkGlobal", "chkCustom", "cmdAdd",
+                                                     "lstMusic",  "chkRandom", "cmdOK"};
+}
+
+void FrmMusicTest::controlsStandBelowOneAnother() {
+    QFETCH(bool, yes);
+    QFETCH(bool, custom);
+    QFETCH(QStringList, order);
+    setMusic(options(yes, false, custom, false));
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    QCOMPARE(control<QFrame>(*dialog, "fraStuff").isVisible(), yes);
+    QCOMPARE(control<QFrame>(*dialog, "fraMusic").isVisible(), yes && custom);
+    for (int i = 1; i < order.size(); ++i) {
+        const int distance =
+            topOf(*dialog, qPrintable(order[i])) - bottomOf(*dialog, qPrintable(order[i - 1]));
+        QVERIFY2(distance > 0 && distance < 30, qPrintable(order[i]));
+    }
+    const int margin = dialog->height() - bottomOf(*dialog, "cmdOK");
+    QVERIFY(margin > 0 && margin < 30);
+    for (const QString& name : order) {
+        const auto& widget = control<QWidget>(*dialog, name);
+        QVERIFY(widget.width() >= widget.minimumSizeHint().width());
+        QVERIFY(!widget.visibleRegion().isEmpty());
+        QCOMPARE(widget.visibleRegion().boundingRect(), widget.rect());
+    }
+}
+
+void FrmMusicTest::growsAndShrinksToTheExactPlaces() {
+    struct Step {
+        const char* press;
+        MusicSettings state;
+    };
+    const std::array<Step, 6> steps = {{
+        {"optYesMusic", options(true, false, false, false)},
+        {"chkCustom", options(true, false, true, false)},
+        {"optNoMusic", options(false, false, true, false)},
+        {"optYesMusic", options(true, false, true, false)},
+        {"chkCustom", options(true, false, false, false)},
+        {"optNoMusic", options(false, false, false, false)},
+    }};
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    for (const auto& [press, state] : steps) {
+        const int height = dialog->height();
+        click(control<QWidget>(*dialog, QLatin1String(press)));
+        QCOMPARE(music(), state);
+        QCOMPARE(dialog->height(), height); // nothing jumps
+        QTest::qWait(settled);
+        SkinDocument same;
+        same.editSettings([&](SkinSettings& settings) { settings.music = state; });
+        FrmMusic fresh(same, *prompts_, nullptr, std::make_unique<FakePlayer>(log_));
+        QVERIFY(test::open(fresh));
+        QCOMPARE(geometries(*dialog), geometries(fresh));
+    }
+}
+
+void FrmMusicTest::growsWhileEventsRun() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const int small = dialog->height();
+    QList<int> heights;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] { heights << dialog->height(); });
+    timer.start(10);
+    QElapsedTimer clock;
+    clock.start();
+    click(control<QWidget>(*dialog, "optYesMusic"));
+    QVERIFY2(clock.elapsed() < 100, "the click waited for the animation");
+    QTest::qWait(settled);
+    timer.stop();
+    const int large = dialog->height();
+    QVERIFY(large > small);
+    const auto between = std::count_if(heights.begin(), heights.end(), [&](int height) {
+        return height > small && height < large;
+    });
+    QVERIFY2(between >= 3, qPrintable(QString::number(between)));
+    QVERIFY(std::is_sorted(heights.begin(), heights.end()));
+}
+
+void FrmMusicTest::furtherClicksWhileItGrowsAreHarmless() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const QStringList small = geometries(*dialog);
+    for (const char* press : {"optYesMusic", "optNoMusic", "optNoMusic", "optYesMusic"}) {
+        click(control<QWidget>(*dialog, QLatin1String(press)));
+        QTest::qWait(60);
+    }
+    click(control<QWidget>(*dialog, "chkCustom"));
+    QTest::qWait(60);
+    click(control<QWidget>(*dialog, "optNoMusic"));
+    QTest::qWait(settled);
+    QCOMPARE(geometries(*dialog), small);
+    QCOMPARE(music().optYesMusic, false);
+}
+
+void FrmMusicTest::closingWhileItGrowsIsHarmless() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    click(control<QWidget>(*dialog, "optYesMusic"));
+    QTest::qWait(50);
+    dialog->close();
+    QVERIFY(test::open(*dialog));
+    const QStringList now = geometries(*dialog);
+    QTest::qWait(settled);
+    QCOMPARE(geometries(*dialog), now);
+    const auto fresh = makeDialog();
+    QVERIFY(test::open(*fresh));
+    QCOMPARE(now, geometries(*fresh));
+}
+
+void FrmMusicTest::severalFilesAreAdded() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const QString first = shown(folder_.file("new/First Song.mp3", "x"));
+    const QString second = shown(folder_ / "gone.wma");
+    prompts_->fileChoices = {{first, second}};
+    click(control<QPushButton>(*dialog, "cmdAdd"));
+    QCOMPARE(prompts_->severals, QList<bool>{true});
+    QCOMPARE(prompts_->lastOwner, dialog.get());
+    const auto& list = control<MusicList>(*dialog, "lstMusic");
+    QCOMPARE(list.count(), 5);
+    QCOMPARE(list.item(3)->text(), first);
+    QCOMPARE(list.item(4)->text(), second);
+    QCOMPARE(list.item(3)->data(Qt::UserRole).toInt(), 3);
+    QCOMPARE(list.item(4)->data(Qt::UserRole).toInt(), 4);
+    QVERIFY(list.item(4)->isSelected());
+    QCOMPARE(music().musicFiles.size(), 5U);
+    QCOMPARE(music().musicFiles[3], folder_.document("new\\First Song.mp3"));
+    QCOMPARE(music().musicFiles[4], folder_.document("gone.wma"));
+    QCOMPARE(music().lstMusic, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+void FrmMusicTest::nothingIsAdded_data() {
+    QTest::addColumn<QList<QStringList>>("choices");
+    QTest::newRow("cancelled") << QList<QStringList>();
+    QTest::newRow("no name") << QList<QStringList>{{""}};
+}
+
+void FrmMusicTest::nothingIsAdded() {
+    QFETCH(QList<QStringList>, choices);
+    setThreeFiles();
+    const MusicSettings before = music();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    prompts_->fileChoices = choices;
+    click(control<QPushButton>(*dialog, "cmdAdd"));
+    QCOMPARE(prompts_->filters.size(), 1);
+    QCOMPARE(control<MusicList>(*dialog, "lstMusic").count(), 3);
+    QCOMPARE(music(), before);
+}
+
+void FrmMusicTest::deleteRemovesTheEntryOnly() {
+    setThreeFiles();
+    MusicSettings expected = music();
+    expected.lstMusic = {0, 2};
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 1);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(test::rowTexts(list),
+             (QStringList{shown(folder_ / "a.wma"), shown(folder_ / "c.wma")}));
+    QCOMPARE(list.item(0)->data(Qt::UserRole).toInt(), 0);
+    QCOMPARE(list.item(1)->data(Qt::UserRole).toInt(), 2);
+    QCOMPARE(music(), expected);
+    prompts_->fileChoices = {{shown(folder_ / "d.wma")}};
+    click(control<QPushButton>(*dialog, "cmdAdd"));
+    QCOMPARE(list.item(2)->data(Qt::UserRole).toInt(), 3);
+}
+
+void FrmMusicTest::rightClickRemovesTheEntryOnly() {
+    setThreeFiles();
+    MusicSettings expected = music();
+    expected.lstMusic = {0, 1};
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 0);
+    QCOMPARE(list.count(), 3); // not with the left button
+    clickRow(list, 2, Qt::RightButton);
+    QCOMPARE(music(), expected);
+    QCOMPARE(list.count(), 2);
+}
+
+void FrmMusicTest::removingWithoutASelectionDoesNothing() {
+    setThreeFiles();
+    const MusicSettings before = music();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QTest::mouseClick(list.viewport(), Qt::RightButton, {},
+                      list.viewport()->rect().bottomRight() - QPoint(5, 5));
+    QCOMPARE(music(), before);
+}
+
+void FrmMusicTest::removalGoesOnWithTheNextEntry() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 1);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QVERIFY(list.item(1)->isSelected());
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QVERIFY(list.item(0)->isSelected());
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(list.count(), 0);
+    QCOMPARE(music().musicFiles.size(), 3U);
+}
+
+void FrmMusicTest::droppedMusicIsAdded() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    const QString song = shown(folder_.file("SONG.WMA", "x"));
+    const QString picture = shown(folder_.file("cover.png", "x"));
+    const QString other = shown(folder_.file("other.mp3", "x"));
+    QVERIFY(test::dropFiles(*list.viewport(), {song, picture, other}));
+    QCOMPARE(list.count(), 5);
+    QCOMPARE(list.item(3)->text(), song);
+    QCOMPARE(list.item(4)->text(), other);
+    QCOMPARE(music().musicFiles[3], folder_.document("SONG.WMA"));
+    QCOMPARE(music().lstMusic.back(), 4);
+}
+
+void FrmMusicTest::otherDropsAreRefused() {
+    setThreeFiles();
+    const MusicSettings before = music();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    const QString picture = shown(folder_.file("cover.png", "x"));
+    const QString folder = shown(folder_.folder("folder.wma"));
+    const QString gone = shown(folder_ / "gone.wma");
+    QVERIFY(!test::dropFiles(*list.viewport(), {picture, folder, gone}));
+    QVERIFY(!test::dropFiles(*list.viewport(), {}));
+    QVERIFY(!test::dropFiles(control<QWidget>(*dialog, "chkGlobal"), {shown(folder_ / "a.wma")}));
+    QCOMPARE(music(), before);
+}
+
+void FrmMusicTest::missingFilesAreMarked() {
+    setThreeFiles();
+    std::filesystem::remove(folder_ / "b.wma");
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const auto& list = control<MusicList>(*dialog, "lstMusic");
+    QVERIFY(!list.item(0)->font().italic());
+    QVERIFY(list.item(1)->font().italic());
+    QVERIFY(list.item(1)->toolTip().contains("cannot be found"));
+    QCOMPARE(list.item(0)->toolTip(), list.item(0)->text());
+}
+
+void FrmMusicTest::selectedFileIsPlayed() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    auto& button = control<PlayButton>(*dialog, "cmdPlay");
+    clickRow(list, 1);
+    QCOMPARE(log_, QStringList());
+    click(button);
+    QCOMPARE(log_, QStringList{"play " + shown(folder_ / "b.wma")});
+    QVERIFY(button.isPlaying());
+    QCOMPARE(button.text(), "Stop");
+    click(button);
+    QCOMPARE(log_.last(), "stop");
+    QVERIFY(!button.isPlaying());
+    QCOMPARE(button.text(), "Play");
+    QTest::keyClick(&list, Qt::Key_Space);
+    QVERIFY(button.isPlaying());
+    QTest::keyClick(&list, Qt::Key_Space);
+    QVERIFY(!button.isPlaying());
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                       list.visualItemRect(list.item(2)).center());
+    QCOMPARE(log_.last(), "play " + shown(folder_ / "c.wma"));
+}
+
+void FrmMusicTest::otherFileTakesThePlace() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    auto& button = control<PlayButton>(*dialog, "cmdPlay");
+    clickRow(list, 0);
+    click(button);
+    clickRow(list, 2);
+    QVERIFY(!button.isPlaying()); // a press would play the other one
+    click(button);
+    QCOMPARE(log_,
+             (QStringList{"play " + shown(folder_ / "a.wma"), "play " + shown(folder_ / "c.wma")}));
+    QVERIFY(button.isPlaying());
+}
+
+void FrmMusicTest::playButtonNeedsAFile() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& button = control<PlayButton>(*dialog, "cmdPlay");
+    QVERIFY(!button.isEnabled());
+    QTest::keyClick(&control<MusicList>(*dialog, "lstMusic"), Qt::Key_Space);
+    QCOMPARE(log_, QStringList());
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    QVERIFY(button.isEnabled());
+}
+
+void FrmMusicTest::progressAndProblemsAreShown() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& label = control<QLabel>(*dialog, "lblPlaying");
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    const QString file = shown(folder_ / "a.wma");
+    player_->tell({.playing = true, .file = file, .position = 61'900, .duration = 205'000});
+    QCOMPARE(label.text(), "1:01 of 3:25");
+    player_->tell({.file = file, .problem = "cannot be played here"});
+    QCOMPARE(label.text(), "cannot be played here");
+    QCOMPARE(control<PlayButton>(*dialog, "cmdPlay").text(), "Play");
+    player_->tell({});
+    QCOMPARE(label.text(), "");
+}
+
+void FrmMusicTest::fallsSilentWhenClosed() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    click(control<PlayButton>(*dialog, "cmdPlay"));
+    click(control<QPushButton>(*dialog, "cmdOK"));
+    QCOMPARE(log_.last(), "stop");
+}
+
+void FrmMusicTest::fallsSilentWhenTheEntryIsRemoved() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 0);
+    click(control<PlayButton>(*dialog, "cmdPlay"));
+    clickRow(list, 2);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(log_.size(), 1); // the other one plays on
+    clickRow(list, 0);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(log_.last(), "stop");
+}
+
+void FrmMusicTest::realPlayerTellsOfProblems() {
+    const auto player = makeTrackPlayer();
+    const QSignalSpy changed(player.get(), &TrackPlayer::changed);
+    const QString gone = shown(folder_ / "vanished.wma");
+    player->play(gone);
+    QVERIFY(changed.count() > 0);
+    QVERIFY(!player->state().playing);
+    QCOMPARE(player->state().file, gone);
+    QCOMPARE(player->state().problem, "not found");
+    player->play(shown(folder_.folder("a folder.wma")));
+    QCOMPARE(player->state().problem, "not readable");
+    // Either nothing can be heard here, or the player finds out what the file is.
+    player->play(shown(folder_.file("empty.wma", "")));
+    QTRY_VERIFY_WITH_TIMEOUT(!player->state().problem.isEmpty(), 10'000);
+    QVERIFY(!player->state().playing);
+    player->stop();
+    QCOMPARE(player->state().problem, "");
+    QCOMPARE(player->state().file, "");
+}
+
+void FrmMusicTest::realPlayerPlaysToTheEnd() {
+    // Half a second of silence.
+    constexpr quint32 rate = 8000;
+    QByteArray wave = QByteArray::fromHex("52494646c40f000057415645666d74201000000001000100401f0000"
+                                          "401f00000100080064617461a00f0000");
+    wave += QByteArray(rate / 2, char(0x80));
+    const QString file = shown(folder_.file("half.wav", wave.toStdString()));
+    const auto player = makeTrackPlayer();
+    player->play(file);
+    if (QMediaDevices::audioOutputs().isEmpty()) {
+        QCOMPARE(player->state().problem, "no audio device");
+        QVERIFY(!player->state().playing);
+        return;
+    }
+    QVERIFY(player->state().playing);
+    QTRY_VERIFY_WITH_TIMEOUT(player->state().duration > 0, 10'000);
+    QTRY_VERIFY_WITH_TIMEOUT(!player->state().playing, 10'000);
+    QCOMPARE(player->state().problem, "");
+}
+
+void FrmMusicTest::worksByKeysAlone() {
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const auto press = [&](Qt::Key key) { QTest::keyClick(dialog->focusWidget(), key); };
+    QVERIFY(control<QWidget>(*dialog, "optNoMusic").hasFocus());
+    press(Qt::Key_Up);
+    QVERIFY(music().optYesMusic);
+    QTest::qWait(settled);
+    QStringList visited;
+    press(Qt::Key_Tab);
+    visited << dialog->focusWidget()->objectName();
+    press(Qt::Key_Tab);
+    visited << dialog->focusWidget()->objectName();
+    press(Qt::Key_Space);
+    QVERIFY(music().chkCustom);
+    QTest::qWait(settled);
+    prompts_->fileChoices = {{shown(folder_.file("k.wma", "x"))}};
+    press(Qt::Key_Tab);
+    visited << dialog->focusWidget()->objectName();
+    press(Qt::Key_Space);
+    QCOMPARE(music().lstMusic.size(), 1U);
+    for (int i = 0; i < 4; ++i) {
+        press(Qt::Key_Tab);
+        visited << dialog->focusWidget()->objectName();
+    }
+    QCOMPARE(visited, (QStringList{"chkGlobal", "chkCustom", "cmdAdd", "cmdPlay", "lstMusic",
+                                   "chkRandom", "cmdOK"}));
+    press(Qt::Key_Return);
+    QVERIFY(!dialog->isVisible());
+}
+
+void FrmMusicTest::closes_data() {
+    QTest::addColumn<QString>("how");
+    for (const char* how : {"OK", "Enter", "Escape", "close button"}) {
+        QTest::newRow(how) << how;
+    }
+}
+
+void FrmMusicTest::closes() {
+    QFETCH(QString, how);
+    const auto dialog = makeDialog();
+    QTimer::singleShot(0, dialog.get(), [&] {
+        click(control<QWidget>(*dialog, "optYesMusic"));
+        if (how == "OK") {
+            QTest::qWait(settled);
+            click(control<QPushButton>(*dialog, "cmdOK"));
+        } else if (how == "close button") {
+            dialog->close();
+        } else {
+            QTest::keyClick(&control<QWidget>(*dialog, "chkGlobal"),
+                            how == "Enter" ? Qt::Key_Return : Qt::Key_Escape);
+        }
+    });
+    QCOMPARE(dialog->exec(), int(QDialog::Accepted));
+    QVERIFY(music().optYesMusic);
+}
+
+void FrmMusicTest::controlsHaveAccessibleNames() {
+    QCOMPARE(test::withoutAccessibleName(*makeDialog()), QStringList());
+}
+
+} // namespace tarvel
+
+QTEST_MAIN(tarvel::FrmMusicTest)
+#include "frm_music_test.moc"
