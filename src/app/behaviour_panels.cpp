@@ -13,17 +13,17 @@
 namespace tarvel {
 
 BehaviourPanels::BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate,
-                                 QWidget& place, const std::filesystem::path& programFolder)
-    : QObject(&place)
+                                 Room room, const std::filesystem::path& programFolder)
+    : QObject(&room.side)
     , gate_(gate)
-    , place_(place) {
-    QWidget* parent = place.parentWidget();
+    , room_(room) {
+    QWidget* parent = room.side.parentWidget();
     panels_ = {new ModifierPanel(document, prompts, programFolder, parent),
                new TimerPanel(document, parent), new ConditionPanel(document, parent)};
     for (BehaviourPanel* panel : panels_) {
         connect(panel, &BehaviourPanel::closed, this, &BehaviourPanels::panelClosed);
     }
-    place.installEventFilter(this);
+    room.side.installEventFilter(this);
 }
 
 void BehaviourPanels::cmdModifier_Click(int index, int elementId) {
@@ -44,14 +44,16 @@ bool BehaviourPanels::isOpen() const {
 }
 
 void BehaviourPanels::place(BehaviourPanel& panel) {
-    const QRect over = place_.geometry();
-    const QRect room = place_.parentWidget()->rect();
-    const QSize wanted = panel.sizeHint().expandedTo(panel.minimumSizeHint());
-    QRect frame(over.topLeft(), over.size().expandedTo(wanted));
-    frame.moveBottom(std::min(frame.bottom(), room.bottom()));
-    frame.moveRight(std::min(frame.right(), room.right()));
-    frame.moveTop(std::max(frame.top(), room.top()));
-    panel.setGeometry(frame);
+    constexpr int gap = 6;
+    const QRect side = room_.side.geometry();
+    const auto topOf = [&](const QWidget& widget) {
+        return widget.mapTo(room_.side.parentWidget(), QPoint(0, 0)).y();
+    };
+    const int bottom = topOf(room_.floor) - gap;
+    // A panel that needs more than its room reaches over what is beside it.
+    const QSize size = panel.sizeHint().expandedTo({side.width(), bottom - topOf(room_.roof)});
+    panel.setGeometry(side.right() + 1 - size.width(), std::max(0, bottom - size.height()),
+                      size.width(), size.height());
 }
 
 void BehaviourPanels::panelClosed() {

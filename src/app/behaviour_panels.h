@@ -16,8 +16,8 @@ class BehaviourPanel;
 class Prompts;
 class WindowGate;
 
-/// Opens a panel over a place of the window and lets nothing else be worked with until it closes.
-/// Document, prompts and gate are not owned and outlive it; the panels are children of `place`'s
+/// Opens a panel over a side of the window and lets nothing else be worked with until it closes.
+/// Document, prompts and gate are not owned and outlive it; the panels are children of the side's
 /// parent.
 class BehaviourPanels : public QObject {
     Q_OBJECT
@@ -25,9 +25,16 @@ class BehaviourPanels : public QObject {
   public:
     static constexpr std::size_t count = 3;
 
-    /// `place` is the widget that an open panel covers. The modifier catalogue is looked for in
-    /// `programFolder`.
-    BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, QWidget& place,
+    /// The part of the window that an open panel covers: `side` from the top of `roof` down to
+    /// `floor`, which stays free.
+    struct Room {
+        QWidget& side;
+        QWidget& roof;
+        QWidget& floor;
+    };
+
+    /// The modifier catalogue is looked for in `programFolder`.
+    BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, Room room,
                     const std::filesystem::path& programFolder);
 
     /// Opens panel 0 modifiers, 1 timers or 2 condition for an element; for id 0 nothing happens.
@@ -46,7 +53,7 @@ class BehaviourPanels : public QObject {
     void panelClosed();
 
     WindowGate& gate_;
-    QWidget& place_;
+    Room room_;
     std::array<BehaviourPanel*, count> panels_{};
 };
 

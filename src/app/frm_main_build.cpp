@@ -35,6 +35,7 @@ namespace tarvel {
 
 namespace {
 
+constexpr auto stopName = "cmdStop";
 constexpr auto noteText =
     "Note: Most TV's cut off edges of the screen, so make sure you leave some "
     "extra room around your layout.";
@@ -63,10 +64,13 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     auto* centre = new QWidget;
     auto* columns = new QHBoxLayout(centre);
     columns->addWidget(buildLeftSide());
-    columns->addWidget(buildRightSide(), 1);
+    QWidget* right = buildRightSide();
+    columns->addWidget(right, 1);
     setCentralWidget(centre);
+    auto* floor = right->findChild<QWidget*>(QLatin1String(stopName));
     behaviourPanels_ =
-        new BehaviourPanels(document_, prompts_, *gate_, *properties_, programFolder);
+        new BehaviourPanels(document_, prompts_, *gate_,
+                            {.side = *right, .roof = *fraPos_, .floor = *floor}, programFolder);
 
     connectSurface();
     connectPanels();
@@ -76,6 +80,9 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
 QWidget* FrmMain::buildSurface() {
     auto* frame = new QFrame;
     frame->setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
+    QPalette palette = frame->palette();
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::Mid)); // the line of the frame
+    frame->setPalette(palette);
     auto* inside = new QVBoxLayout(frame);
     inside->setContentsMargins(0, 0, 0, 0);
     pic_ = new Pic(pictures_);
@@ -124,7 +131,7 @@ QWidget* FrmMain::buildRightSide() {
                                         menus_->entry(QStringLiteral("mnuModifier(1)")),
                                         menus_->entry(QStringLiteral("mnuModifier(2)"))});
     auto* cmdStop = new QPushButton(qtText(caption::cmdStop));
-    cmdStop->setObjectName(QStringLiteral("cmdStop"));
+    cmdStop->setObjectName(QLatin1String(stopName));
     cmdStop->setAccessibleName(tr("Stop the videos of this screen"));
     connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
     // Saving is in the menu; this button does nothing and is not shown.
@@ -140,6 +147,7 @@ QWidget* FrmMain::buildRightSide() {
     column->addWidget(behaviours_);
     column->addWidget(properties_);
     properties_->addBeside(cmdStop);
+    side->setMinimumWidth(450);
     return side;
 }
 

@@ -14,7 +14,8 @@ LayoutPanel::LayoutPanel(QWidget* parent)
     setObjectName(QStringLiteral("fraLayout"));
     setAccessibleName(QStringLiteral("Current screen"));
     auto* grid = new QGridLayout(this);
-    grid->setColumnStretch(1, 1);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    grid->setHorizontalSpacing(2);
     grid->setVerticalSpacing(3);
     grid->setRowStretch(screenCount, 1);
     for (int screen = 0; screen < screenCount; ++screen) {
@@ -25,7 +26,7 @@ LayoutPanel::LayoutPanel(QWidget* parent)
         // Bold captions are wider: without the room the panel would jump.
         QFont bold = button->font();
         bold.setBold(true);
-        button->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(button->text()) + 34);
+        button->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(button->text()) + 26);
         connect(button, &QRadioButton::clicked, this,
                 [this, screen] { emit screenClicked(screen); });
         grid->addWidget(button, screen, 0);

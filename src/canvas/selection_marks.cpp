@@ -123,7 +123,10 @@ void SelectionMarks::setSel(const Element& element) {
 }
 
 void SelectionMarks::setSelLine(const Element& element) {
-    fraSel_->setVisible(false);
+    hideSels();
+    if (element.elementLocked) {
+        return; // its ends cannot be dragged
+    }
     static_cast<LineEndMark*>(fraResize1_)
         ->showAt(handleCentre(element.elementControl, Handle::firstEnd));
     static_cast<LineEndMark*>(fraResize2_)

@@ -16,6 +16,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -105,10 +106,10 @@ void FrmResources::hideEvent(QHideEvent* event) {
 }
 
 void FrmResources::showSource(bool preset) {
-    const int added = addedHeight(); // before the frames change it
-    const QWidget* focus = focusWidget();
-    const bool focusGoes = focus != nullptr && (preset ? fraCustom_->isAncestorOf(focus)
-                                                       : fraPreset_->isAncestorOf(focus));
+    const int added = addedHeight();      // before the frames change it
+    const QWidget* focus = focusWidget(); // hiding would give it to whatever comes next
+    const QWidget* leaving = preset ? static_cast<QWidget*>(fraCustom_) : fraPreset_;
+    const bool focusGoes = focus != nullptr && leaving->isAncestorOf(focus);
     fraCustom_->source()->setPreset(preset);
     fraPreset_->source()->setPreset(preset);
     fraCustom_->setVisible(!preset);
@@ -116,7 +117,22 @@ void FrmResources::showSource(bool preset) {
     if (focusGoes) {
         (preset ? fraPreset_->source() : fraCustom_->source())->focusChosen();
     }
+    // An arrow key will still give the focus to the option that it chose, in the hidden frame.
+    QTimer::singleShot(0, this, &FrmResources::keepFocusVisible);
     resizeForm(added);
+}
+
+// The focus goes from an option in the hidden frame to the same one in the other.
+void FrmResources::keepFocusVisible() {
+    const QWidget* focus = focusWidget();
+    if (focus == nullptr) {
+        return;
+    }
+    if (fraCustom_->isHidden() && fraCustom_->isAncestorOf(focus)) {
+        fraPreset_->source()->focusChosen();
+    } else if (fraPreset_->isHidden() && fraPreset_->isAncestorOf(focus)) {
+        fraCustom_->source()->focusChosen();
+    }
 }
 
 // What the user has added to the height.

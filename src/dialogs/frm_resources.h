@@ -38,6 +38,7 @@ class FrmResources : public SkinDialog {
     QWidget* makeCurrentFrame();
     QWidget* makePreviewFrame();
     void showSource(bool preset);
+    void keepFocusVisible();
     [[nodiscard]] int addedHeight() const;
     void resizeForm(int added);
     void listNewResources();

@@ -54,7 +54,7 @@ QString ResourcePreview::description() const {
     if (resource_.content.empty()) {
         return {};
     }
-    const QString name = qtText(trimtofile(resource_.content));
+    QString name = qtText(trimtofile(resource_.content));
     switch (lookOf(resource_)) {
     case ResourceLook::preset:
         return tr("Supplied by the dashboard");

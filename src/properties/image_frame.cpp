@@ -6,6 +6,7 @@
 #include "properties/panel_texts.h"
 #include "properties/preview_area.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -58,6 +59,7 @@ void ImageFrame::buildPicker() {
     lstR_ = new QComboBox;
     lstR_->setObjectName(QStringLiteral("lstR"));
     lstR_->setAccessibleName(tr("Resource of the image"));
+    lstR_->view()->setAccessibleName(tr("Resources of the skin"));
     lstR_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lstR_->setMinimumContentsLength(12);
     connect(lstR_, &QComboBox::activated, this, &ImageFrame::lstR_Click);

@@ -7,6 +7,7 @@
 #include "properties/color_well.h"
 #include "properties/panel_texts.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontMetrics>
@@ -191,6 +192,7 @@ QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
     auto* list = new QComboBox;
     list->setObjectName(QLatin1String(group.list));
     list->setAccessibleName(group.spoken);
+    list->view()->setAccessibleName(group.spoken);
     for (const std::string_view entry : alignmentEntries) {
         list->addItem(qtText(entry));
     }

@@ -6,6 +6,7 @@
 #include "properties/font_button.h"
 #include "properties/panel_texts.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -64,6 +65,7 @@ void TextFrame::buildText() {
     txtText_->setCompleter(nullptr);
     disconnect(txtText_->lineEdit(), &QLineEdit::editingFinished, txtText_, nullptr);
     txtText_->lineEdit()->setAccessibleName(txtText_->accessibleName());
+    txtText_->view()->setAccessibleName(tr("Fields of the dashboard"));
     txtText_->setMaxVisibleItems(rowsOfPopup);
     txtText_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(txtText_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {

@@ -1,6 +1,7 @@
 // Three ways to read a skin's text.
 #include "skinfile/skin_text.h"
 
+#include "skinfile/plain_xml.h"
 #include "skinfile/text_case.h"
 #include "skinfile/writer_lines.h"
 
@@ -143,13 +144,22 @@ class FormReader {
                 break;
             }
         }
+        return open == 0 && takeXml(start);
+    }
+
+    // The XML from start up to at_.
+    bool takeXml(std::size_t start) {
+        const auto parent = levels_[depth_].node;
+        if (parsePlainXml(tree_, parent, start, at_)) {
+            return true;
+        }
         try {
             const std::string block(tree_.text().substr(start, at_ - start));
-            parseFragmentInto(tree_, levels_[depth_].node, block);
+            parseFragmentInto(tree_, parent, block);
+            return true;
         } catch (const XmlError&) {
             return false;
         }
-        return open == 0;
     }
 
     XmlTree& tree_;
@@ -293,12 +303,17 @@ XmlTree readSkinText(std::string bytes, SkinTextNotes& notes) {
     notes.encoding = decoded.encoding;
     requireText(decoded.text);
     const auto size = decoded.text.size();
-    XmlTree byForms(std::move(decoded.text));
-    if (FormReader(byForms).read()) {
+    XmlTree tree(std::move(decoded.text));
+    const auto empty = tree.mark(XmlTree::top);
+    if (FormReader(tree).read()) {
         notes.writerForm = true;
-        return byForms;
+        return tree;
     }
-    const std::string text(byForms.text().substr(0, size));
+    tree.backTo(empty);
+    if (parsePlainXml(tree, XmlTree::top, 0, size) && tree.root()) {
+        return tree;
+    }
+    const std::string text(tree.text().substr(0, size));
     try {
         return parseXml(text);
     } catch (const XmlError&) {

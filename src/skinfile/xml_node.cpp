@@ -6,6 +6,21 @@
 
 namespace tarvel {
 
+namespace {
+
+// The content without the white space that is but the indentation of child elements.
+std::string_view copiedContent(XmlNode source) {
+    constexpr std::string_view blanks = " \t\r\n";
+    auto content = source.content();
+    if (source.firstChild()) {
+        content.remove_prefix(std::min(content.find_first_not_of(blanks), content.size()));
+        content = content.substr(0, content.find_last_not_of(blanks) + 1);
+    }
+    return content;
+}
+
+} // namespace
+
 std::size_t XmlNode::childCount() const {
     std::size_t count = 0;
     for (XmlNode child = firstChild(); child; child = child.nextSibling()) {
@@ -107,24 +122,58 @@ void XmlTree::setContent(Index node, std::string_view content) {
     nodes_[node].content = addText(content);
 }
 
+XmlTree::Mark XmlTree::mark(Index parent) const {
+    return {parent, nodes_[parent].lastChild, nodes_.size(), attributes_.size(), text_.size()};
+}
+
+void XmlTree::backTo(const Mark& mark) {
+    nodes_.resize(mark.nodes);
+    attributes_.resize(mark.attributes);
+    text_.resize(mark.text);
+    Node& parent = nodes_[mark.parent];
+    parent.lastChild = mark.lastChild;
+    (mark.lastChild == none ? parent.firstChild : nodes_[mark.lastChild].nextSibling) = none;
+}
+
 XmlTree::Index XmlTree::addShallowCopy(Index parent, XmlNode source) {
-    constexpr std::string_view blanks = " \t\r\n";
-    auto content = source.content();
-    if (source.firstChild()) {
-        content.remove_prefix(std::min(content.find_first_not_of(blanks), content.size()));
-        content = content.substr(0, content.find_last_not_of(blanks) + 1);
-    }
-    const Index copy = addChild(parent, source.tag(), content);
+    const Index copy = addChild(parent, source.tag(), copiedContent(source));
     for (std::size_t i = 0; i < source.attributeCount(); ++i) {
         addAttribute(copy, source.attributeName(i), source.attributeValue(i));
     }
     return copy;
 }
 
+// Room for exactly one copy.
+void XmlTree::reserveFor(XmlNode source) {
+    std::size_t nodes = 0;
+    std::size_t attributes = 0;
+    std::size_t text = 0;
+    std::vector<XmlNode> pending{source};
+    while (!pending.empty()) {
+        const XmlNode node = pending.back();
+        pending.pop_back();
+        ++nodes;
+        attributes += node.attributeCount();
+        text += node.tag().size() + copiedContent(node).size();
+        for (std::size_t i = 0; i < node.attributeCount(); ++i) {
+            text += node.attributeName(i).size() + node.attributeValue(i).size();
+        }
+        for (const XmlNode child : node.children()) {
+            pending.push_back(child);
+        }
+    }
+    nodes_.reserve(nodes_.size() + nodes);
+    attributes_.reserve(attributes_.size() + attributes);
+    text_.reserve(text_.size() + text);
+}
+
 XmlTree::Index XmlTree::addCopy(Index parent, XmlNode source) {
     if (source.tree_ == this) {
         const XmlTree before = *this; // views into our own text would not survive its growth
         return addCopy(parent, XmlNode(&before, source.index_));
+    }
+    if (empty()) {
+        reserveFor(source); // most trees hold one copy and nothing else
     }
     struct Pending {
         Index target;

@@ -114,11 +114,24 @@ class XmlTree {
     void addAttribute(Index node, Span name, Span value);
     void setTag(Index node, std::string_view tag);
     void setContent(Index node, std::string_view content);
+    void setContent(Index node, Span content) { nodes_[node].content = content; }
     /// Gives every element tagged `from` the tag `to`.
     void renameTags(std::string_view from, std::string_view to);
     /// Copies an element (of this or another tree) with all below it under parent. Content of
     /// elements that have children loses the white space around it, which is but their indentation.
     Index addCopy(Index parent, XmlNode source);
+
+    /// What a tree holds before something is added below parent.
+    struct Mark {
+        Index parent = top;
+        Index lastChild = 0;
+        std::size_t nodes = 0;
+        std::size_t attributes = 0;
+        std::size_t text = 0;
+    };
+    [[nodiscard]] Mark mark(Index parent) const;
+    /// Takes away what was added since; all of it has to lie below the mark's parent.
+    void backTo(const Mark& mark);
 
     /// Appends text that spans can name. Views into text() end here.
     Span addText(std::string_view text);
@@ -161,6 +174,7 @@ class XmlTree {
         return {text_.data() + span.position, span.length};
     }
     Index addShallowCopy(Index parent, XmlNode source);
+    void reserveFor(XmlNode source);
 
     std::string text_;
     std::vector<Node> nodes_;

@@ -17,6 +17,16 @@ MusicSettings threeFiles() {
     return music;
 }
 
+TEST(IsMusicFile, GoesByTheEndingInAnyCase) {
+    for (const std::string_view name :
+         {"a.wma", "\\music\\A.MP3", "x.Wav", "x.ogg", "x.flac", "x.m4a", "b.png.aac"}) {
+        EXPECT_TRUE(isMusicFile(name)) << name;
+    }
+    for (const std::string_view name : {"a.wmv", "wma", ".wma", "a.wma.txt", "", "mp3.png"}) {
+        EXPECT_FALSE(isMusicFile(name)) << name;
+    }
+}
+
 TEST(AddMusicFile, GivesEachRowTheIndexOfItsFile) {
     const MusicSettings music = threeFiles();
     EXPECT_EQ(music.musicFiles, (Files{"\\a.wma", "\\b.wma", "\\c.wma"}));

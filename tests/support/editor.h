@@ -55,6 +55,11 @@ struct Editor {
     QListView* lst(int screen) {
         return window.findChild<QListView*>(QStringLiteral("lst(%1)").arg(screen));
     }
+    /// Clicks a screen's button on its mark.
+    void clickScreen(int screen) {
+        QRadioButton* button = optScreen(screen);
+        QTest::mouseClick(button, Qt::LeftButton, {}, {8, button->height() / 2});
+    }
     QString path(const QString& name) const { return folder.filePath(name); }
     QString newFolder(const QString& name) const {
         QDir(folder.path()).mkpath(name);

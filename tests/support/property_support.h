@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 
+#include <string>
 #include <utility>
 
 namespace tarvel::test {
@@ -37,6 +38,15 @@ inline Element elementOfKind(ElementKind kind) {
         break;
     }
     return elementOfControl(kind, ControlKind::qor);
+}
+
+/// A text that is fixed, or else the name of a source.
+inline Element textElement(std::string text, bool constant) {
+    Element element = elementOfKind(ElementKind::Text);
+    element.elementControl.caption = std::move(text);
+    element.elementControl.textColor = makeColor(255, 0, 0);
+    element.textIsConstant = constant;
+    return element;
 }
 
 /// A panel as wide as the main window's column.

@@ -191,7 +191,9 @@ void EditingTest::invalidPanelDrawsNothing() {
     editor.chooseTool("optBox");
     QTest::mouseClick(editor.find<QWidget>("cmdClearL"), Qt::LeftButton);
     QTest::mouseClick(editor.find<QWidget>("cmdClearF"), Qt::LeftButton);
-    editor.find<QLineEdit>("txtAlpha")->setText("abc");
+    auto* txtAlpha = editor.find<QLineEdit>("txtAlpha");
+    txtAlpha->selectAll();
+    QTest::keyClicks(txtAlpha, "abc");
     editor.pressDragRelease({10, 10}, {90, 90});
     QCOMPARE(editor.prompts.messages,
              QStringList({"Choose a color for either the border or the fill",

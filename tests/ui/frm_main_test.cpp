@@ -206,7 +206,7 @@ void FrmMainTest::switchingShowsOnlyThatScreen() {
     addBox(editor, 1);
     editor.selectRow(1, 0);
     QVERIFY(editor.window.curNum() != 0);
-    QTest::mouseClick(editor.optScreen(0), Qt::LeftButton);
+    editor.clickScreen(0);
     QCOMPARE(editor.window.document().currentLayout(), 0);
     QCOMPARE(editor.window.curNum(), 0);
     QTRY_VERIFY(editor.lst(0)->isVisible());
@@ -214,8 +214,8 @@ void FrmMainTest::switchingShowsOnlyThatScreen() {
         QVERIFY(!editor.lst(screen)->isVisible());
     }
     editor.selectRow(0, 0);
-    QTest::mouseClick(editor.optScreen(1), Qt::LeftButton);
-    QTest::mouseClick(editor.optScreen(0), Qt::LeftButton);
+    editor.clickScreen(1);
+    editor.clickScreen(0);
     QCOMPARE(editor.window.curNum(), 0);
 }
 

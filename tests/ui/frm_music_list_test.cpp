@@ -1,0 +1,440 @@
+// The file list of the Music dialog, and listening to its files.
+#include "dialogs/frm_music.h"
+#include "dialogs/music_list.h"
+#include "dialogs/play_button.h"
+#include "support/dialog_support.h"
+#include "support/scripted_prompts.h"
+#include "support/temporary_folder.h"
+
+#include <QAudioDevice>
+#include <QCheckBox>
+#include <QFrame>
+#include <QLabel>
+#include <QMediaDevices>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTimer>
+
+namespace tarvel {
+
+using test::click;
+using test::clickRow;
+using test::control;
+
+namespace {
+
+// The four options, and no files.
+MusicSettings options(bool yes, bool global, bool custom, bool random) {
+    MusicSettings settings;
+    settings.optYesMusic = yes;
+    settings.chkGlobal = global;
+    settings.chkCustom = custom;
+    settings.chkRandom = random;
+    return settings;
+}
+
+constexpr int settled = Easing::duration + 150; // milliseconds
+
+// Notes what it is told to play, and tells what a test wants.
+class FakePlayer : public TrackPlayer {
+  public:
+    explicit FakePlayer(QStringList& log)
+        : log_(log) {}
+
+    void play(const QString& file) override {
+        log_ << "play " + file;
+        setState({.playing = true, .file = file});
+    }
+    void stop() override {
+        log_ << "stop";
+        setState({});
+    }
+    void tell(const State& state) { setState(state); }
+
+  private:
+    QStringList& log_;
+};
+
+QString shown(const std::filesystem::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+// Where everything stands, to compare states of the dialog.
+QStringList geometries(const QWidget& dialog) {
+    QStringList all;
+    for (const char* name : {"optYesMusic", "optNoMusic", "fraStuff", "chkGlobal", "chkCustom",
+                             "fraMusic", "cmdAdd", "lstMusic", "chkRandom", "cmdOK"}) {
+        const auto& widget = control<QWidget>(dialog, QLatin1String(name));
+        if (widget.isVisible()) {
+            const QRect at = widget.geometry();
+            all << QStringLiteral("%1 %2,%3 %4x%5")
+                       .arg(QLatin1String(name))
+                       .arg(at.x())
+                       .arg(at.y())
+                       .arg(at.width())
+                       .arg(at.height());
+        }
+    }
+    return all << QStringLiteral("form %1x%2").arg(dialog.width()).arg(dialog.height());
+}
+
+int bottomOf(const QWidget& dialog, const char* name) {
+    const auto& widget = control<QWidget>(dialog, QLatin1String(name));
+    return widget.mapTo(&dialog, QPoint(0, widget.height())).y();
+}
+
+int topOf(const QWidget& dialog, const char* name) {
+    const auto& widget = control<QWidget>(dialog, QLatin1String(name));
+    return widget.mapTo(&dialog, QPoint(0, 0)).y();
+}
+
+} // namespace
+
+class FrmMusicListTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init();
+    void severalFilesAreAdded();
+    void nothingIsAdded_data();
+    void nothingIsAdded();
+    void deleteRemovesTheEntryOnly();
+    void rightClickRemovesTheEntryOnly();
+    void removingWithoutASelectionDoesNothing();
+    void removalGoesOnWithTheNextEntry();
+    void droppedMusicIsAdded();
+    void otherDropsAreRefused();
+    void missingFilesAreMarked();
+    void selectedFileIsPlayed();
+    void otherFileTakesThePlace();
+    void playButtonNeedsAFile();
+    void progressAndProblemsAreShown();
+    void fallsSilentWhenClosed();
+    void fallsSilentWhenTheEntryIsRemoved();
+    void realPlayerTellsOfProblems();
+    void realPlayerPlaysToTheEnd();
+
+  private:
+    const MusicSettings& music() const { return document_.settings().music; }
+    void setMusic(const MusicSettings& value) {
+        document_.editSettings([&](SkinSettings& settings) { settings.music = value; });
+    }
+    // On, custom, with three files that exist.
+    void setThreeFiles();
+    std::unique_ptr<FrmMusic> makeDialog();
+
+    SkinDocument document_;
+    std::unique_ptr<test::ScriptedPrompts> prompts_;
+    QStringList log_;
+    FakePlayer* player_ = nullptr;
+    TemporaryFolder folder_;
+};
+
+void FrmMusicListTest::init() {
+    document_ = SkinDocument();
+    prompts_ = std::make_unique<test::ScriptedPrompts>();
+    log_.clear();
+}
+
+void FrmMusicListTest::setThreeFiles() {
+    MusicSettings value = options(true, false, true, false);
+    for (const char* name : {"a.wma", "b.wma", "c.wma"}) {
+        folder_.file(name, "music");
+        value.musicFiles.push_back(folder_.document(name));
+    }
+    value.lstMusic = {0, 1, 2};
+    setMusic(value);
+}
+
+std::unique_ptr<FrmMusic> FrmMusicListTest::makeDialog() {
+    auto player = std::make_unique<FakePlayer>(log_);
+    player_ = player.get();
+    return std::make_unique<FrmMusic>(document_, *prompts_, nullptr, std::move(player));
+}
+
+void FrmMusicListTest::severalFilesAreAdded() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const QString first = shown(folder_.file("new/First Song.mp3", "x"));
+    const QString second = shown(folder_ / "gone.wma");
+    prompts_->fileChoices = {{first, second}};
+    click(control<QPushButton>(*dialog, "cmdAdd"));
+    QCOMPARE(prompts_->severals, QList<bool>{true});
+    QCOMPARE(prompts_->lastOwner, dialog.get());
+    const auto& list = control<MusicList>(*dialog, "lstMusic");
+    QCOMPARE(list.count(), 5);
+    QCOMPARE(list.item(3)->text(), first);
+    QCOMPARE(list.item(4)->text(), second);
+    QCOMPARE(list.item(3)->data(Qt::UserRole).toInt(), 3);
+    QCOMPARE(list.item(4)->data(Qt::UserRole).toInt(), 4);
+    QVERIFY(list.item(4)->isSelected());
+    QCOMPARE(music().musicFiles.size(), 5U);
+    QCOMPARE(music().musicFiles[3], folder_.document("new\\First Song.mp3"));
+    QCOMPARE(music().musicFiles[4], folder_.document("gone.wma"));
+    QCOMPARE(music().lstMusic, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+void FrmMusicListTest::nothingIsAdded_data() {
+    QTest::addColumn<QList<QStringList>>("choices");
+    QTest::newRow("cancelled") << QList<QStringList>();
+    QTest::newRow("no name") << QList<QStringList>{{""}};
+}
+
+void FrmMusicListTest::nothingIsAdded() {
+    QFETCH(QList<QStringList>, choices);
+    setThreeFiles();
+    const MusicSettings before = music();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    prompts_->fileChoices = choices;
+    click(control<QPushButton>(*dialog, "cmdAdd"));
+    QCOMPARE(prompts_->filters.size(), 1);
+    QCOMPARE(control<MusicList>(*dialog, "lstMusic").count(), 3);
+    QCOMPARE(music(), before);
+}
+
+void FrmMusicListTest::deleteRemovesTheEntryOnly() {
+    setThreeFiles();
+    MusicSettings expected = music();
+    expected.lstMusic = {0, 2};
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 1);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(test::rowTexts(list),
+             (QStringList{shown(folder_ / "a.wma"), shown(folder_ / "c.wma")}));
+    QCOMPARE(list.item(0)->data(Qt::UserRole).toInt(), 0);
+    QCOMPARE(list.item(1)->data(Qt::UserRole).toInt(), 2);
+    QCOMPARE(music(), expected);
+    prompts_->fileChoices = {{shown(folder_ / "d.wma")}};
+    click(control<QPushButton>(*dialog, "cmdAdd"));
+    QCOMPARE(list.item(2)->data(Qt::UserRole).toInt(), 3);
+}
+
+void FrmMusicListTest::rightClickRemovesTheEntryOnly() {
+    setThreeFiles();
+    MusicSettings expected = music();
+    expected.lstMusic = {0, 1};
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 0);
+    QCOMPARE(list.count(), 3); // not with the left button
+    clickRow(list, 2, Qt::RightButton);
+    QCOMPARE(music(), expected);
+    QCOMPARE(list.count(), 2);
+}
+
+void FrmMusicListTest::removingWithoutASelectionDoesNothing() {
+    setThreeFiles();
+    const MusicSettings before = music();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QTest::mouseClick(list.viewport(), Qt::RightButton, {},
+                      list.viewport()->rect().bottomRight() - QPoint(5, 5));
+    QCOMPARE(music(), before);
+}
+
+void FrmMusicListTest::removalGoesOnWithTheNextEntry() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 1);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QVERIFY(list.item(1)->isSelected());
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QVERIFY(list.item(0)->isSelected());
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(list.count(), 0);
+    QCOMPARE(music().musicFiles.size(), 3U);
+}
+
+void FrmMusicListTest::droppedMusicIsAdded() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    const QString song = shown(folder_.file("SONG.WMA", "x"));
+    const QString picture = shown(folder_.file("cover.png", "x"));
+    const QString other = shown(folder_.file("other.mp3", "x"));
+    QVERIFY(test::dropFiles(*list.viewport(), {song, picture, other}));
+    QCOMPARE(list.count(), 5);
+    QCOMPARE(list.item(3)->text(), song);
+    QCOMPARE(list.item(4)->text(), other);
+    QCOMPARE(music().musicFiles[3], folder_.document("SONG.WMA"));
+    QCOMPARE(music().lstMusic.back(), 4);
+}
+
+void FrmMusicListTest::otherDropsAreRefused() {
+    setThreeFiles();
+    const MusicSettings before = music();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    const QString picture = shown(folder_.file("cover.png", "x"));
+    const QString folder = shown(folder_.folder("folder.wma"));
+    const QString gone = shown(folder_ / "gone.wma");
+    QVERIFY(!test::dropFiles(*list.viewport(), {picture, folder, gone}));
+    QVERIFY(!test::dropFiles(*list.viewport(), {}));
+    QVERIFY(!test::dropFiles(control<QWidget>(*dialog, "chkGlobal"), {shown(folder_ / "a.wma")}));
+    QCOMPARE(music(), before);
+}
+
+void FrmMusicListTest::missingFilesAreMarked() {
+    setThreeFiles();
+    std::filesystem::remove(folder_ / "b.wma");
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    const auto& list = control<MusicList>(*dialog, "lstMusic");
+    QVERIFY(!list.item(0)->font().italic());
+    QVERIFY(list.item(1)->font().italic());
+    QVERIFY(list.item(1)->toolTip().contains("cannot be found"));
+    QCOMPARE(list.item(0)->toolTip(), list.item(0)->text());
+}
+
+void FrmMusicListTest::selectedFileIsPlayed() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    auto& button = control<PlayButton>(*dialog, "cmdPlay");
+    clickRow(list, 1);
+    QCOMPARE(log_, QStringList());
+    click(button);
+    QCOMPARE(log_, QStringList{"play " + shown(folder_ / "b.wma")});
+    QVERIFY(button.isPlaying());
+    QCOMPARE(button.text(), "Stop");
+    click(button);
+    QCOMPARE(log_.last(), "stop");
+    QVERIFY(!button.isPlaying());
+    QCOMPARE(button.text(), "Play");
+    QTest::keyClick(&list, Qt::Key_Space);
+    QVERIFY(button.isPlaying());
+    QTest::keyClick(&list, Qt::Key_Space);
+    QVERIFY(!button.isPlaying());
+    clickRow(list, 2);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                       list.visualItemRect(list.item(2)).center());
+    QCOMPARE(log_.last(), "play " + shown(folder_ / "c.wma"));
+}
+
+void FrmMusicListTest::otherFileTakesThePlace() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    auto& button = control<PlayButton>(*dialog, "cmdPlay");
+    clickRow(list, 0);
+    click(button);
+    clickRow(list, 2);
+    QVERIFY(!button.isPlaying()); // a press would play the other one
+    click(button);
+    QCOMPARE(log_,
+             (QStringList{"play " + shown(folder_ / "a.wma"), "play " + shown(folder_ / "c.wma")}));
+    QVERIFY(button.isPlaying());
+}
+
+void FrmMusicListTest::playButtonNeedsAFile() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& button = control<PlayButton>(*dialog, "cmdPlay");
+    QVERIFY(!button.isEnabled());
+    QTest::keyClick(&control<MusicList>(*dialog, "lstMusic"), Qt::Key_Space);
+    QCOMPARE(log_, QStringList());
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    QVERIFY(button.isEnabled());
+}
+
+void FrmMusicListTest::progressAndProblemsAreShown() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& label = control<QLabel>(*dialog, "lblPlaying");
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    const QString file = shown(folder_ / "a.wma");
+    player_->tell({.playing = true, .file = file, .position = 61'900, .duration = 205'000});
+    QCOMPARE(label.text(), "1:01 of 3:25");
+    player_->tell({.file = file, .problem = "cannot be played here"});
+    QCOMPARE(label.text(), "cannot be played here");
+    QCOMPARE(control<PlayButton>(*dialog, "cmdPlay").text(), "Play");
+    player_->tell({});
+    QCOMPARE(label.text(), "");
+}
+
+void FrmMusicListTest::fallsSilentWhenClosed() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    click(control<PlayButton>(*dialog, "cmdPlay"));
+    click(control<QPushButton>(*dialog, "cmdOK"));
+    QCOMPARE(log_.last(), "stop");
+}
+
+void FrmMusicListTest::fallsSilentWhenTheEntryIsRemoved() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 0);
+    click(control<PlayButton>(*dialog, "cmdPlay"));
+    clickRow(list, 2);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(log_.size(), 1); // the other one plays on
+    clickRow(list, 0);
+    QTest::keyClick(&list, Qt::Key_Delete);
+    QCOMPARE(log_.last(), "stop");
+}
+
+void FrmMusicListTest::realPlayerTellsOfProblems() {
+    const auto player = makeTrackPlayer();
+    const QSignalSpy changed(player.get(), &TrackPlayer::changed);
+    const QString gone = shown(folder_ / "vanished.wma");
+    player->play(gone);
+    QVERIFY(changed.count() > 0);
+    QVERIFY(!player->state().playing);
+    QCOMPARE(player->state().file, gone);
+    QCOMPARE(player->state().problem, "not found");
+    player->play(shown(folder_.folder("a folder.wma")));
+    QCOMPARE(player->state().problem, "not readable");
+    // Either nothing can be heard here, or the player finds out what the file is.
+    player->play(shown(folder_.file("empty.wma", "")));
+    QTRY_VERIFY_WITH_TIMEOUT(!player->state().problem.isEmpty(), 10'000);
+    QVERIFY(!player->state().playing);
+    player->stop();
+    QCOMPARE(player->state().problem, "");
+    QCOMPARE(player->state().file, "");
+}
+
+void FrmMusicListTest::realPlayerPlaysToTheEnd() {
+    // Half a second of silence.
+    constexpr quint32 rate = 8000;
+    QByteArray wave = QByteArray::fromHex("52494646c40f000057415645666d74201000000001000100401f0000"
+                                          "401f00000100080064617461a00f0000");
+    wave += QByteArray(rate / 2, char(0x80));
+    const QString file = shown(folder_.file("half.wav", wave.toStdString()));
+    const auto player = makeTrackPlayer();
+    player->play(file);
+    if (QMediaDevices::audioOutputs().isEmpty()) {
+        QCOMPARE(player->state().problem, "no audio device");
+        QVERIFY(!player->state().playing);
+        return;
+    }
+    QVERIFY(player->state().playing);
+    QTRY_VERIFY_WITH_TIMEOUT(player->state().duration > 0, 10'000);
+    QTRY_VERIFY_WITH_TIMEOUT(!player->state().playing, 10'000);
+    QCOMPARE(player->state().problem, "");
+}
+
+} // namespace tarvel
+
+QTEST_MAIN(tarvel::FrmMusicListTest)
+#include "frm_music_list_test.moc"
