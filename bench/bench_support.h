@@ -1,19 +1,26 @@
 // Ratios of two pieces of work, measured in turn in one run, so that a machine whose speed drifts
-// does not bend them.
+// does not bend them; in processor time, so that other work on the machine does not count.
 #pragma once
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <vector>
 
 namespace tarvel::bench {
 
+/// Processor time of this thread so far.
+inline double processorSeconds() {
+    timespec now{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
 template <class Work> double seconds(Work&& work) {
-    const auto start = std::chrono::steady_clock::now();
+    const double start = processorSeconds();
     work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return processorSeconds() - start;
 }
 
 inline double median(std::vector<double> values) {

@@ -1,5 +1,6 @@
 // Reading and generating skins, against pugixml's bare parse and a bare loop of appends.
 #include "bench_support.h"
+#include "skinfile/host_files.h"
 #include "skinfile/number_format.h"
 #include "skinfile/skin_reader.h"
 #include "skins.h"
@@ -10,15 +11,12 @@ namespace tarvel::bench {
 
 namespace {
 
-void readSkinAgainstBareParse(benchmark::State& state) {
-    const TemporaryFolder folder;
-    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
-    const auto file = saveInto(folder.path(), skin);
+void compareWithBareParse(benchmark::State& state, const std::filesystem::path& file) {
     comparePairs(
         state,
         [&] {
             SkinDocument document;
-            readSkin(document, folder.path());
+            readSkin(document, file.parent_path());
             benchmark::DoNotOptimize(document);
         },
         [&] {
@@ -27,6 +25,38 @@ void readSkinAgainstBareParse(benchmark::State& state) {
             benchmark::DoNotOptimize(document);
         });
     state.SetComplexityN(state.range(0));
+}
+
+void readSkinAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    compareWithBareParse(state, saveInto(folder.path(), skin));
+}
+
+void readModifiersAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)), Modifiers::all);
+    compareWithBareParse(state, saveInto(folder.path(), skin));
+}
+
+// A skin that an editor for texts has saved: LF line ends, which the writer never writes.
+void readForeignLineEndsAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    const auto file = saveInto(folder.path(), skin);
+    std::string text = readFile(file);
+    std::erase(text, '\r');
+    writeFile(file, text);
+    compareWithBareParse(state, file);
+}
+
+// The worst place for a line that the writer never writes: the last.
+void readForeignLastLineAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    const auto file = saveInto(folder.path(), skin);
+    writeFile(file, readFile(file) + "<!-- the end -->");
+    compareWithBareParse(state, file);
 }
 
 // A piece of the output: text, or a number that still has to become text.
@@ -126,6 +156,18 @@ BENCHMARK(readSkinAgainstBareParse)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
+BENCHMARK(readModifiersAgainstBareParse)
+    ->Arg(10'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(readForeignLineEndsAgainstBareParse)
+    ->Arg(10'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(readForeignLastLineAgainstBareParse)
+    ->Arg(10'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(generateTextAgainstBareLoop)
     ->RangeMultiplier(10)
     ->Range(100, 100'000)

@@ -7,7 +7,10 @@
 #include "skinfile/skin_reader.h"
 
 #include <cstdlib>
+#include <initializer_list>
 #include <stdexcept>
+#include <string_view>
+#include <utility>
 
 namespace tarvel::bench {
 
@@ -44,9 +47,39 @@ Element elementOf(int number) {
     return element;
 }
 
+using Values = std::initializer_list<std::pair<std::string_view, std::string_view>>;
+
+void addPart(XmlTree& tree, XmlTree::Index parent, std::string_view tag, const Values& values) {
+    const auto part = tree.addChild(parent, tag);
+    for (const auto& [name, value] : values) {
+        tree.addAttribute(part, name, value);
+    }
+}
+
+XmlTree modifierOf(int number) {
+    XmlTree tree;
+    const auto modifier = tree.addChild(XmlTree::top, "Modifier");
+    tree.addAttribute(modifier, "Type", "Glow");
+    tree.addAttribute(modifier, "Target", "Picture");
+    switch (number % 3) {
+    case 0:
+        for (const std::string_view color : {"Alpha", "Red", "Green", "Blue"}) {
+            addPart(tree, modifier, color,
+                    {{"Enable", "True"}, {"Min", "120"}, {"Max", "255"}, {"Period", "2400"}});
+        }
+        break;
+    case 1:
+        addPart(tree, modifier, "Bounds", {{"L", "170"}, {"T", "480"}, {"R", "470"}, {"B", "664"}});
+        break;
+    default:
+        addPart(tree, modifier, "Range", {{"X", "20"}, {"Y", "78"}});
+    }
+    return tree;
+}
+
 } // namespace
 
-SkinDocument mixedSkin(int count) {
+SkinDocument mixedSkin(int count, Modifiers modifiers, Screens screens) {
     SkinDocument document;
     document.editSettings([](SkinSettings& settings) {
         settings.skinName = "Benchmark";
@@ -56,8 +89,14 @@ SkinDocument mixedSkin(int count) {
         }
     });
     for (int number = 0; number < count; ++number) {
-        document.setCurrentLayout(number * screenCount / count);
-        document.addElement(elementOf(number));
+        document.setCurrentLayout(screens == Screens::all
+                                      ? static_cast<int>(std::int64_t{number} * screenCount / count)
+                                      : menuScreen);
+        Element element = elementOf(number);
+        if (modifiers == Modifiers::all) {
+            element.elementModifiers.edit() = modifierOf(number);
+        }
+        document.addElement(std::move(element));
     }
     document.setCurrentLayout(menuScreen);
     return document;
