@@ -2,6 +2,7 @@
 set(TARVEL_UI_SOURCES
   app/behaviour_buttons.cpp
   app/behaviour_panels.cpp
+  app/copy_progress.cpp
   app/create_panel.cpp
   app/easing.cpp
   app/element_commands.cpp

@@ -1,6 +1,7 @@
 // Save, load, view, background.
 #include "app/skin_file_commands.h"
 
+#include "app/copy_progress.h"
 #include "app/prompts.h"
 #include "app/text.h"
 #include "app/wait_cursor.h"
@@ -38,16 +39,17 @@ bool SkinFileCommands::mnuSave_Click() {
 
 bool SkinFileCommands::saveInto(const QString& folder) {
     SkinWriter writer(surroundings_.programFolder);
-    const SaveHooks hooks{.showProblem =
-                              [this](const std::string& description) {
-                                  prompts_.message(surroundings_.window, qtText(description));
-                              },
-                          .progress = {}};
-    SaveOutcome outcome;
-    {
-        const WaitCursor waiting;
-        outcome = saveSkin(document_, writer, hostPathOf(folder), hooks);
-    }
+    CopyProgress progress(surroundings_.window);
+    const SaveHooks hooks{
+        .showProblem =
+            [&](const std::string& description) {
+                progress.hide();
+                prompts_.message(surroundings_.window, qtText(description));
+            },
+        .progress = [&](std::string_view file, std::uintmax_t done,
+                        std::uintmax_t total) { return progress.step(file, done, total); }};
+    const SaveOutcome outcome = saveSkin(document_, writer, hostPathOf(folder), hooks);
+    progress.hide();
     if (!outcome.leftOut.empty()) {
         prompts_.message(surroundings_.window, qtText(outsideMessage(outcome.leftOut)));
     }

@@ -34,6 +34,7 @@ QWidget* makePicBox(QWidget* parent) {
 
 Pic::Pic(PictureCache& pictures, QWidget* parent)
     : QWidget(parent)
+    , pictures_(pictures)
     , painter_(pictures) {
     setObjectName("Pic");
     setAccessibleName(tr("Drawing surface"));
@@ -127,7 +128,16 @@ void Pic::paintEvent(QPaintEvent* event) {
         painter.fillRect(event->rect(), Qt::black);
         return;
     }
-    const QRegion& region = event->region();
+    // Pictures appear as they are decoded, so that a skin of hundreds shows at once.
+    constexpr int budgetMs = 20;
+    pictures_.beginSlice(budgetMs);
+    paintRegion(painter, event->region());
+    if (pictures_.endSlice()) {
+        QMetaObject::invokeMethod(this, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+    }
+}
+
+void Pic::paintRegion(QPainter& painter, const QRegion& region) {
     const int screen = document_->currentLayout();
     if (region.rectCount() > largestCount) {
         painter_.paint(painter, *document_, screen, region.boundingRect(), view());

@@ -71,7 +71,9 @@ class Pic : public QWidget {
     void catchUpLater();
     void catchUp();
     [[nodiscard]] SurfaceView view() const;
+    void paintRegion(QPainter& painter, const QRegion& region);
 
+    PictureCache& pictures_;
     const SkinDocument* document_ = nullptr;
     VideoStage videos_;
     SurfacePainter painter_;

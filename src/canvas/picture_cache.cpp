@@ -50,6 +50,11 @@ Picture success(QImage image) {
     return {Picture::State::ready, std::move(image), {}};
 }
 
+const Picture& pendingPicture() {
+    static const Picture pending{Picture::State::pending, {}, {}};
+    return pending;
+}
+
 struct Bytes {
     QByteArray data;
     QString problem;
@@ -144,6 +149,9 @@ const Picture& PictureCache::stretched(std::string_view file, QSize size) {
     if (const Picture* known = shown_.object(key)) {
         return *known;
     }
+    if (mustWait(key.file)) {
+        return pendingPicture();
+    }
     const Source& from = source(key.file);
     if (from.picture.state != Picture::State::ready) {
         // Kept here too, where it outlives the sources: the disk is not asked again at every
@@ -162,6 +170,9 @@ const Picture& PictureCache::unscaled(std::string_view file) {
     if (const Picture* known = shown_.object(key)) {
         return *known;
     }
+    if (mustWait(key.file)) {
+        return pendingPicture();
+    }
     Decoded decoded = decode(key.file, largestPixels);
     const QSize size = decoded.picture.image.size();
     if (size.width() > unscaledSide || size.height() > unscaledSide) {
@@ -176,7 +187,33 @@ QSize PictureCache::pictureSize(std::string_view file) {
         .ownSize;
 }
 
+void PictureCache::beginSlice(int budgetMs) {
+    slice_.emplace();
+    slice_->budgetMs = budgetMs;
+    slice_->clock.start();
+}
+
+bool PictureCache::endSlice() {
+    const bool leftPending = slice_ && slice_->leftPending;
+    slice_.reset();
+    return leftPending;
+}
+
+bool PictureCache::mustWait(const QByteArray& file) {
+    if (!slice_ || decodedBefore_.contains(file)) {
+        return false;
+    }
+    if (slice_->decoded > 0 && slice_->clock.elapsed() >= slice_->budgetMs) {
+        slice_->leftPending = true;
+        return true;
+    }
+    ++slice_->decoded;
+    decodedBefore_.insert(QByteArray(file.constData(), file.size()));
+    return false;
+}
+
 void PictureCache::clear() {
+    decodedBefore_.clear();
     shown_.clear();
     sources_.clear();
     uncachedPicture_ = {};

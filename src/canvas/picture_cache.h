@@ -3,11 +3,14 @@
 
 #include <QByteArray>
 #include <QCache>
+#include <QElapsedTimer>
 #include <QImage>
+#include <QSet>
 #include <QSize>
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace tarvel {
@@ -52,6 +55,12 @@ class PictureCache {
     /// The picture's own size in pixels; empty when it cannot be read.
     QSize pictureSize(std::string_view file);
 
+    /// From here to endSlice(), files that were never decoded before are decoded only while less
+    /// than `budgetMs` milliseconds have passed, one at least; others are pending.
+    void beginSlice(int budgetMs);
+    /// Whether anything was left pending since beginSlice(): then paint again soon.
+    bool endSlice();
+
     void clear();
 
     /// Decoded bytes held at present.
@@ -75,9 +84,20 @@ class PictureCache {
 
     const Source& source(const QByteArray& file);
     const Picture& keep(const Key& key, Picture picture);
+    bool mustWait(const QByteArray& file);
 
     QCache<Key, Picture> shown_;
     QCache<QByteArray, Source> sources_;
+    // The slice under way. A file that was decoded once never waits again: where memory is short it
+    // may be forgotten between two paints, and would be waited for without end.
+    struct Slice {
+        QElapsedTimer clock;
+        int budgetMs = 0;
+        int decoded = 0;
+        bool leftPending = false;
+    };
+    std::optional<Slice> slice_;
+    QSet<QByteArray> decodedBefore_;
     // Answers that are too large for the caches.
     Picture uncachedPicture_;
     Source uncachedSource_;

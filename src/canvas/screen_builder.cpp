@@ -39,21 +39,37 @@ struct PosTexts {
 };
 
 std::string_view* memberNamed(PosTexts& pos, std::string_view name) {
-    const auto is = [name](std::string_view other) { return equalsIgnoringCase(name, other); };
+    constexpr char caseBit = 0x20;
+    const auto letter = static_cast<char>(name.empty() ? 0 : name.front() | caseBit);
     if (name.size() == 1) {
-        return is("l")   ? &pos.l
-               : is("t") ? &pos.t
-               : is("w") ? &pos.w
-               : is("h") ? &pos.h
-               : is("x") ? &pos.x
-               : is("y") ? &pos.y
-                         : nullptr;
+        switch (letter) {
+        case 'l':
+            return &pos.l;
+        case 't':
+            return &pos.t;
+        case 'w':
+            return &pos.w;
+        case 'h':
+            return &pos.h;
+        case 'x':
+            return &pos.x;
+        case 'y':
+            return &pos.y;
+        default:
+            return nullptr;
+        }
     }
-    return is("x1")   ? &pos.x1
-           : is("y1") ? &pos.y1
-           : is("x2") ? &pos.x2
-           : is("y2") ? &pos.y2
-                      : nullptr;
+    if (name.size() != 2 || (letter != 'x' && letter != 'y')) {
+        return nullptr;
+    }
+    switch (name.back()) {
+    case '1':
+        return letter == 'x' ? &pos.x1 : &pos.y1;
+    case '2':
+        return letter == 'x' ? &pos.x2 : &pos.y2;
+    default:
+        return nullptr;
+    }
 }
 
 PosTexts posTexts(XmlNode node) {

@@ -290,7 +290,7 @@ void writeFile(const fs::path& path, std::string_view bytes) {
     replacement.takePlace();
 }
 
-bool copyFile(const fs::path& from, const fs::path& to, const CopyProgress& progress) {
+bool copyFile(const fs::path& from, const fs::path& to, const CopyStep& progress) {
     std::error_code error;
     if (fs::equivalent(from, to, error) && !error) {
         return true;

@@ -45,13 +45,13 @@ class FileError : public std::runtime_error {
 void writeFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Told how many bytes of how many are copied; false cancels.
-using CopyProgress = std::function<bool(std::uintmax_t done, std::uintmax_t total)>;
+using CopyStep = std::function<bool(std::uintmax_t done, std::uintmax_t total)>;
 
 /// Copies a file over another, which is replaced only when the copy is whole. A file is never
 /// copied onto itself, through whatever link: nothing happens then. Returns false when cancelled,
 /// and leaves the older file then, as on failure.
 bool copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
-              const CopyProgress& progress = {});
+              const CopyStep& progress = {});
 
 /// Makes a folder; that it exists already is no failure.
 void createFolder(const std::filesystem::path& path);

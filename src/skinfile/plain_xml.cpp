@@ -44,36 +44,59 @@ bool is(char c, CharacterClass wanted) {
     return (classes[static_cast<unsigned char>(c)] & wanted) != 0;
 }
 
-void appendDecoded(std::string& target, std::string_view raw) {
+// The character that an entity at the start of the text stands for, and the entity's length.
+std::pair<char, std::size_t> entityAt(std::string_view text) {
     using Entity = std::pair<std::string_view, char>;
     constexpr std::array<Entity, 5> entities = {
         Entity{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}};
+    for (const auto& [entity, character] : entities) {
+        if (text.starts_with(entity)) {
+            return {character, entity.size()};
+        }
+    }
+    return {'&', 1};
+}
+
+void appendDecoded(std::string& target, std::string_view raw) {
     while (!raw.empty()) {
-        const auto stop = std::min(raw.find_first_of("&\r"), raw.size());
+        std::size_t stop = 0;
+        while (stop < raw.size() && !is(raw[stop], endsText)) {
+            ++stop;
+        }
         target.append(raw.substr(0, stop));
         raw.remove_prefix(stop);
         if (raw.starts_with('\r')) {
             target += '\n';
             raw.remove_prefix(raw.starts_with("\r\n") ? 2 : 1);
-        } else if (raw.starts_with('&')) {
-            const auto* const found =
-                std::find_if(entities.begin(), entities.end(),
-                             [raw](const Entity& entity) { return raw.starts_with(entity.first); });
-            const bool known = found != entities.end();
-            target += known ? found->second : '&';
-            raw.remove_prefix(known ? found->first.size() : 1);
+        } else if (!raw.empty()) {
+            const auto [character, length] = entityAt(raw);
+            target += character;
+            raw.remove_prefix(length);
         }
     }
 }
 
-class PlainReader {
+class Walk {
+    using Open = PlainXmlReader::Open;
+    using Piece = PlainXmlReader::Piece;
+
   public:
-    PlainReader(XmlTree& tree, XmlTree::Index parent, std::size_t from, std::size_t to)
+    struct Memory {
+        std::vector<Open>& open;
+        std::vector<Piece>& pieces;
+        std::string& joined;
+    };
+    Walk(XmlTree& tree, XmlTree::Index parent, std::size_t from, std::size_t to, Memory memory)
         : tree_(tree)
         , parent_(parent)
         , from_(from)
         , to_(to)
-        , at_(from) {
+        , at_(from)
+        , open_(memory.open)
+        , pieces_(memory.pieces)
+        , joined_(memory.joined) {
+        open_.clear();
+        pieces_.clear();
         lookAgain();
     }
 
@@ -87,16 +110,6 @@ class PlainReader {
     }
 
   private:
-    struct Piece {
-        XmlTree::Span span;
-        bool asItIs = true;
-    };
-    struct Open {
-        XmlTree::Index node = 0;
-        XmlTree::Span name;
-        std::size_t firstPiece = 0;
-    };
-
     // The text moves when the tree's own text grows.
     void lookAgain() { text_ = tree_.text().substr(0, to_); }
 
@@ -268,24 +281,24 @@ class PlainReader {
         if (pieces_.size() == firstPiece + 1 && pieces_.back().asItIs) {
             content = pieces_.back().span;
         } else if (pieces_.size() > firstPiece) {
-            scratch_.clear();
+            joined_.clear();
             for (std::size_t i = firstPiece; i < pieces_.size(); ++i) {
-                appendDecoded(scratch_, view(pieces_[i].span));
+                appendDecoded(joined_, view(pieces_[i].span));
             }
-            content = addScratch();
+            content = addJoined();
         }
         pieces_.resize(firstPiece);
         return content;
     }
 
     XmlTree::Span decoded(XmlTree::Span raw) {
-        scratch_.clear();
-        appendDecoded(scratch_, view(raw));
-        return addScratch();
+        joined_.clear();
+        appendDecoded(joined_, view(raw));
+        return addJoined();
     }
 
-    XmlTree::Span addScratch() {
-        const auto span = tree_.addText(scratch_);
+    XmlTree::Span addJoined() {
+        const auto span = tree_.addText(joined_);
         lookAgain();
         return span;
     }
@@ -296,16 +309,16 @@ class PlainReader {
     std::size_t to_;
     std::size_t at_;
     std::string_view text_;
-    std::vector<Open> open_;
-    std::vector<Piece> pieces_; // of all open elements, innermost last
-    std::string scratch_;
+    std::vector<Open>& open_;
+    std::vector<Piece>& pieces_;
+    std::string& joined_;
 };
 
 } // namespace
 
-bool parsePlainXml(XmlTree& tree, XmlTree::Index parent, std::size_t from, std::size_t to) {
+bool PlainXmlReader::parse(XmlTree& tree, XmlTree::Index parent, std::size_t from, std::size_t to) {
     const auto before = tree.mark(parent);
-    if (PlainReader(tree, parent, from, to).read()) {
+    if (Walk(tree, parent, from, to, {open_, pieces_, joined_}).read()) {
         return true;
     }
     tree.backTo(before);

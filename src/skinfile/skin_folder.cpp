@@ -99,7 +99,7 @@ class SaveRun {
         if (target == source) {
             return true;
         }
-        CopyProgress progress;
+        CopyStep progress;
         if (hooks_.progress) {
             progress = [&](std::uintmax_t done, std::uintmax_t total) {
                 return hooks_.progress(name, done, total);

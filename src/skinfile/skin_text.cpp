@@ -35,6 +35,9 @@ class FormReader {
 
     // False at the first line that has no form; the tree is of no use then.
     bool read() {
+        if (!endsAsWritten()) {
+            return false;
+        }
         while (at_ < size_) {
             const auto line = nextLine();
             if (!line || !take(*line)) {
@@ -50,6 +53,13 @@ class FormReader {
         Section section = Section::file;
         XmlTree::Index node = XmlTree::top;
     };
+
+    // Whether the last line is the writer's: most texts of others are told by that at once.
+    [[nodiscard]] bool endsAsWritten() const {
+        const auto text = tree_.text();
+        const auto last = text.find_last_not_of("\t\r\n");
+        return last != std::string_view::npos && text.substr(0, last + 1).ends_with("</Skin>");
+    }
 
     // The line at at_ without indentation; nothing when no CR LF ends it.
     std::optional<std::string_view> nextLine() {
@@ -150,7 +160,7 @@ class FormReader {
     // The XML from start up to at_.
     bool takeXml(std::size_t start) {
         const auto parent = levels_[depth_].node;
-        if (parsePlainXml(tree_, parent, start, at_)) {
+        if (plainXml_.parse(tree_, parent, start, at_)) {
             return true;
         }
         try {
@@ -169,6 +179,7 @@ class FormReader {
     std::array<Level, deepest> levels_{};
     std::size_t depth_ = 0;
     WriterLine match_; // of the line at hand
+    PlainXmlReader plainXml_;
 };
 
 void appendXmlEscaped(std::string& text, std::string_view raw) {
@@ -310,7 +321,7 @@ XmlTree readSkinText(std::string bytes, SkinTextNotes& notes) {
         return tree;
     }
     tree.backTo(empty);
-    if (parsePlainXml(tree, XmlTree::top, 0, size) && tree.root()) {
+    if (PlainXmlReader().parse(tree, XmlTree::top, 0, size) && tree.root()) {
         return tree;
     }
     const std::string text(tree.text().substr(0, size));

@@ -217,6 +217,19 @@ const FormTable& table() {
     return forms;
 }
 
+// starts_with without a call: the pieces of a form are a few characters long.
+bool startsWith(std::string_view text, std::string_view piece) {
+    if (text.size() < piece.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < piece.size(); ++i) {
+        if (text[i] != piece[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool belongs(char c, Values values) {
     switch (values) {
     case Values::word:
@@ -267,7 +280,7 @@ bool matchConstrained(std::string_view line, const LineForm& form, WriterLine& m
         }
         const auto value = line.substr(start, at - start);
         if (value.empty() || (form.values == Values::color && !value.starts_with("0x")) ||
-            !line.substr(at).starts_with(form.pieces[piece])) {
+            !startsWith(line.substr(at), form.pieces[piece])) {
             return false;
         }
         match.values[match.valueCount++] = value;
@@ -280,7 +293,7 @@ bool matchConstrained(std::string_view line, const LineForm& form, WriterLine& m
 bool startsLike(std::string_view line, const LineForm& form) {
     const auto start = form.pieces[0];
     return form.values == Values::tag || (line.size() >= start.size() && line[1] == start[1] &&
-                                          line[2] == start[2] && line.starts_with(start));
+                                          line[2] == start[2] && startsWith(line, start));
 }
 
 bool matchForm(std::string_view line, const LineForm& form, WriterLine& match) {

@@ -1,19 +1,12 @@
 // The file list of the Music dialog, and listening to its files.
-#include "dialogs/frm_music.h"
 #include "dialogs/music_list.h"
 #include "dialogs/play_button.h"
-#include "support/dialog_support.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/music_support.h"
 
 #include <QAudioDevice>
-#include <QCheckBox>
-#include <QFrame>
 #include <QLabel>
 #include <QMediaDevices>
-#include <QRadioButton>
 #include <QSignalSpy>
-#include <QTimer>
 
 namespace tarvel {
 
@@ -21,80 +14,11 @@ using test::click;
 using test::clickRow;
 using test::control;
 
-namespace {
-
-// The four options, and no files.
-MusicSettings options(bool yes, bool global, bool custom, bool random) {
-    MusicSettings settings;
-    settings.optYesMusic = yes;
-    settings.chkGlobal = global;
-    settings.chkCustom = custom;
-    settings.chkRandom = random;
-    return settings;
-}
-
-constexpr int settled = Easing::duration + 150; // milliseconds
-
-// Notes what it is told to play, and tells what a test wants.
-class FakePlayer : public TrackPlayer {
-  public:
-    explicit FakePlayer(QStringList& log)
-        : log_(log) {}
-
-    void play(const QString& file) override {
-        log_ << "play " + file;
-        setState({.playing = true, .file = file});
-    }
-    void stop() override {
-        log_ << "stop";
-        setState({});
-    }
-    void tell(const State& state) { setState(state); }
-
-  private:
-    QStringList& log_;
-};
-
-QString shown(const std::filesystem::path& path) {
-    return QString::fromStdString(path.string());
-}
-
-// Where everything stands, to compare states of the dialog.
-QStringList geometries(const QWidget& dialog) {
-    QStringList all;
-    for (const char* name : {"optYesMusic", "optNoMusic", "fraStuff", "chkGlobal", "chkCustom",
-                             "fraMusic", "cmdAdd", "lstMusic", "chkRandom", "cmdOK"}) {
-        const auto& widget = control<QWidget>(dialog, QLatin1String(name));
-        if (widget.isVisible()) {
-            const QRect at = widget.geometry();
-            all << QStringLiteral("%1 %2,%3 %4x%5")
-                       .arg(QLatin1String(name))
-                       .arg(at.x())
-                       .arg(at.y())
-                       .arg(at.width())
-                       .arg(at.height());
-        }
-    }
-    return all << QStringLiteral("form %1x%2").arg(dialog.width()).arg(dialog.height());
-}
-
-int bottomOf(const QWidget& dialog, const char* name) {
-    const auto& widget = control<QWidget>(dialog, QLatin1String(name));
-    return widget.mapTo(&dialog, QPoint(0, widget.height())).y();
-}
-
-int topOf(const QWidget& dialog, const char* name) {
-    const auto& widget = control<QWidget>(dialog, QLatin1String(name));
-    return widget.mapTo(&dialog, QPoint(0, 0)).y();
-}
-
-} // namespace
-
-class FrmMusicListTest : public QObject {
+class FrmMusicListTest : public QObject, protected test::MusicFixture {
     Q_OBJECT
 
   private slots:
-    void init();
+    void init() { startAfresh(); }
     void severalFilesAreAdded();
     void nothingIsAdded_data();
     void nothingIsAdded();
@@ -113,51 +37,14 @@ class FrmMusicListTest : public QObject {
     void fallsSilentWhenTheEntryIsRemoved();
     void realPlayerTellsOfProblems();
     void realPlayerPlaysToTheEnd();
-
-  private:
-    const MusicSettings& music() const { return document_.settings().music; }
-    void setMusic(const MusicSettings& value) {
-        document_.editSettings([&](SkinSettings& settings) { settings.music = value; });
-    }
-    // On, custom, with three files that exist.
-    void setThreeFiles();
-    std::unique_ptr<FrmMusic> makeDialog();
-
-    SkinDocument document_;
-    std::unique_ptr<test::ScriptedPrompts> prompts_;
-    QStringList log_;
-    FakePlayer* player_ = nullptr;
-    TemporaryFolder folder_;
 };
-
-void FrmMusicListTest::init() {
-    document_ = SkinDocument();
-    prompts_ = std::make_unique<test::ScriptedPrompts>();
-    log_.clear();
-}
-
-void FrmMusicListTest::setThreeFiles() {
-    MusicSettings value = options(true, false, true, false);
-    for (const char* name : {"a.wma", "b.wma", "c.wma"}) {
-        folder_.file(name, "music");
-        value.musicFiles.push_back(folder_.document(name));
-    }
-    value.lstMusic = {0, 1, 2};
-    setMusic(value);
-}
-
-std::unique_ptr<FrmMusic> FrmMusicListTest::makeDialog() {
-    auto player = std::make_unique<FakePlayer>(log_);
-    player_ = player.get();
-    return std::make_unique<FrmMusic>(document_, *prompts_, nullptr, std::move(player));
-}
 
 void FrmMusicListTest::severalFilesAreAdded() {
     setThreeFiles();
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
-    const QString first = shown(folder_.file("new/First Song.mp3", "x"));
-    const QString second = shown(folder_ / "gone.wma");
+    const QString first = QString::fromStdString(folder_.file("new/First Song.mp3", "x").string());
+    const QString second = inFolder("gone.wma");
     prompts_->fileChoices = {{first, second}};
     click(control<QPushButton>(*dialog, "cmdAdd"));
     QCOMPARE(prompts_->severals, QList<bool>{true});
@@ -203,12 +90,11 @@ void FrmMusicListTest::deleteRemovesTheEntryOnly() {
     auto& list = control<MusicList>(*dialog, "lstMusic");
     clickRow(list, 1);
     QTest::keyClick(&list, Qt::Key_Delete);
-    QCOMPARE(test::rowTexts(list),
-             (QStringList{shown(folder_ / "a.wma"), shown(folder_ / "c.wma")}));
+    QCOMPARE(test::rowTexts(list), (QStringList{inFolder("a.wma"), inFolder("c.wma")}));
     QCOMPARE(list.item(0)->data(Qt::UserRole).toInt(), 0);
     QCOMPARE(list.item(1)->data(Qt::UserRole).toInt(), 2);
     QCOMPARE(music(), expected);
-    prompts_->fileChoices = {{shown(folder_ / "d.wma")}};
+    prompts_->fileChoices = {{inFolder("d.wma")}};
     click(control<QPushButton>(*dialog, "cmdAdd"));
     QCOMPARE(list.item(2)->data(Qt::UserRole).toInt(), 3);
 }
@@ -261,9 +147,9 @@ void FrmMusicListTest::droppedMusicIsAdded() {
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     auto& list = control<MusicList>(*dialog, "lstMusic");
-    const QString song = shown(folder_.file("SONG.WMA", "x"));
-    const QString picture = shown(folder_.file("cover.png", "x"));
-    const QString other = shown(folder_.file("other.mp3", "x"));
+    const QString song = QString::fromStdString(folder_.file("SONG.WMA", "x").string());
+    const QString picture = QString::fromStdString(folder_.file("cover.png", "x").string());
+    const QString other = QString::fromStdString(folder_.file("other.mp3", "x").string());
     QVERIFY(test::dropFiles(*list.viewport(), {song, picture, other}));
     QCOMPARE(list.count(), 5);
     QCOMPARE(list.item(3)->text(), song);
@@ -278,12 +164,12 @@ void FrmMusicListTest::otherDropsAreRefused() {
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     auto& list = control<MusicList>(*dialog, "lstMusic");
-    const QString picture = shown(folder_.file("cover.png", "x"));
-    const QString folder = shown(folder_.folder("folder.wma"));
-    const QString gone = shown(folder_ / "gone.wma");
+    const QString picture = QString::fromStdString(folder_.file("cover.png", "x").string());
+    const QString folder = QString::fromStdString(folder_.folder("folder.wma").string());
+    const QString gone = inFolder("gone.wma");
     QVERIFY(!test::dropFiles(*list.viewport(), {picture, folder, gone}));
     QVERIFY(!test::dropFiles(*list.viewport(), {}));
-    QVERIFY(!test::dropFiles(control<QWidget>(*dialog, "chkGlobal"), {shown(folder_ / "a.wma")}));
+    QVERIFY(!test::dropFiles(control<QWidget>(*dialog, "chkGlobal"), {inFolder("a.wma")}));
     QCOMPARE(music(), before);
 }
 
@@ -308,7 +194,7 @@ void FrmMusicListTest::selectedFileIsPlayed() {
     clickRow(list, 1);
     QCOMPARE(log_, QStringList());
     click(button);
-    QCOMPARE(log_, QStringList{"play " + shown(folder_ / "b.wma")});
+    QCOMPARE(log_, QStringList{"play " + inFolder("b.wma")});
     QVERIFY(button.isPlaying());
     QCOMPARE(button.text(), "Stop");
     click(button);
@@ -322,7 +208,7 @@ void FrmMusicListTest::selectedFileIsPlayed() {
     clickRow(list, 2);
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
                        list.visualItemRect(list.item(2)).center());
-    QCOMPARE(log_.last(), "play " + shown(folder_ / "c.wma"));
+    QCOMPARE(log_.last(), "play " + inFolder("c.wma"));
 }
 
 void FrmMusicListTest::otherFileTakesThePlace() {
@@ -336,8 +222,7 @@ void FrmMusicListTest::otherFileTakesThePlace() {
     clickRow(list, 2);
     QVERIFY(!button.isPlaying()); // a press would play the other one
     click(button);
-    QCOMPARE(log_,
-             (QStringList{"play " + shown(folder_ / "a.wma"), "play " + shown(folder_ / "c.wma")}));
+    QCOMPARE(log_, (QStringList{"play " + inFolder("a.wma"), "play " + inFolder("c.wma")}));
     QVERIFY(button.isPlaying());
 }
 
@@ -359,7 +244,7 @@ void FrmMusicListTest::progressAndProblemsAreShown() {
     QVERIFY(test::open(*dialog));
     auto& label = control<QLabel>(*dialog, "lblPlaying");
     clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
-    const QString file = shown(folder_ / "a.wma");
+    const QString file = inFolder("a.wma");
     player_->tell({.playing = true, .file = file, .position = 61'900, .duration = 205'000});
     QCOMPARE(label.text(), "1:01 of 3:25");
     player_->tell({.file = file, .problem = "cannot be played here"});
@@ -397,16 +282,16 @@ void FrmMusicListTest::fallsSilentWhenTheEntryIsRemoved() {
 void FrmMusicListTest::realPlayerTellsOfProblems() {
     const auto player = makeTrackPlayer();
     const QSignalSpy changed(player.get(), &TrackPlayer::changed);
-    const QString gone = shown(folder_ / "vanished.wma");
+    const QString gone = inFolder("vanished.wma");
     player->play(gone);
     QVERIFY(changed.count() > 0);
     QVERIFY(!player->state().playing);
     QCOMPARE(player->state().file, gone);
     QCOMPARE(player->state().problem, "not found");
-    player->play(shown(folder_.folder("a folder.wma")));
+    player->play(QString::fromStdString(folder_.folder("a folder.wma").string()));
     QCOMPARE(player->state().problem, "not readable");
     // Either nothing can be heard here, or the player finds out what the file is.
-    player->play(shown(folder_.file("empty.wma", "")));
+    player->play(QString::fromStdString(folder_.file("empty.wma", "").string()));
     QTRY_VERIFY_WITH_TIMEOUT(!player->state().problem.isEmpty(), 10'000);
     QVERIFY(!player->state().playing);
     player->stop();
@@ -420,7 +305,8 @@ void FrmMusicListTest::realPlayerPlaysToTheEnd() {
     QByteArray wave = QByteArray::fromHex("52494646c40f000057415645666d74201000000001000100401f0000"
                                           "401f00000100080064617461a00f0000");
     wave += QByteArray(rate / 2, char(0x80));
-    const QString file = shown(folder_.file("half.wav", wave.toStdString()));
+    const QString file =
+        QString::fromStdString(folder_.file("half.wav", wave.toStdString()).string());
     const auto player = makeTrackPlayer();
     player->play(file);
     if (QMediaDevices::audioOutputs().isEmpty()) {

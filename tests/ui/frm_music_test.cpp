@@ -1,63 +1,21 @@
 // The Music dialog.
-#include "dialogs/frm_music.h"
 #include "dialogs/music_list.h"
-#include "dialogs/play_button.h"
-#include "support/dialog_support.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/music_support.h"
 
-#include <QAudioDevice>
 #include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
-#include <QMediaDevices>
+#include <QPushButton>
 #include <QRadioButton>
-#include <QSignalSpy>
 #include <QTimer>
 
 namespace tarvel {
 
 using test::click;
-using test::clickRow;
 using test::control;
+using test::settled;
 
 namespace {
-
-// The four options, and no files.
-MusicSettings options(bool yes, bool global, bool custom, bool random) {
-    MusicSettings settings;
-    settings.optYesMusic = yes;
-    settings.chkGlobal = global;
-    settings.chkCustom = custom;
-    settings.chkRandom = random;
-    return settings;
-}
-
-constexpr int settled = Easing::duration + 150; // milliseconds
-
-// Notes what it is told to play, and tells what a test wants.
-class FakePlayer : public TrackPlayer {
-  public:
-    explicit FakePlayer(QStringList& log)
-        : log_(log) {}
-
-    void play(const QString& file) override {
-        log_ << "play " + file;
-        setState({.playing = true, .file = file});
-    }
-    void stop() override {
-        log_ << "stop";
-        setState({});
-    }
-    void tell(const State& state) { setState(state); }
-
-  private:
-    QStringList& log_;
-};
-
-QString shown(const std::filesystem::path& path) {
-    return QString::fromStdString(path.string());
-}
 
 // Where everything stands, to compare states of the dialog.
 QStringList geometries(const QWidget& dialog) {
@@ -90,11 +48,11 @@ int topOf(const QWidget& dialog, const char* name) {
 
 } // namespace
 
-class FrmMusicTest : public QObject {
+class FrmMusicTest : public QObject, protected test::MusicFixture {
     Q_OBJECT
 
   private slots:
-    void init();
+    void init() { startAfresh(); }
     void showsItsTexts();
     void startsWithoutMusic();
     void showsTheDocumentEachTimeItIsOpened();
@@ -109,44 +67,7 @@ class FrmMusicTest : public QObject {
     void closes_data();
     void closes();
     void controlsHaveAccessibleNames();
-
-  private:
-    const MusicSettings& music() const { return document_.settings().music; }
-    void setMusic(const MusicSettings& value) {
-        document_.editSettings([&](SkinSettings& settings) { settings.music = value; });
-    }
-    // On, custom, with three files that exist.
-    void setThreeFiles();
-    std::unique_ptr<FrmMusic> makeDialog();
-
-    SkinDocument document_;
-    std::unique_ptr<test::ScriptedPrompts> prompts_;
-    QStringList log_;
-    FakePlayer* player_ = nullptr;
-    TemporaryFolder folder_;
 };
-
-void FrmMusicTest::init() {
-    document_ = SkinDocument();
-    prompts_ = std::make_unique<test::ScriptedPrompts>();
-    log_.clear();
-}
-
-void FrmMusicTest::setThreeFiles() {
-    MusicSettings value = options(true, false, true, false);
-    for (const char* name : {"a.wma", "b.wma", "c.wma"}) {
-        folder_.file(name, "music");
-        value.musicFiles.push_back(folder_.document(name));
-    }
-    value.lstMusic = {0, 1, 2};
-    setMusic(value);
-}
-
-std::unique_ptr<FrmMusic> FrmMusicTest::makeDialog() {
-    auto player = std::make_unique<FakePlayer>(log_);
-    player_ = player.get();
-    return std::make_unique<FrmMusic>(document_, *prompts_, nullptr, std::move(player));
-}
 
 void FrmMusicTest::showsItsTexts() {
     const auto dialog = makeDialog();
@@ -194,13 +115,12 @@ void FrmMusicTest::showsTheDocumentEachTimeItIsOpened() {
     QVERIFY(control<QCheckBox>(*dialog, "chkCustom").isChecked());
     QVERIFY(!control<QCheckBox>(*dialog, "chkRandom").isChecked());
     const auto& list = control<MusicList>(*dialog, "lstMusic");
-    QCOMPARE(test::rowTexts(list),
-             (QStringList{shown(folder_ / "c.wma"), shown(folder_ / "a.wma")}));
+    QCOMPARE(test::rowTexts(list), (QStringList{inFolder("c.wma"), inFolder("a.wma")}));
     QCOMPARE(list.item(0)->data(Qt::UserRole).toInt(), 2);
     QCOMPARE(list.item(1)->data(Qt::UserRole).toInt(), 0);
     QCOMPARE(music(), value);
     dialog->hide();
-    setMusic(options(false, false, false, true));
+    setMusic(test::musicOptions(false, false, false, true));
     QVERIFY(test::open(*dialog));
     QVERIFY(control<QRadioButton>(*dialog, "optNoMusic").isChecked());
     QVERIFY(control<QCheckBox>(*dialog, "chkRandom").isChecked());
@@ -230,7 +150,7 @@ void FrmMusicTest::optionsGoToTheDocumentAtOnce() {
     press("chkCustom");
     press("chkGlobal");
     press("optNoMusic");
-    QCOMPARE(music(), options(false, false, false, true));
+    QCOMPARE(music(), test::musicOptions(false, false, false, true));
 }
 
 void FrmMusicTest::controlsStandBelowOneAnother_data() {
@@ -252,7 +172,7 @@ void FrmMusicTest::controlsStandBelowOneAnother() {
     QFETCH(bool, yes);
     QFETCH(bool, custom);
     QFETCH(QStringList, order);
-    setMusic(options(yes, false, custom, false));
+    setMusic(test::musicOptions(yes, false, custom, false));
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     QCOMPARE(control<QFrame>(*dialog, "fraStuff").isVisible(), yes);
@@ -278,12 +198,12 @@ void FrmMusicTest::growsAndShrinksToTheExactPlaces() {
         MusicSettings state;
     };
     const std::array<Step, 6> steps = {{
-        {"optYesMusic", options(true, false, false, false)},
-        {"chkCustom", options(true, false, true, false)},
-        {"optNoMusic", options(false, false, true, false)},
-        {"optYesMusic", options(true, false, true, false)},
-        {"chkCustom", options(true, false, false, false)},
-        {"optNoMusic", options(false, false, false, false)},
+        {"optYesMusic", test::musicOptions(true, false, false, false)},
+        {"chkCustom", test::musicOptions(true, false, true, false)},
+        {"optNoMusic", test::musicOptions(false, false, true, false)},
+        {"optYesMusic", test::musicOptions(true, false, true, false)},
+        {"chkCustom", test::musicOptions(true, false, false, false)},
+        {"optNoMusic", test::musicOptions(false, false, false, false)},
     }};
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
@@ -295,7 +215,7 @@ void FrmMusicTest::growsAndShrinksToTheExactPlaces() {
         QTest::qWait(settled);
         SkinDocument same;
         same.editSettings([&](SkinSettings& settings) { settings.music = state; });
-        FrmMusic fresh(same, *prompts_, nullptr, std::make_unique<FakePlayer>(log_));
+        FrmMusic fresh(same, *prompts_, nullptr, std::make_unique<test::FakePlayer>(log_));
         QVERIFY(test::open(fresh));
         QCOMPARE(geometries(*dialog), geometries(fresh));
     }
@@ -304,10 +224,12 @@ void FrmMusicTest::growsAndShrinksToTheExactPlaces() {
 void FrmMusicTest::growsWhileEventsRun() {
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
+    const auto& ok = control<QPushButton>(*dialog, "cmdOK");
     const int small = dialog->height();
-    QList<int> heights;
+    const int upper = ok.y();
+    QList<int> tops;
     QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] { heights << dialog->height(); });
+    connect(&timer, &QTimer::timeout, this, [&] { tops << ok.y(); });
     timer.start(10);
     QElapsedTimer clock;
     clock.start();
@@ -315,13 +237,13 @@ void FrmMusicTest::growsWhileEventsRun() {
     QVERIFY2(clock.elapsed() < 100, "the click waited for the animation");
     QTest::qWait(settled);
     timer.stop();
-    const int large = dialog->height();
-    QVERIFY(large > small);
-    const auto between = std::count_if(heights.begin(), heights.end(), [&](int height) {
-        return height > small && height < large;
-    });
+    const int lower = ok.y();
+    QCOMPARE(dialog->height() - small, lower - upper);
+    QVERIFY(lower > upper);
+    const auto between = std::count_if(tops.begin(), tops.end(),
+                                       [&](int top) { return top > upper && top < lower; });
     QVERIFY2(between >= 3, qPrintable(QString::number(between)));
-    QVERIFY(std::is_sorted(heights.begin(), heights.end()));
+    QVERIFY(std::is_sorted(tops.begin(), tops.end()));
 }
 
 void FrmMusicTest::furtherClicksWhileItGrowsAreHarmless() {
@@ -371,7 +293,7 @@ void FrmMusicTest::worksByKeysAlone() {
     press(Qt::Key_Space);
     QVERIFY(music().chkCustom);
     QTest::qWait(settled);
-    prompts_->fileChoices = {{shown(folder_.file("k.wma", "x"))}};
+    prompts_->fileChoices = {{QString::fromStdString(folder_.file("k.wma", "x").string())}};
     press(Qt::Key_Tab);
     visited << dialog->focusWidget()->objectName();
     press(Qt::Key_Space);

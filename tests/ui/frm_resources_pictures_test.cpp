@@ -1,17 +1,9 @@
 // Thumbnails and preview of the Resources dialog.
-#include "canvas/picture_cache.h"
-#include "dialogs/frm_resources.h"
 #include "dialogs/resource_preview.h"
-#include "dialogs/resource_rules.h"
 #include "dialogs/resource_thumbnails.h"
-#include "support/dialog_support.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/resources_support.h"
 
-#include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 
 namespace tarvel {
@@ -19,15 +11,10 @@ namespace tarvel {
 using test::click;
 using test::clickRow;
 using test::control;
-using test::typeOver;
 
 namespace {
 
 constexpr int patience = 20'000; // milliseconds
-
-QString shown(const std::filesystem::path& path) {
-    return QString::fromStdString(path.string());
-}
 
 // The colour in the middle of a row's picture.
 QColor thumbnailColor(const QListWidget& list, int row) {
@@ -43,12 +30,12 @@ QColor centreColor(QWidget& widget) {
 
 } // namespace
 
-class FrmResourcesPicturesTest : public QObject {
+class FrmResourcesPicturesTest : public QObject, protected test::ResourcesFixture {
     Q_OBJECT
 
   private slots:
     void initTestCase();
-    void init();
+    void init() { startAfresh(); }
     void cleanup() { dialog_.reset(); }
     void rowsGetThumbnails();
     void visibleRowsGetThumbnailsFirst();
@@ -62,50 +49,10 @@ class FrmResourcesPicturesTest : public QObject {
     void previewShowsTheIconPictureForPresets();
     void outsideFilesAreNotOpened();
     void previewShowsTheFileThatIsFilledIn();
-
-  private:
-    const std::vector<Resource>& resources() const { return document_.settings().resources; }
-    // Writes a picture of one colour and returns its host path.
-    QString picture(const char* name, const QColor& color, QSize size = {60, 40});
-    void open();
-    template <class Control> Control& at(const char* name) {
-        return control<Control>(*dialog_, QLatin1String(name));
-    }
-    void choosePresets() {
-        click(at<QWidget>("optPreset"));
-        QVERIFY(at<QGroupBox>("fraPreset").isVisible());
-    }
-
-    SkinDocument document_;
-    std::unique_ptr<test::ScriptedPrompts> prompts_;
-    std::unique_ptr<PictureCache> pictures_;
-    std::unique_ptr<FrmResources> dialog_;
-    TemporaryFolder folder_;
 };
 
 void FrmResourcesPicturesTest::initTestCase() {
     QVERIFY(QFile::exists(":/tarvel/imgCustom.png"));
-}
-
-void FrmResourcesPicturesTest::init() {
-    document_ = SkinDocument();
-    prompts_ = std::make_unique<test::ScriptedPrompts>();
-    pictures_ = std::make_unique<PictureCache>();
-    dialog_ = std::make_unique<FrmResources>(document_, *prompts_, *pictures_);
-}
-
-QString FrmResourcesPicturesTest::picture(const char* name, const QColor& color, QSize size) {
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
-    const QString path = shown(folder_ / name);
-    if (!image.save(path)) {
-        qFatal("cannot write %s", qPrintable(path));
-    }
-    return path;
-}
-
-void FrmResourcesPicturesTest::open() {
-    QVERIFY(test::open(*dialog_));
 }
 
 void FrmResourcesPicturesTest::rowsGetThumbnails() {
@@ -209,7 +156,7 @@ void FrmResourcesPicturesTest::badFilesAreShownAsSuch() {
     if (file == "bomb.png") {
         QImage bomb(20'000, 20'000, QImage::Format_Mono); // small on disk, 1.6 GB when decoded
         bomb.fill(0);
-        QVERIFY(bomb.save(shown(folder_ / "bomb.png")));
+        QVERIFY(bomb.save(inFolder("bomb.png")));
     }
 
     document_.addRes("bad", folder_.document(file.toStdString()));

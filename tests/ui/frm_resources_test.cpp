@@ -1,12 +1,5 @@
 // The Resources dialog.
-#include "canvas/picture_cache.h"
-#include "dialogs/frm_resources.h"
-#include "dialogs/resource_preview.h"
-#include "dialogs/resource_rules.h"
-#include "dialogs/resource_thumbnails.h"
-#include "support/dialog_support.h"
-#include "support/scripted_prompts.h"
-#include "support/temporary_folder.h"
+#include "support/resources_support.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -23,19 +16,6 @@ using test::typeOver;
 
 namespace {
 
-constexpr int patience = 20'000; // milliseconds
-
-QString shown(const std::filesystem::path& path) {
-    return QString::fromStdString(path.string());
-}
-
-// The colour in the middle of a row's picture.
-QColor thumbnailColor(const QListWidget& list, int row) {
-    const QSize size = ResourceThumbnails::size;
-    return list.item(row)->icon().pixmap(size).toImage().pixelColor(size.width() / 2,
-                                                                    size.height() / 2);
-}
-
 QColor centreColor(QWidget& widget) {
     const QImage image = widget.grab().toImage();
     return image.pixelColor(image.rect().center());
@@ -43,12 +23,12 @@ QColor centreColor(QWidget& widget) {
 
 } // namespace
 
-class FrmResourcesTest : public QObject {
+class FrmResourcesTest : public QObject, protected test::ResourcesFixture {
     Q_OBJECT
 
   private slots:
     void initTestCase();
-    void init();
+    void init() { startAfresh(); }
     void cleanup() { dialog_.reset(); }
     void showsItsTexts();
     void presetsAreListedInOrder();
@@ -81,48 +61,14 @@ class FrmResourcesTest : public QObject {
     void controlsHaveAccessibleNames();
 
   private:
-    const std::vector<Resource>& resources() const { return document_.settings().resources; }
-    // Writes a picture of one colour and returns its host path.
-    QString picture(const char* name, const QColor& color, QSize size = {60, 40});
-    void open();
-    template <class Control> Control& at(const char* name) {
-        return control<Control>(*dialog_, QLatin1String(name));
-    }
     void choosePresets() {
         click(at<QWidget>("optPreset"));
         QVERIFY(at<QGroupBox>("fraPreset").isVisible());
     }
-
-    SkinDocument document_;
-    std::unique_ptr<test::ScriptedPrompts> prompts_;
-    std::unique_ptr<PictureCache> pictures_;
-    std::unique_ptr<FrmResources> dialog_;
-    TemporaryFolder folder_;
 };
 
 void FrmResourcesTest::initTestCase() {
     QVERIFY(QFile::exists(":/tarvel/imgCustom.png"));
-}
-
-void FrmResourcesTest::init() {
-    document_ = SkinDocument();
-    prompts_ = std::make_unique<test::ScriptedPrompts>();
-    pictures_ = std::make_unique<PictureCache>();
-    dialog_ = std::make_unique<FrmResources>(document_, *prompts_, *pictures_);
-}
-
-QString FrmResourcesTest::picture(const char* name, const QColor& color, QSize size) {
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
-    const QString path = shown(folder_ / name);
-    if (!image.save(path)) {
-        qFatal("cannot write %s", qPrintable(path));
-    }
-    return path;
-}
-
-void FrmResourcesTest::open() {
-    QVERIFY(test::open(*dialog_));
 }
 
 void FrmResourcesTest::showsItsTexts() {
@@ -257,7 +203,7 @@ void FrmResourcesTest::browsingLeavesATypedNameAlone() {
     click(at<QWidget>("cmdBrowse"));
     click(at<QWidget>("cmdBrowse"));
     QCOMPARE(at<QLineEdit>("txtRes").text(), "mine");
-    QCOMPARE(at<QLabel>("lblFile").text(), shown(folder_ / "b.png"));
+    QCOMPARE(at<QLabel>("lblFile").text(), inFolder("b.png"));
 }
 
 void FrmResourcesTest::cancelledBrowsingChangesNothing_data() {
@@ -324,7 +270,7 @@ void FrmResourcesTest::takenNameIsRefused() {
     QCOMPARE(prompts_->lastOwner, dialog_.get());
     QVERIFY(at<QLineEdit>("txtRes").hasFocus());
     QCOMPARE(at<QLineEdit>("txtRes").text(), "Logo");
-    QCOMPARE(at<QLabel>("lblFile").text(), shown(folder_ / "Logo.png"));
+    QCOMPARE(at<QLabel>("lblFile").text(), inFolder("Logo.png"));
     QCOMPARE(resources().size(), 1U);
     typeOver(at<QLineEdit>("txtRes"), "logo"); // case counts
     click(at<QWidget>("cmdAdd"));
@@ -475,7 +421,7 @@ void FrmResourcesTest::droppedFileShowsTheCustomFrame() {
 void FrmResourcesTest::otherDropsAreRefused() {
     open();
     QVERIFY(!test::dropFiles(*dialog_, {}));
-    QVERIFY(!test::dropFiles(*dialog_, {shown(folder_.path()), shown(folder_ / "none.png")}));
+    QVERIFY(!test::dropFiles(*dialog_, {inFolder(""), inFolder("none.png")}));
     QCOMPARE(at<QLabel>("lblFile").text(), "");
 }
 
