@@ -34,7 +34,7 @@ QVariant ElementListModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const int id = ids_[static_cast<std::size_t>(index.row())];
-    if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) {
+    if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole || role == Qt::ToolTipRole) {
         return qtText(document_.element(id).label);
     }
     return role == Qt::UserRole ? QVariant(id) : QVariant{};

@@ -27,6 +27,8 @@ ElementsPanel::ElementsPanel(const SkinDocument& document, QWidget* parent)
         list->setModel(model);
         list->setUniformItemSizes(true); // thousands of rows open at once
         list->setSelectionMode(QAbstractItemView::SingleSelection);
+        list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        list->setTextElideMode(Qt::ElideRight); // the tool tip shows the whole text
         list->setEditTriggers(QAbstractItemView::NoEditTriggers);
         connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this, screen] { emit listIndexChanged(screen); });
