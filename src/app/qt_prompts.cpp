@@ -50,7 +50,7 @@ QString QtPrompts::input(QWidget* owner, const QString& prompt) {
 }
 
 QString QtPrompts::folder(QWidget* owner, const QString& title) {
-    const QString chosen = QFileDialog::getExistingDirectory(owner, title, lastFolder_);
+    QString chosen = QFileDialog::getExistingDirectory(owner, title, lastFolder_);
     if (!chosen.isEmpty()) {
         lastFolder_ = chosen;
     }

@@ -132,9 +132,8 @@ class SkinDocument {
         ObserverLink() = default;
         ObserverLink(const ObserverLink& /*other*/) {}
         ObserverLink(ObserverLink&& /*other*/) noexcept {}
-        ObserverLink& operator=(const ObserverLink& /*other*/) {
-            return *this;
-        } // NOLINT: takes nothing
+        // NOLINTNEXTLINE: takes nothing, so an assignment to itself is one like any other
+        ObserverLink& operator=(const ObserverLink& /*other*/) { return *this; }
         ObserverLink& operator=(ObserverLink&& /*other*/) noexcept { return *this; }
         ~ObserverLink() = default;
     };

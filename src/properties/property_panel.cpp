@@ -2,6 +2,7 @@
 #include "properties/property_panel.h"
 
 #include "app/text.h"
+#include "canvas/new_element.h"
 #include "document/skin_document.h"
 #include "properties/image_frame.h"
 #include "properties/menu_settings_frame.h"
@@ -19,22 +20,6 @@ namespace tarvel {
 namespace {
 
 constexpr int narrowest = 380; // pixels
-
-ControlKind controlOf(ElementKind kind) {
-    switch (kind) {
-    case ElementKind::Box:
-        return ControlKind::box;
-    case ElementKind::Line:
-        return ControlKind::lin;
-    case ElementKind::Image:
-        return ControlKind::img;
-    case ElementKind::Text:
-        return ControlKind::txt;
-    case ElementKind::Menu:
-        break;
-    }
-    return ControlKind::qor;
-}
 
 } // namespace
 
@@ -96,7 +81,7 @@ void PropertyPanel::showElement(const Element& element) {
 }
 
 void PropertyPanel::showKind(ElementKind kind) {
-    showFrames(editControls(controlOf(kind), values_));
+    showFrames(editControls(newControl(kind), values_));
     cmdApply_->setEnabled(false); // nothing is there yet to apply to
 }
 

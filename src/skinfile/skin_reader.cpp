@@ -27,28 +27,26 @@ void readInformation(SkinSettings& settings, XmlNode section) {
     }
 }
 
+void readTextColor(SystemColors& colors, XmlNode section, std::string_view tag, SampleText text) {
+    colors.setTextColor(getContent(section, tag), static_cast<std::size_t>(text));
+}
+
 void readMessageBox(SkinSettings& settings, XmlNode section) {
     SystemColors& colors = settings.systemColors;
-    const auto textColor = [&](std::string_view tag, SampleText text) {
-        colors.setTextColor(getContent(section, tag), static_cast<std::size_t>(text));
-    };
     colors.setBoxColor(getContent(section, "BoxColor"), 0);
     colors.setBorderColor(getContent(section, "BorderColor"), 0);
-    textColor("TextColor", SampleText::messageText);
-    textColor("ShadowColor", SampleText::messageShadow);
+    readTextColor(colors, section, "TextColor", SampleText::messageText);
+    readTextColor(colors, section, "ShadowColor", SampleText::messageShadow);
 }
 
 void readSystemMenu(SkinSettings& settings, XmlNode section) {
     SystemColors& colors = settings.systemColors;
-    const auto textColor = [&](std::string_view tag, SampleText text) {
-        colors.setTextColor(getContent(section, tag), static_cast<std::size_t>(text));
-    };
     colors.setBoxColor(getContent(section, "BoxColor"), 1);
     colors.setBorderColor(getContent(section, "BorderColor"), 1);
-    textColor("SelectColor", SampleText::menuSelect);
-    textColor("SelectValueColor", SampleText::menuSelectValue);
-    textColor("TextColor", SampleText::menuText);
-    textColor("ValueColor", SampleText::menuValue);
+    readTextColor(colors, section, "SelectColor", SampleText::menuSelect);
+    readTextColor(colors, section, "SelectValueColor", SampleText::menuSelectValue);
+    readTextColor(colors, section, "TextColor", SampleText::menuText);
+    readTextColor(colors, section, "ValueColor", SampleText::menuValue);
 }
 
 void readDelays(SkinSettings& settings, XmlNode section) {
