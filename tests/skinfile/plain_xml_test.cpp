@@ -142,7 +142,8 @@ TEST(PlainXml, TakesADeclarationAtTheVeryStart) {
     XmlTree tree(xml);
     EXPECT_TRUE(PlainXmlReader().parse(tree, XmlTree::top, 0, xml.size()));
     EXPECT_EQ(tree, parseXml("<a>1</a>"));
-    for (const std::string& other : {"\n" + xml, "<?xml-x?><a/>", "<?xml ><a/>"}) {
+    for (const std::string& other :
+         std::initializer_list<std::string>{"\n" + xml, "<?xml-x?><a/>", "<?xml ><a/>"}) {
         XmlTree untouched(other);
         EXPECT_FALSE(PlainXmlReader().parse(untouched, XmlTree::top, 0, other.size())) << other;
     }
