@@ -24,8 +24,8 @@ std::size_t allocatedBytes() {
 
 // Writes a skin whose pictures are files, so that each image element carries a path. The files
 // themselves are never there: reading does not open them.
-void writeSkinInto(const TemporaryFolder& folder, int count, Modifiers modifiers) {
-    SkinDocument document = mixedSkin(count, modifiers);
+void writeSkinInto(const TemporaryFolder& folder, int count, bool modifiers) {
+    SkinDocument document = mixedSkin(count, {.modifiers = modifiers});
     document.editSettings([&](SkinSettings& settings) {
         for (Resource& resource : settings.resources) {
             resource.isFile = true;
@@ -39,9 +39,8 @@ void writeSkinInto(const TemporaryFolder& folder, int count, Modifiers modifiers
 
 void loadedSkin(benchmark::State& state) {
     const int count = static_cast<int>(state.range(0));
-    const auto modifiers = state.range(1) != 0 ? Modifiers::all : Modifiers::none;
     const TemporaryFolder folder;
-    writeSkinInto(folder, count, modifiers);
+    writeSkinInto(folder, count, state.range(1) != 0);
     double perElement = 0;
     for (auto _ : state) {
         const auto before = allocatedBytes();

@@ -35,7 +35,7 @@ void readSkinAgainstBareParse(benchmark::State& state) {
 
 void readModifiersAgainstBareParse(benchmark::State& state) {
     const TemporaryFolder folder;
-    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)), Modifiers::all);
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)), {.modifiers = true});
     compareWithBareParse(state, saveInto(folder.path(), skin));
 }
 

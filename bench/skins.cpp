@@ -79,7 +79,7 @@ XmlTree modifierOf(int number) {
 
 } // namespace
 
-SkinDocument mixedSkin(int count, Modifiers modifiers, Screens screens) {
+SkinDocument mixedSkin(int count, const SkinKind& kind) {
     SkinDocument document;
     document.editSettings([](SkinSettings& settings) {
         settings.skinName = "Benchmark";
@@ -89,11 +89,14 @@ SkinDocument mixedSkin(int count, Modifiers modifiers, Screens screens) {
         }
     });
     for (int number = 0; number < count; ++number) {
-        document.setCurrentLayout(screens == Screens::all
-                                      ? static_cast<int>(std::int64_t{number} * screenCount / count)
-                                      : menuScreen);
+        document.setCurrentLayout(
+            kind.menuOnly ? menuScreen
+                          : static_cast<int>(std::int64_t{number} * screenCount / count));
         Element element = elementOf(number);
-        if (modifiers == Modifiers::all) {
+        if (kind.boxesOnly) {
+            element.elementKind = ElementKind::Box;
+        }
+        if (kind.modifiers) {
             element.elementModifiers.edit() = modifierOf(number);
         }
         document.addElement(std::move(element));

@@ -4,20 +4,20 @@
 #include "document/skin_document.h"
 #include "skinfile/skin_writer.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
 namespace tarvel::bench {
 
-enum class Modifiers : std::uint8_t { none, all };
-enum class Screens : std::uint8_t { all, menuOnly };
+struct SkinKind {
+    bool modifiers = false; ///< each element has one, the largest kind in turn with the smaller two
+    bool menuOnly = false;  ///< all elements on the "Menu" screen instead of all screens
+    bool boxesOnly = false; ///< and no texts, images, lines and item menus
+};
 
 /// A document of `count` elements: boxes, texts, images, lines and an item menu in turn, some with
-/// conditions and timers. With Modifiers::all each element has one, the largest kind in turn with
-/// the smaller two.
-SkinDocument mixedSkin(int count, Modifiers modifiers = Modifiers::none,
-                       Screens screens = Screens::all);
+/// conditions and timers.
+SkinDocument mixedSkin(int count, const SkinKind& kind = {});
 
 /// A folder of its own in the host's temporary folder, removed at the end.
 class TemporaryFolder {

@@ -1,0 +1,86 @@
+// One process for bench/open_window to time: starts the editor, loads a skin by its menu entry and
+// leaves as soon as the surface has painted it.
+//
+// Usage: tarvel_open_window_bench FOLDER
+//        tarvel_open_window_bench --make FOLDER COUNT screens|boxes|menu
+// The second form makes the folder and a skin of COUNT elements in it: of all kinds on all screens,
+// boxes on "Menu", all kinds on "Menu".
+#include "app/frm_main.h"
+#include "app/panel_slide.h"
+#include "skinfile/host_files.h"
+#include "skins.h"
+#include "support/scripted_prompts.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+
+#include <cstdio>
+#include <exception>
+#include <string_view>
+
+namespace tarvel::bench {
+
+namespace {
+
+/// Ends the program after the next whole painting of a widget.
+class PaintWatch : public QObject {
+  public:
+    explicit PaintWatch(QWidget& watched) { watched.installEventFilter(this); }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            // Not quit(), which asks the window whether it may.
+            QMetaObject::invokeMethod(
+                qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
+
+int make(const std::filesystem::path& folder, int count, std::string_view kind) {
+    SkinDocument skin =
+        mixedSkin(count, {.menuOnly = kind != "screens", .boxesOnly = kind == "boxes"});
+    std::filesystem::create_directories(folder);
+    saveInto(folder, skin);
+    return 0;
+}
+
+int open(QApplication& application, const QString& folder) {
+    test::ScriptedPrompts prompts;
+    prompts.folders << folder;
+    FrmMain window(prompts, programFolder());
+    window.show();
+    // The panels slide in for the same time whatever is loaded; without it the ratio says more.
+    QApplication::processEvents();
+    window.findChild<PanelSlide*>()->finish();
+    QApplication::processEvents();
+    const PaintWatch watch(*window.findChild<QWidget*>(QStringLiteral("Pic")));
+    window.findChild<QAction*>(QStringLiteral("mnuLoad"))->trigger();
+    constexpr int longestMs = 60'000;
+    QTimer::singleShot(longestMs, &application, [] { QCoreApplication::exit(1); });
+    const int code = QApplication::exec();
+    if (code != 0 || window.document().lastElementId() == 0) {
+        std::fprintf(stderr, "the skin was not shown\n");
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace
+
+} // namespace tarvel::bench
+
+int main(int argc, char* argv[]) {
+    try {
+        if (argc == 5 && std::string_view(argv[1]) == "--make") {
+            return tarvel::bench::make(argv[2], std::stoi(argv[3]), argv[4]);
+        }
+        QApplication application(argc, argv);
+        return tarvel::bench::open(application, QString::fromLocal8Bit(argv[argc - 1]));
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+}
