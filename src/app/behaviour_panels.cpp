@@ -31,6 +31,7 @@ void BehaviourPanels::cmdModifier_Click(int index, int elementId) {
         return;
     }
     BehaviourPanel& panel = *panels_.at(static_cast<std::size_t>(index));
+    focusBefore_ = room_.side.window()->focusWidget();
     gate_.disablex(panel);
     place(panel);
     panel.open(elementId);
@@ -58,6 +59,9 @@ void BehaviourPanels::place(BehaviourPanel& panel) {
 
 void BehaviourPanels::panelClosed() {
     gate_.enableAll();
+    if (focusBefore_) {
+        focusBefore_->setFocus(Qt::OtherFocusReason);
+    }
     emit closed();
 }
 

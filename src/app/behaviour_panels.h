@@ -4,11 +4,11 @@
 #include "document/skin_document.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 #include <array>
 #include <filesystem>
-
-class QWidget;
 
 namespace tarvel {
 
@@ -16,7 +16,8 @@ class BehaviourPanel;
 class Prompts;
 class WindowGate;
 
-/// Opens a panel over a side of the window and lets nothing else be worked with until it closes.
+/// Opens a panel over a side of the window and lets nothing else be worked with until it closes;
+/// then the focus goes back to where it was.
 /// Document, prompts and gate are not owned and outlive it; the panels are children of the side's
 /// parent.
 class BehaviourPanels : public QObject {
@@ -55,6 +56,7 @@ class BehaviourPanels : public QObject {
     WindowGate& gate_;
     Room room_;
     std::array<BehaviourPanel*, count> panels_{};
+    QPointer<QWidget> focusBefore_; // gets the focus back from the open panel
 };
 
 } // namespace tarvel

@@ -78,7 +78,8 @@ void ElementsPanel::documentChanged(const DocumentChange& change) {
         models_.at(static_cast<std::size_t>(change.screen))->sync();
         break;
     case DocumentChange::What::rowText:
-    case DocumentChange::What::element:
+        // Other changes of a record leave the text alone, and the list lays out all its rows anew
+        // when one is told to be different: too much for every move of a drag.
         models_.at(static_cast<std::size_t>(change.screen))->rowTextChanged(change.elementId);
         break;
     default:

@@ -63,9 +63,11 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
 
     auto* centre = new QWidget;
     auto* columns = new QHBoxLayout(centre);
-    columns->addWidget(buildLeftSide());
+    QWidget* left = buildLeftSide();
     QWidget* right = buildRightSide();
+    // The tab order is that of coming in: screens, elements and panels, then surface and tools.
     columns->addWidget(right, 1);
+    columns->insertWidget(0, left);
     setCentralWidget(centre);
     auto* floor = right->findChild<QWidget*>(QLatin1String(stopName));
     behaviourPanels_ =

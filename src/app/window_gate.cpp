@@ -30,7 +30,7 @@ void WindowGate::disablex(const QWidget& control) {
         const bool related =
             widget == &control || control.isAncestorOf(widget) || widget->isAncestorOf(&control);
         // Those that were disabled for a reason of their own stay so afterwards.
-        if (!related && !holdsUsable(*widget) && !widget->testAttribute(Qt::WA_ForceDisabled)) {
+        if (!related && !holdsUsable(*widget) && widget->isEnabled()) {
             disabled_.emplace_back(widget);
         }
     }

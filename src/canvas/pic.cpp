@@ -16,6 +16,18 @@ namespace {
 
 // More separate rectangles than this are painted as their common one.
 constexpr int largestCount = 8;
+// So are those that fill at least one part in so many of it: what lies between them costs less
+// than another pass over all elements.
+constexpr int fewestParts = 2;
+
+bool lieTogether(const QRegion& region) {
+    const auto area = [](const QRect& rect) { return rect.width() * rect.height(); };
+    int covered = 0;
+    for (const QRect& part : region) {
+        covered += area(part);
+    }
+    return covered * fewestParts >= area(region.boundingRect());
+}
 
 QWidget* makePicBox(QWidget* parent) {
     auto* box = new QWidget(parent);
@@ -139,7 +151,7 @@ void Pic::paintEvent(QPaintEvent* event) {
 
 void Pic::paintRegion(QPainter& painter, const QRegion& region) {
     const int screen = document_->currentLayout();
-    if (region.rectCount() > largestCount) {
+    if (region.rectCount() > largestCount || lieTogether(region)) {
         painter_.paint(painter, *document_, screen, region.boundingRect(), view());
         return;
     }

@@ -188,7 +188,7 @@ QSize PictureCache::pictureSize(std::string_view file) {
 }
 
 void PictureCache::beginSlice(int budgetMs) {
-    slice_.emplace();
+    slice_ = DecodingSlice();
     slice_->budgetMs = budgetMs;
     slice_->clock.start();
 }

@@ -29,6 +29,14 @@ struct Picture {
     QString problem;
 };
 
+/// What has been decoded since PictureCache::beginSlice().
+struct DecodingSlice {
+    QElapsedTimer clock;
+    int budgetMs = 0;
+    int decoded = 0;
+    bool leftPending = false;
+};
+
 /// Decodes pictures on demand and forgets the ones used longest ago when memory runs out. Changes
 /// of a file on the disk go unnoticed until clear(). References it returns are good until the next
 /// call.
@@ -88,15 +96,9 @@ class PictureCache {
 
     QCache<Key, Picture> shown_;
     QCache<QByteArray, Source> sources_;
-    // The slice under way. A file that was decoded once never waits again: where memory is short it
-    // may be forgotten between two paints, and would be waited for without end.
-    struct Slice {
-        QElapsedTimer clock;
-        int budgetMs = 0;
-        int decoded = 0;
-        bool leftPending = false;
-    };
-    std::optional<Slice> slice_;
+    std::optional<DecodingSlice> slice_; // the one under way
+    // A file that was decoded once never waits again: where memory is short it may be forgotten
+    // between two paints, and would be waited for without end.
     QSet<QByteArray> decodedBefore_;
     // Answers that are too large for the caches.
     Picture uncachedPicture_;

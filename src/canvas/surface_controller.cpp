@@ -5,6 +5,7 @@
 #include "canvas/edit_tools.h"
 #include "canvas/selection_marks.h"
 
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -87,6 +88,9 @@ void SurfaceController::cancelWork() {
 }
 
 bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
+    if (!surface_.isEnabled()) { // filters see the events of disabled widgets, too
+        return QObject::eventFilter(watched, event);
+    }
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -104,6 +108,8 @@ bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
         return true;
     case QEvent::KeyPress:
         return key(*static_cast<QKeyEvent*>(event));
+    case QEvent::ContextMenu:
+        return contextMenu(*static_cast<QContextMenuEvent*>(event));
     default:
         return QObject::eventFilter(watched, event);
     }
@@ -157,6 +163,14 @@ void SurfaceController::pick(SkinPoint point) {
     const int row = picks_.rowAt(host_.document(), point);
     host_.selectRow(-1);
     host_.selectRow(row);
+}
+
+// Of the menu key: the pointer asks for its menu with the press.
+bool SurfaceController::contextMenu(const QContextMenuEvent& event) {
+    if (event.reason() == QContextMenuEvent::Keyboard && work_ == nullptr) {
+        emit menuWanted(event.globalPos(), host_.curNum() != 0);
+    }
+    return true;
 }
 
 bool SurfaceController::refused(ElementKind kind) {

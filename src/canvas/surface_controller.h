@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class QContextMenuEvent;
 class QDropEvent;
 class QKeyEvent;
 class QMouseEvent;
@@ -42,7 +43,7 @@ class SurfaceController : public QObject {
     void pressed();
     /// A tool's kind is about to be drawn. Answer with `refuse` set to keep it from being made.
     void aboutToDraw(tarvel::ElementKind kind, bool& refuse);
-    /// The right button asks for a menu; `onElement` when it picked one.
+    /// The right button asks for a menu, or the menu key; `onElement` when one is selected.
     void menuWanted(QPoint globalPosition, bool onElement);
     /// Escape, with nothing going on.
     void toolGivenUp();
@@ -59,6 +60,7 @@ class SurfaceController : public QObject {
     void move(const QMouseEvent& event);
     void release(const QMouseEvent& event);
     void drop(QDropEvent& event);
+    bool contextMenu(const QContextMenuEvent& event);
     bool key(const QKeyEvent& event);
     bool arrowKey(const QKeyEvent& event);
     void showPointer(SkinPoint point);

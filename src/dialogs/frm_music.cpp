@@ -146,7 +146,6 @@ void FrmMusic::hideEvent(QHideEvent* event) {
     SkinDialog::hideEvent(event);
     if (!event->spontaneous()) {
         player_->stop();
-        easing_.finish();
     }
 }
 

@@ -62,6 +62,7 @@ inline bool dropFiles(QWidget& target, const QStringList& files) {
         urls << QUrl::fromLocalFile(file);
     }
     data.setUrls(urls);
+    data.setText(files.join(QLatin1Char('\n'))); // as file managers do
     const QPoint at = target.rect().center();
     QDragEnterEvent enter(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&target, &enter);

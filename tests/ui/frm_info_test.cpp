@@ -82,7 +82,10 @@ void FrmInfoTest::showsTheDocumentEachTimeItIsOpened() {
             settings.information = {{"Of_" + name, "value of " + name}};
         });
         QVERIFY(test::open(dialog));
-        QCOMPARE(control<QLineEdit>(dialog, "txtName").text(), QString::fromStdString(name));
+        const auto& txtName = control<QLineEdit>(dialog, "txtName");
+        QCOMPARE(txtName.text(), QString::fromStdString(name));
+        QVERIFY(txtName.hasFocus());
+        QCOMPARE(txtName.selectedText(), txtName.text());
         auto& list = control<QListWidget>(dialog, "lstFields");
         QCOMPARE(test::rowTexts(list), QStringList{QString::fromStdString("Of_" + name)});
         QVERIFY(list.selectedItems().isEmpty());
