@@ -201,7 +201,8 @@ void SurfaceController::drop(QDropEvent& event) {
     if (urls.isEmpty() || !urls.front().isLocalFile()) {
         return;
     }
-    event.acceptProposedAction();
+    event.setDropAction(Qt::CopyAction); // a source that proposes a move would delete its file
+    event.accept();
     if (event.type() == QEvent::Drop) {
         // The drag is over before the dialog opens, or its source would wait for the dialog.
         QMetaObject::invokeMethod(
