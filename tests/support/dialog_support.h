@@ -22,6 +22,7 @@ template <class Control> Control& control(const QWidget& window, const QString& 
 
 /// Shows a window and waits until it takes keys.
 inline bool open(QWidget& window) {
+    QCoreApplication::processEvents(); // what a window closed just now still has to hear
     window.show();
     window.activateWindow();
     return QTest::qWaitForWindowActive(&window);
