@@ -20,12 +20,18 @@ template <class Control> Control& control(const QWidget& window, const QString& 
     return *found;
 }
 
+/// Brings a window to the front and waits until it takes keys.
+inline bool activate(QWidget& window) {
+    window.activateWindow();
+    // The application knows a little later than the window system.
+    return QTest::qWaitForWindowActive(&window) &&
+           QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; });
+}
+
 /// Shows a window and waits until it takes keys.
 inline bool open(QWidget& window) {
-    QCoreApplication::processEvents(); // what a window closed just now still has to hear
     window.show();
-    window.activateWindow();
-    return QTest::qWaitForWindowActive(&window);
+    return activate(window);
 }
 
 inline void click(QWidget& control) {
