@@ -34,6 +34,17 @@ inline bool open(QWidget& window) {
     return activate(window);
 }
 
+/// Closes a window and waits until the application has dealt with that. Opened again at once, the
+/// window would lose its selection and focus to what is still under way; no user is that quick.
+inline bool close(QWidget& window) {
+    if (!window.close() ||
+        !QTest::qWaitFor([&] { return QApplication::activeWindow() != &window; })) {
+        return false;
+    }
+    QTest::qWait(50); // text boxes look at the focus once more a turn later
+    return true;
+}
+
 inline void click(QWidget& control) {
     QTest::mouseClick(&control, Qt::LeftButton);
 }

@@ -130,7 +130,7 @@ void FrmColorsTest::showsTheDocumentEachTimeItIsOpened() {
         for (unsigned i = 0; i < 6; ++i) {
             value.texts[i] = base + 4 + i;
         }
-        value.txtAlpha = {"40", "odd"};
+        value.txtAlpha = {"40", "050 %"};
         setColors(value);
         QVERIFY(test::open(dialog));
         const auto shown = [&](const char* name) {
@@ -147,9 +147,9 @@ void FrmColorsTest::showsTheDocumentEachTimeItIsOpened() {
                      qtColor(base + 4 + i));
         }
         QCOMPARE(control<QLineEdit>(dialog, "txtAlpha(0)").text(), "40");
-        QCOMPARE(control<QLineEdit>(dialog, "txtAlpha(1)").text(), "odd");
+        QCOMPARE(control<QLineEdit>(dialog, "txtAlpha(1)").text(), "050 %");
         QCOMPARE(colors(), value); // looking changes nothing
-        dialog.hide();
+        QVERIFY(test::close(dialog));
     }
 }
 

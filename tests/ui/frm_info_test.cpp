@@ -93,7 +93,7 @@ void FrmInfoTest::showsTheDocumentEachTimeItIsOpened() {
         clickRow(list, 0);
         QCOMPARE(control<QLineEdit>(dialog, "txtData").text(),
                  QString::fromStdString("value of " + name));
-        dialog.close();
+        QVERIFY(test::close(dialog));
     }
 }
 

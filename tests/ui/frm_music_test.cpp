@@ -103,7 +103,7 @@ void FrmMusicTest::startsWithoutMusic() {
 void FrmMusicTest::showsTheDocumentEachTimeItIsOpened() {
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
-    dialog->hide();
+    QVERIFY(test::close(*dialog));
     setThreeFiles();
     MusicSettings value = music();
     value.chkGlobal = true;
@@ -119,7 +119,7 @@ void FrmMusicTest::showsTheDocumentEachTimeItIsOpened() {
     QCOMPARE(list.item(0)->data(Qt::UserRole).toInt(), 2);
     QCOMPARE(list.item(1)->data(Qt::UserRole).toInt(), 0);
     QCOMPARE(music(), value);
-    dialog->hide();
+    QVERIFY(test::close(*dialog));
     setMusic(test::musicOptions(false, false, false, true));
     QVERIFY(test::open(*dialog));
     QVERIFY(control<QRadioButton>(*dialog, "optNoMusic").isChecked());
