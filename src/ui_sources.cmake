@@ -2,6 +2,7 @@
 set(TARVEL_UI_SOURCES
   app/behaviour_buttons.cpp
   app/behaviour_panels.cpp
+  app/color_button.cpp
   app/copy_progress.cpp
   app/create_panel.cpp
   app/easing.cpp

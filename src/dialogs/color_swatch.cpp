@@ -21,19 +21,13 @@ QColor readableOn(const QColor& color) {
 } // namespace
 
 ColorSwatch::ColorSwatch(QWidget* parent)
-    : QAbstractButton(parent) {
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setCursor(Qt::PointingHandCursor);
+    : ColorButton(parent) {
     setColor(0);
 }
 
 void ColorSwatch::setColor(ColorNumber color) {
     color_ = color;
-    const QString hex = QLatin1Char('#') + qtText(rgbHex(color));
-    setToolTip(tr("%1, click to change").arg(hex));
-    setAccessibleDescription(hex);
-    update();
+    describe(QLatin1Char('#') + qtText(rgbHex(color)));
 }
 
 QSize ColorSwatch::sizeHint() const {
@@ -42,35 +36,13 @@ QSize ColorSwatch::sizeHint() const {
     return {std::max(narrowest, textWidth), metrics.height() + 8};
 }
 
-void ColorSwatch::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const bool strong = hasFocus() || underMouse();
-    const QColor frame = strong ? palette().color(QPalette::Highlight)
-                                : palette().color(QPalette::WindowText).lighter(100);
-    const double pen = hasFocus() ? 2 : 1;
-    QColor frameColor = frame;
-    if (!strong) {
-        frameColor.setAlphaF(0.5F);
-    }
-    painter.setPen(QPen(frameColor, pen));
-    const double inset = pen / 2;
-    painter.setBrush(qtColor(color_));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 3, 3);
+void ColorSwatch::paintInside(QPainter& painter) {
+    const QColor color = qtColor(color_);
+    painter.fillRect(rect(), color);
     if (!text().isEmpty()) {
-        painter.setPen(readableOn(qtColor(color_)));
+        painter.setPen(readableOn(color));
         painter.drawText(rect(), Qt::AlignCenter, text());
     }
-}
-
-void ColorSwatch::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void ColorSwatch::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 } // namespace tarvel

@@ -1,14 +1,13 @@
 // A box that shows a colour and can be pressed to choose another one.
 #pragma once
 
+#include "app/color_button.h"
 #include "skinfile/value_encodings.h"
-
-#include <QAbstractButton>
 
 namespace tarvel {
 
 /// A text of the button is written on the colour in black or white, whichever is easier to read.
-class ColorSwatch : public QAbstractButton {
+class ColorSwatch : public ColorButton {
     Q_OBJECT
 
   public:
@@ -20,9 +19,7 @@ class ColorSwatch : public QAbstractButton {
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
+    void paintInside(QPainter& painter) override;
 
   private:
     ColorNumber color_ = 0;

@@ -7,7 +7,6 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace tarvel {
 
@@ -15,7 +14,6 @@ namespace {
 
 constexpr int wellWidth = 44; // pixels
 constexpr int square = 5;     // of the checkerboard, in pixels
-constexpr double corner = 3;
 constexpr QColor lightSquare{236, 236, 236};
 constexpr QColor darkSquare{196, 196, 196};
 constexpr QColor stroke{200, 40, 40};
@@ -35,18 +33,13 @@ void paintClear(QPainter& painter, const QRect& rect) {
 } // namespace
 
 ColorWell::ColorWell(QWidget* parent)
-    : QAbstractButton(parent) {
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setCursor(Qt::PointingHandCursor);
+    : ColorButton(parent) {
     setSwatch({});
 }
 
 void ColorWell::setSwatch(const Swatch& swatch) {
     swatch_ = swatch;
-    setToolTip(tr("%1, click to change").arg(valueText()));
-    setAccessibleDescription(valueText());
-    update();
+    describe(valueText());
 }
 
 QString ColorWell::valueText() const {
@@ -59,45 +52,20 @@ QSize ColorWell::sizeHint() const {
     return {wellWidth, QFontMetrics(font()).height() + 8};
 }
 
-void ColorWell::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const bool strong = isEnabled() && (hasFocus() || underMouse());
-    const double pen = strong && hasFocus() ? 2 : 1;
-    const QRectF edge = QRectF(rect()).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2);
-    QPainterPath shape;
-    shape.addRoundedRect(edge, corner, corner);
-    painter.setOpacity(isEnabled() ? 1 : 0.4);
-    painter.save();
-    painter.setClipPath(shape);
+void ColorWell::paintInside(QPainter& painter) {
     if (swatch_.fillStyle == FillStyle::transparent) {
         paintClear(painter, rect());
     } else {
         painter.fillRect(rect(), qtColor(swatch_.color));
     }
-    painter.restore();
-    QColor frame = palette().color(QPalette::WindowText);
-    frame.setAlphaF(0.6F);
-    painter.setPen(QPen(strong ? palette().color(QPalette::Highlight) : frame, pen));
-    painter.drawPath(shape);
 }
 
 void ColorWell::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         click();
     } else {
-        QAbstractButton::keyPressEvent(event);
+        ColorButton::keyPressEvent(event);
     }
-}
-
-void ColorWell::enterEvent(QEnterEvent* event) {
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void ColorWell::leaveEvent(QEvent* event) {
-    QAbstractButton::leaveEvent(event);
-    update();
 }
 
 std::optional<ColorNumber> askColor(Prompts& prompts, const QWidget& control, ColorNumber initial) {

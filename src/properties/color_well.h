@@ -1,9 +1,8 @@
 // A box that shows a chosen colour, or that none is chosen, and can be pressed to choose another.
 #pragma once
 
+#include "app/color_button.h"
 #include "properties/panel_values.h"
-
-#include <QAbstractButton>
 
 #include <optional>
 
@@ -12,7 +11,7 @@ namespace tarvel {
 class Prompts;
 
 /// Pressed by mouse, Space or Enter. A clear swatch shows a checkerboard with a stroke.
-class ColorWell : public QAbstractButton {
+class ColorWell : public ColorButton {
     Q_OBJECT
 
   public:
@@ -26,10 +25,8 @@ class ColorWell : public QAbstractButton {
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
+    void paintInside(QPainter& painter) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
   private:
     Swatch swatch_;
