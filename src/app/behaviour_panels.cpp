@@ -44,6 +44,14 @@ bool BehaviourPanels::isOpen() const {
                        [](const BehaviourPanel* panel) { return !panel->isHidden(); });
 }
 
+void BehaviourPanels::ok() {
+    for (BehaviourPanel* panel : panels_) {
+        if (!panel->isHidden()) {
+            panel->ok();
+        }
+    }
+}
+
 void BehaviourPanels::place(BehaviourPanel& panel) {
     constexpr int gap = 6;
     const QRect side = room_.side.geometry();

@@ -41,6 +41,8 @@ class BehaviourPanels : public QObject {
     /// Opens panel 0 modifiers, 1 timers or 2 condition for an element; for id 0 nothing happens.
     void cmdModifier_Click(int index, int elementId);
     [[nodiscard]] bool isOpen() const;
+    /// Closes the open panel, if there is one, as its OK button does.
+    void ok();
 
   signals:
     /// A panel was closed by its OK button.

@@ -257,6 +257,7 @@ bool FrmMain::Form_Unload() {
     case Prompts::Answer::Yes:
         break;
     }
+    behaviourPanels_->ok(); // what is typed in an open panel belongs to the skin
     const bool named = !document_.settings().skinName.empty();
     const auto rename = [this](std::string name) {
         document_.editSettings(

@@ -22,6 +22,8 @@ class BehaviourPanel : public QFrame {
   public:
     /// Shows the panel for an element. Nothing happens for an id without an element.
     void open(int elementId);
+    /// What the OK button does: takes what the panel shows into the element and hides the panel.
+    void ok();
 
   signals:
     /// The panel has stored what it shows and is hidden.
@@ -47,8 +49,6 @@ class BehaviourPanel : public QFrame {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void ok();
-
     SkinDocument& document_;
     int elementId_ = 0;
     QVBoxLayout* rows_;

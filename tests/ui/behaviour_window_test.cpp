@@ -67,6 +67,8 @@ class BehaviourWindowTest : public QObject {
     void panelsKeepTheirPlace_data();
     void panelsKeepTheirPlace();
     void openPanelFollowsTheWindow();
+    void closingTheWindowSavesWhatAPanelShows();
+    void cancelledClosingLeavesThePanelOpen();
 
   private:
     static void eachPanel();
@@ -357,6 +359,34 @@ void BehaviourWindowTest::openPanelFollowsTheWindow() {
     editor.window.resize(editor.window.minimumSizeHint());
     QTRY_VERIFY(editor.window.rect().contains(editor.inWindow(editor.panel(2))));
     checkPlace(editor, 2);
+}
+
+void BehaviourWindowTest::closingTheWindowSavesWhatAPanelShows() {
+    BehaviourEditor editor;
+    editor.selectRow(1, 0);
+    QVERIFY(editor.openPanel(1));
+    typeOver(editor.at<QLineEdit>("txtTimer(3)"), "5000");
+    const QString out = editor.newFolder("out");
+    editor.prompts.answers << Prompts::Answer::Yes;
+    editor.prompts.folders << out;
+    QStringList dialogs;
+    closeNextDialog(dialogs);
+    QVERIFY(editor.window.close());
+    QFile saved(out + "/QOR_Skin.xml");
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QVERIFY(saved.readAll().contains("5000"));
+}
+
+void BehaviourWindowTest::cancelledClosingLeavesThePanelOpen() {
+    BehaviourEditor editor;
+    editor.selectRow(1, 0);
+    QVERIFY(editor.openPanel(1));
+    const SkinDocument before = editor.document();
+    typeOver(editor.at<QLineEdit>("txtTimer(3)"), "5000");
+    editor.prompts.answers << Prompts::Answer::Cancel;
+    QVERIFY(!editor.window.close());
+    QCOMPARE(editor.shown(), QList<int>({1}));
+    QVERIFY(editor.document() == before);
 }
 
 QTEST_MAIN(BehaviourWindowTest)
