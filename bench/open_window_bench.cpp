@@ -2,9 +2,9 @@
 // leaves as soon as the surface has painted it.
 //
 // Usage: tarvel_open_window_bench FOLDER
-//        tarvel_open_window_bench --make FOLDER COUNT screens|boxes|menu
+//        tarvel_open_window_bench --make FOLDER COUNT screens|boxes|pictures|menu
 // The second form makes the folder and a skin of COUNT elements in it: of all kinds on all screens,
-// boxes on "Menu", all kinds on "Menu".
+// boxes on "Menu", images on "Menu" that have a picture file each, all kinds on "Menu".
 #include "app/frm_main.h"
 #include "app/panel_slide.h"
 #include "skinfile/host_files.h"
@@ -14,10 +14,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QEvent>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
 #include <QTimer>
 
 #include <cstdio>
 #include <exception>
+#include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace tarvel::bench {
@@ -39,9 +44,45 @@ class PaintWatch : public QObject {
     }
 };
 
+// A picture as large as half the screen, and unlike the others.
+void drawPicture(int number, const QString& file) {
+    QImage picture(320, 240, QImage::Format_ARGB32);
+    QLinearGradient gradient(0, 0, picture.width(), picture.height());
+    gradient.setColorAt(0, QColor::fromHsv(number * 37 % 360, 200, 220));
+    gradient.setColorAt(1, QColor::fromHsv(number * 91 % 360, 120, 90, 80));
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.fillRect(picture.rect(), gradient);
+    painter.end();
+    if (!picture.save(file)) {
+        throw std::runtime_error("a picture cannot be written");
+    }
+}
+
+SkinDocument pictureSkin(int count, const std::filesystem::path& pictures) {
+    SkinDocument skin = mixedSkin(count, {.menuOnly = true});
+    skin.editSettings([](SkinSettings& settings) { settings.resources.clear(); });
+    for (int number = 0; number < count; ++number) {
+        const std::string name = "picture" + std::to_string(number);
+        const auto file = pictures / (name + ".png");
+        drawPicture(number, QString::fromStdString(file.string()));
+        skin.editSettings([&](SkinSettings& settings) {
+            settings.resources.push_back({name, documentPath(file), true, false});
+        });
+        skin.editElement(number + 1, [&](Element& element) {
+            element.elementKind = ElementKind::Image;
+            element.imageSource = name;
+        });
+    }
+    return skin;
+}
+
 int make(const std::filesystem::path& folder, int count, std::string_view kind) {
+    const TemporaryFolder pictures;
     SkinDocument skin =
-        mixedSkin(count, {.menuOnly = kind != "screens", .boxesOnly = kind == "boxes"});
+        kind == "pictures"
+            ? pictureSkin(count, pictures.path())
+            : mixedSkin(count, {.menuOnly = kind != "screens", .boxesOnly = kind == "boxes"});
     std::filesystem::create_directories(folder);
     saveInto(folder, skin);
     return 0;
