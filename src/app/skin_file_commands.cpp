@@ -13,6 +13,8 @@
 #include "skinfile/skin_reader.h"
 #include "skinfile/skin_writer.h"
 
+#include <exception>
+
 namespace tarvel {
 
 SkinFileCommands::SkinFileCommands(SkinDocument& document, Prompts& prompts,
@@ -80,7 +82,7 @@ void SkinFileCommands::loadFrom(const QString& folder) {
     try {
         const WaitCursor waiting;
         notes = readSkin(document_, hostPathOf(folder));
-    } catch (const SkinReadError& error) {
+    } catch (const std::exception& error) { // a message box tells of it; the document is as before
         prompts_.message(surroundings_.window, qtText(error.what()));
         return;
     }
@@ -94,14 +96,13 @@ void SkinFileCommands::mnuView_Click() {
     SkinWriter writer(surroundings_.programFolder);
     try {
         writer.generateXML(document_);
-    } catch (const FileError& error) {
+        auto* window = new XmlWindow(qtText(writer.xmlText()), surroundings_.window);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->show();
+    } catch (const std::exception& error) {
         document_.setCurrentLayout(menuScreen);
         prompts_.message(surroundings_.window, qtText(error.what()));
-        return;
     }
-    auto* window = new XmlWindow(qtText(writer.xmlText()), surroundings_.window);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->show();
 }
 
 void SkinFileCommands::mnuLoadBg_Click() {

@@ -125,8 +125,7 @@ class Replacement {
   public:
     explicit Replacement(fs::path target)
         : target_(std::move(target))
-        , beside_(besideName(target_))
-        , file_(beside_, O_WRONLY | O_CREAT | O_EXCL, 0666, target_) {}
+        , file_(openBeside(target_, beside_)) {}
     ~Replacement() {
         if (!beside_.empty()) {
             ::unlink(beside_.c_str());
@@ -147,12 +146,22 @@ class Replacement {
     }
 
   private:
-    static fs::path besideName(const fs::path& target) {
+    // A short name, which fits beside any other. A killed run can have left files of the same.
+    static OpenFile openBeside(const fs::path& target, fs::path& beside) {
         static int count = 0;
-        std::string name(1, '.');
-        name.append(target.filename().string()).append(".part-");
-        name.append(std::to_string(::getpid())).append("-").append(std::to_string(++count));
-        return target.parent_path() / name;
+        constexpr int tries = 10000;
+        for (int i = 1;; ++i) {
+            std::string name(".tarvel-");
+            name.append(std::to_string(::getpid())).append("-").append(std::to_string(++count));
+            beside = target.parent_path() / name;
+            try {
+                return {beside, O_WRONLY | O_CREAT | O_EXCL, 0666, target};
+            } catch (const FileError& error) {
+                if (error.errorNumber() != EEXIST || i == tries) {
+                    throw;
+                }
+            }
+        }
     }
 
     fs::path target_;
@@ -257,6 +266,21 @@ std::string documentPath(const fs::path& path) {
     return text;
 }
 
+std::string folderProblem(const fs::path& folder) {
+    if (folder.empty()) {
+        return "No folder is named";
+    }
+    std::error_code error;
+    const fs::path full = fs::absolute(folder, error);
+    if (error) {
+        return FileError(error.value(), folder).what();
+    }
+    if (full.native().find('\\') != std::string::npos) {
+        return "The path of a skin's folder cannot hold a backslash: " + full.string();
+    }
+    return {};
+}
+
 bool FileExists(std::string_view path) {
     std::error_code error;
     const auto status = fs::status(hostPath(path), error);
@@ -299,10 +323,17 @@ bool copyFile(const fs::path& from, const fs::path& to, const CopyStep& progress
     const auto total = static_cast<std::uintmax_t>(std::max<off_t>(source.status().st_size, 0));
     Replacement replacement(to);
     std::vector<char> block(std::size_t{256} * 1024);
+    // Flushed bit by bit: all at once at the end would hold up the progress for seconds.
+    constexpr std::uintmax_t flushAfter = std::uintmax_t{8} << 20;
     std::uintmax_t done = 0;
+    std::uintmax_t flushed = 0;
     while (const std::size_t got = source.read(block.data(), block.size())) {
         replacement.file().write(block.data(), got);
         done += got;
+        if (done - flushed >= flushAfter) {
+            replacement.file().flush();
+            flushed = done;
+        }
         if (progress && !progress(done, total)) {
             return false;
         }

@@ -32,6 +32,10 @@ class FileError : public std::runtime_error {
 /// The document's spelling of a host path, made absolute.
 [[nodiscard]] std::string documentPath(const std::filesystem::path& path);
 
+/// What keeps a skin from lying in a folder, as a sentence for the user; "" for nothing. A path
+/// with a backslash would come back from its document spelling as that of another folder.
+[[nodiscard]] std::string folderProblem(const std::filesystem::path& folder);
+
 /// True when the path exists and is no folder; false on every error.
 [[nodiscard]] bool FileExists(std::string_view path);
 

@@ -24,11 +24,14 @@ class SkinCheck {
   public:
     explicit SkinCheck(const std::filesystem::path& folder)
         : prefix_(withSlash(documentPath(folder)))
-        , bytes_(readBytes(folder))
         , notes_(readSkin(document_, folder))
+        , bytes_(readFile(skinFilePath(folder)))
         , tree_(readSkinText(bytes_, notes_.text)) {}
 
     std::vector<std::string> run(const std::filesystem::path& tempFolder) {
+        if (document_.settings().skinName.empty()) {
+            find("The skin has no name: it cannot be saved");
+        }
         checkResources();
         checkFileNames();
         for (int screen = 0; screen < screenCount; ++screen) {
@@ -42,14 +45,6 @@ class SkinCheck {
     }
 
   private:
-    static std::string readBytes(const std::filesystem::path& folder) {
-        try {
-            return readFile(skinFilePath(folder));
-        } catch (const FileError&) {
-            return {}; // reading the skin tells what is wrong
-        }
-    }
-
     void find(std::string finding) {
         const auto isLineBreak = [](char c) { return c == '\n' || c == '\r'; };
         std::replace_if(finding.begin(), finding.end(), isLineBreak, ' ');
@@ -62,9 +57,11 @@ class SkinCheck {
                 continue;
             }
             const auto file = std::string_view(resource.content).substr(prefix_.size());
-            const std::string subject =
-                "Resource " + inQuotes(resource.name) + ": " + std::string(file);
-            if (resource.outside) {
+            const std::string named = "Resource " + inQuotes(resource.name);
+            const std::string subject = named + ": " + std::string(file);
+            if (trimtofile(resource.content).empty()) {
+                find(named + " names no file");
+            } else if (resource.outside) {
                 find(subject + " lies outside the skin folder");
             } else if (!FileExists(resource.content)) {
                 find(subject + " is missing");
@@ -79,6 +76,9 @@ class SkinCheck {
                 continue;
             }
             const auto name = trimtofile(resource.content);
+            if (name.empty()) {
+                continue;
+            }
             const auto [first, isNew] = firstUser.try_emplace(lowerCased(name), resource.name);
             if (!isNew) {
                 find("Resources " + inQuotes(first->second) + " and " + inQuotes(resource.name) +
@@ -192,9 +192,9 @@ class SkinCheck {
     }
 
     std::string prefix_;
-    std::string bytes_;
     SkinDocument document_;
     SkinReadNotes notes_;
+    std::string bytes_;
     XmlTree tree_;
     std::vector<std::string> findings_;
 };

@@ -7,6 +7,7 @@
 #include "skinfile/text_encoding.h"
 
 #include <exception>
+#include <utility>
 
 namespace tarvel {
 
@@ -33,7 +34,7 @@ class SaveRun {
         try {
             writeFile(hostPath(folder_ + std::string(skinFileName)), skinFileBytes(xmlText));
             outcome_.textWritten = true;
-        } catch (const FileError& error) {
+        } catch (const std::exception& error) {
             outcome_.writeProblem = error.what();
         }
     }
@@ -41,7 +42,7 @@ class SaveRun {
     void makeFolder(std::string_view name) {
         try {
             createFolder(hostPath(folder_ + std::string(name)));
-        } catch (const FileError& error) {
+        } catch (const std::exception& error) {
             showProblem(error.what());
         }
     }
@@ -67,7 +68,7 @@ class SaveRun {
         }
         try {
             return copy(settings_.background.path, "Media\\");
-        } catch (const FileError&) {
+        } catch (const std::exception&) {
             return true; // a background that cannot be copied does not keep the rest from the
                          // folder
         }
@@ -86,7 +87,7 @@ class SaveRun {
     bool copyReported(const std::string& source, std::string_view below) {
         try {
             return copy(source, below);
-        } catch (const FileError& error) {
+        } catch (const std::exception& error) {
             showProblem(error.what());
             return false;
         }
@@ -120,18 +121,27 @@ class SaveRun {
     SaveOutcome outcome_;
 };
 
+SaveOutcome notBegun(std::string problem, const SaveHooks& hooks) {
+    if (hooks.showProblem) {
+        hooks.showProblem(problem);
+    }
+    return {
+        .textWritten = false, .writeProblem = std::move(problem), .stopped = true, .leftOut = {}};
+}
+
 } // namespace
 
 SaveOutcome saveSkin(SkinDocument& document, SkinWriter& writer,
                      const std::filesystem::path& folder, const SaveHooks& hooks) {
+    std::string problem = folderProblem(folder);
+    if (!problem.empty()) {
+        return notBegun(std::move(problem), hooks);
+    }
     try {
         writer.generateXML(document);
     } catch (const std::exception& error) {
         document.setCurrentLayout(menuScreen); // it stood at the screen that could not be written
-        if (hooks.showProblem) {
-            hooks.showProblem(error.what());
-        }
-        return {.textWritten = false, .writeProblem = error.what(), .stopped = true, .leftOut = {}};
+        return notBegun(error.what(), hooks);
     }
     return SaveRun(document, folder, hooks).run(writer.xmlText());
 }

@@ -30,7 +30,8 @@ struct SaveOutcome {
     bool textWritten = false;
     /// Why QOR_Skin.xml could not be written; the copying goes on all the same.
     std::string writeProblem;
-    /// Ended early: the text could not be generated, a copy failed or was cancelled.
+    /// Ended early: the folder cannot hold a skin, the text could not be generated, a copy failed
+    /// or was cancelled.
     bool stopped = false;
     /// Resources outside the skin's folder, which were not copied.
     std::vector<std::string> leftOut;
@@ -39,7 +40,8 @@ struct SaveOutcome {
 };
 
 /// Saves into an existing folder. Existing files are replaced, each only when its new content is
-/// whole. The document keeps its content; its shown screen becomes "Menu".
+/// whole. The document keeps its content; its shown screen becomes "Menu". Nothing is written to a
+/// folder that folderProblem() refuses.
 SaveOutcome saveSkin(SkinDocument& document, SkinWriter& writer,
                      const std::filesystem::path& folder, const SaveHooks& hooks);
 

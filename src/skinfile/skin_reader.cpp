@@ -9,6 +9,9 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
+#include <new>
+#include <system_error>
 
 namespace tarvel {
 
@@ -108,9 +111,9 @@ void readSection(SkinDocument& document, XmlNode section, ResourceReader& resour
         resources.read(section);
         return;
     }
-    for (const auto& [tag, read] : readers) {
-        if (equalsIgnoringCase(section.tag(), tag)) {
-            document.editSettings([&](SkinSettings& settings) { read(settings, section); });
+    for (const Reader& reader : readers) {
+        if (equalsIgnoringCase(section.tag(), reader.tag)) {
+            document.editSettings([&](SkinSettings& settings) { reader.read(settings, section); });
         }
     }
 }
@@ -119,15 +122,48 @@ SkinReadError unreadable(const std::string& problem) {
     return SkinReadError(std::string(skinFileName) + " cannot be read: " + problem);
 }
 
+// A modifier deeper than any that means something would be written with as many tabs on each line.
+void requireSaneDepth(XmlNode root) {
+    constexpr std::size_t deepest = 1000;
+    std::vector<XmlNode> open{root}; // of each level the element at hand
+    while (!open.empty()) {
+        if (const XmlNode below = open.back().firstChild()) {
+            open.push_back(below);
+            if (open.size() > deepest) {
+                throw unreadable("its elements lie more than " + std::to_string(deepest) +
+                                 " levels deep");
+            }
+            continue;
+        }
+        while (!open.empty() && !(open.back() = open.back().nextSibling())) {
+            open.pop_back();
+        }
+    }
+}
+
 XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
     try {
-        return readSkinText(readFile(skinFilePath(folder)), notes);
+        const auto path = skinFilePath(folder);
+        std::error_code ignored; // reading tells what is wrong
+        const auto size = std::filesystem::file_size(path, ignored);
+        if (!ignored && size > largestSkinText) {
+            throw unreadable("the file is too large");
+        }
+        return readSkinText(readFile(path), notes);
     } catch (const XmlError& error) {
         throw unreadable(std::string(error.what()) + " (line " + std::to_string(error.line()) +
                          ")");
     } catch (const FileError& error) {
         throw unreadable(error.what());
     }
+}
+
+SkinDocument withSkin(SkinDocument document, const std::filesystem::path& folder,
+                      SkinReadNotes& notes) {
+    const XmlTree tree = parsedSkin(folder, notes.text);
+    requireSaneDepth(tree.root());
+    readSkinTree(document, tree.root(), folder, notes);
+    return document;
 }
 
 } // namespace
@@ -155,13 +191,24 @@ void readSkinTree(SkinDocument& document, XmlNode root, const std::filesystem::p
 }
 
 SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& folder) {
+    const std::string problem = folderProblem(folder);
+    if (!problem.empty()) {
+        throw SkinReadError(problem);
+    }
     if (!FileExists(withSlash(documentPath(folder)).append(skinFileName))) {
         throw SkinReadError(std::string(noSkinFile));
     }
     SkinReadNotes notes;
-    const XmlTree tree = parsedSkin(folder, notes.text);
-    SkinDocument next = document;
-    readSkinTree(next, tree.root(), folder, notes);
+    SkinDocument next;
+    try {
+        next = withSkin(document, folder, notes);
+    } catch (const SkinReadError&) {
+        throw;
+    } catch (const std::bad_alloc&) {
+        throw unreadable("not enough memory to read it");
+    } catch (const std::exception& error) {
+        throw unreadable(error.what());
+    }
     document = std::move(next);
     return notes;
 }

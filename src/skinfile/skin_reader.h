@@ -38,7 +38,7 @@ struct SkinReadNotes {
 
 /// Adds the skin in the folder to what the document holds, skin-wide settings and elements, and
 /// shows the "Menu" screen. Throws SkinReadError and leaves the document as it was when the folder
-/// has no skin file or the file cannot be read.
+/// has no skin file or the file cannot be read, whatever the reason.
 SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& folder);
 
 /// Adds a skin that is parsed already. `folder` is where its files lie.

@@ -22,6 +22,29 @@ bool startsModifier(std::string_view line) {
            (line[modifierStart.size()] == ' ' || line[modifierStart.size()] == '>');
 }
 
+// The XML with the references beyond ASCII in the names of tags and attributes decoded: the
+// writer's code page lacks such characters, and no XML parser takes a reference in a name.
+std::string withNamesDecoded(std::string_view xml) {
+    constexpr std::string_view endsNames = ">\"'";
+    std::string result;
+    std::string_view ends = "<"; // what ends the piece at hand
+    while (!xml.empty()) {
+        const auto end = std::min(xml.find_first_of(ends), xml.size());
+        const bool names = ends == endsNames;
+        if (names) {
+            appendWithReferencesDecoded(result, xml.substr(0, end));
+        } else {
+            result.append(xml.substr(0, end));
+        }
+        const auto delimiter = xml.substr(end, 1);
+        result.append(delimiter);
+        // After the names of a tag comes text or an attribute's value, after those names again.
+        ends = !names ? endsNames : delimiter == ">" ? "<" : delimiter;
+        xml.remove_prefix(end + delimiter.size());
+    }
+    return result;
+}
+
 // Reads a text of which every line has a writer's form. The tree names most values in place.
 class FormReader {
   public:
@@ -164,7 +187,7 @@ class FormReader {
             return true;
         }
         try {
-            const std::string block(tree_.text().substr(start, at_ - start));
+            const std::string block = withNamesDecoded(tree_.text().substr(start, at_ - start));
             parseFragmentInto(tree_, parent, block);
             return true;
         } catch (const XmlError&) {
@@ -200,8 +223,16 @@ void appendXmlEscaped(std::string& text, std::string_view raw) {
     }
 }
 
+// Whether a tag can have this name in XML. All characters beyond ASCII can stand in it.
 bool isXmlName(std::string_view name) {
-    return name.find_first_of("&\"'/=!?;, \t") == std::string_view::npos;
+    const auto isStart = [](char c) {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == ':' ||
+               static_cast<unsigned char>(c) >= 0x80;
+    };
+    return !name.empty() && isStart(name.front()) &&
+           std::all_of(name.begin(), name.end(), [isStart](char c) {
+               return isStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
+           });
 }
 
 // Turns the lines of a writer's form in a text that is no XML into XML, line by line.
@@ -212,16 +243,22 @@ class Mender {
         , mendedLines_(mendedLines) {}
 
     std::string mend() {
-        const std::string_view end = text_.find(lineEnd) == std::string_view::npos ? "\n" : lineEnd;
+        const bool written = text_.find(lineEnd) != std::string_view::npos;
+        const std::string_view end = written ? lineEnd : "\n";
         int number = 1; // of the line in the file, where each line feed counts
-        while (!text_.empty()) {
-            const auto at = text_.find(end);
-            const auto length = at == std::string_view::npos ? text_.size() : at + end.size();
-            const auto line = text_.substr(0, length);
-            const auto bare = line.substr(0, std::min(at, line.size()));
-            take(bare, line.substr(bare.size()), number);
-            number += static_cast<int>(std::count(line.begin(), line.end(), '\n'));
-            text_.remove_prefix(length);
+        for (std::size_t at = 0, ending = 0; at < text_.size();) {
+            if (ending <= at) {
+                ending = std::min(text_.find(end, at), text_.size());
+            }
+            auto bare = text_.substr(at, ending - at);
+            // A value can hold a line feed. One elsewhere ends a line that somebody added.
+            const auto feed = written ? bare.find('\n') : std::string_view::npos;
+            const bool added = feed != std::string_view::npos && !hasForm(bare);
+            bare = added ? bare.substr(0, feed) : bare;
+            const auto ended = text_.substr(at + bare.size(), added ? 1 : end.size());
+            take(bare, ended, number);
+            number += static_cast<int>(std::count(bare.begin(), bare.end(), '\n')) + 1;
+            at += bare.size() + ended.size();
         }
         return std::move(result_);
     }
@@ -239,17 +276,40 @@ class Mender {
         return "\xEE\x80\x80" + std::to_string(index);
     }
 
-    void take(std::string_view bare, std::string_view ending, int number) {
-        const auto indent = std::min(bare.find_first_not_of(" \t"), bare.size());
-        const auto line = bare.substr(indent);
-        followLists(line);
+    [[nodiscard]] static std::size_t indentOf(std::string_view bare) {
+        return std::min(bare.find_first_not_of(" \t"), bare.size());
+    }
+
+    // False within a modifier, which is XML whatever its lines look like.
+    bool matches(std::string_view line, WriterLine& match) const {
+        return openModifiers_ == 0 && line.size() >= 3 && matchTextLine(line, inTagLists_, match);
+    }
+
+    [[nodiscard]] bool hasForm(std::string_view bare) const {
         WriterLine match;
-        const bool matched = line.size() >= 3 && matchTextLine(line, inTagLists_, match);
-        const std::string mended = matched ? asXml(match) : std::string(line);
+        return matches(bare.substr(indentOf(bare)), match);
+    }
+
+    void take(std::string_view bare, std::string_view ending, int number) {
+        const auto indent = indentOf(bare);
+        const auto line = bare.substr(indent);
+        const std::string mended = mendedLine(line);
         if (mended != line) {
             mendedLines_.push_back(number);
         }
         result_.append(bare.substr(0, indent)).append(mended).append(ending);
+    }
+
+    std::string mendedLine(std::string_view line) {
+        WriterLine match;
+        if (matches(line, match)) {
+            if (match.form->values != LineForm::Values::tag) { // a field can be called "/Resource"
+                followLists(line);
+            }
+            return asXml(match);
+        }
+        followLists(line);
+        return touchesModifier(line) ? withNamesDecoded(line) : std::string(line);
     }
 
     void followLists(std::string_view line) {
@@ -257,10 +317,32 @@ class Mender {
             return equalsIgnoringCase(line.substr(0, tag.size()), tag);
         };
         if (starts("<information") || starts("<resource")) {
-            inTagLists_ = true;
+            const std::string lower = lowerCased(line);
+            inTagLists_ = !line.ends_with("/>") && lower.find("</information") == lower.npos &&
+                          lower.find("</resource") == lower.npos;
         } else if (starts("</information") || starts("</resource")) {
             inTagLists_ = false;
         }
+    }
+
+    // Whether any of the line is in a modifier. Counts those that stay open after it.
+    bool touchesModifier(std::string_view line) {
+        const std::string lower = lowerCased(line);
+        const std::string_view text = lower;
+        if (text.starts_with("<layoutelement") || text.starts_with("</layoutelement")) {
+            openModifiers_ = 0; // none reaches beyond its element, whatever its markup looked like
+        }
+        bool touched = openModifiers_ > 0;
+        for (auto at = text.find('<'); at != text.npos; at = text.find('<', at + 1)) {
+            const auto tag = text.substr(at, text.find('>', at) - at + 1);
+            if (tag.starts_with("</modifier")) {
+                openModifiers_ = std::max(openModifiers_ - 1, 0);
+            } else if (tag.starts_with("<modifier")) {
+                openModifiers_ += tag.ends_with("/>") ? 0 : 1;
+                touched = true;
+            }
+        }
+        return touched;
     }
 
     std::string asXml(const WriterLine& match) {
@@ -268,7 +350,8 @@ class Mender {
         appendWithReferencesDecoded(value, match.values[0]);
         std::string line;
         if (match.form->values == LineForm::Values::tag) {
-            std::string name(match.name);
+            std::string name;
+            appendWithReferencesDecoded(name, match.name);
             if (!isXmlName(name)) {
                 names_.push_back(name);
                 name = placeholder(names_.size() - 1);
@@ -287,6 +370,7 @@ class Mender {
     std::vector<std::string> names_;
     std::string result_;
     bool inTagLists_ = false;
+    int openModifiers_ = 0;
 };
 
 void requireText(std::string_view text) {
@@ -299,9 +383,16 @@ void requireText(std::string_view text) {
     }
 }
 
+// References can make a CR LF, which would end a line of the written file within the value.
+XmlTree parsedXml(std::string text) {
+    XmlTree tree = parseXml(std::move(text));
+    tree.joinLineEnds();
+    return tree;
+}
+
 XmlTree parseMended(std::string_view text, SkinTextNotes& notes) {
     Mender mender(text, notes.mendedLines);
-    XmlTree tree = parseXml(mender.mend());
+    XmlTree tree = parsedXml(mender.mend());
     mender.restoreNames(tree);
     return tree;
 }
@@ -314,6 +405,9 @@ XmlTree readSkinText(std::string bytes, SkinTextNotes& notes) {
     notes.encoding = decoded.encoding;
     requireText(decoded.text);
     const auto size = decoded.text.size();
+    if (size > largestSkinText) {
+        throw XmlError("the file is too large", 1);
+    }
     XmlTree tree(std::move(decoded.text));
     const auto empty = tree.mark(XmlTree::top);
     if (FormReader(tree).read()) {
@@ -321,14 +415,17 @@ XmlTree readSkinText(std::string bytes, SkinTextNotes& notes) {
         return tree;
     }
     tree.backTo(empty);
-    if (PlainXmlReader().parse(tree, XmlTree::top, 0, size) && tree.root()) {
+    // To XML a field called "!--" is a comment. No other text has such an end tag.
+    const bool hidesField = tree.text().find("</!--") != std::string_view::npos;
+    if (!hidesField && PlainXmlReader().parse(tree, XmlTree::top, 0, size) && tree.root()) {
         return tree;
     }
     const std::string text(tree.text().substr(0, size));
     try {
-        return parseXml(text);
+        return hidesField ? parseMended(text, notes) : parsedXml(text);
     } catch (const XmlError&) {
-        return parseMended(text, notes);
+        notes.mendedLines.clear();
+        return hidesField ? parsedXml(text) : parseMended(text, notes);
     }
 }
 

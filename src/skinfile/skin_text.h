@@ -4,10 +4,15 @@
 #include "skinfile/text_encoding.h"
 #include "skinfile/xml_parse.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 namespace tarvel {
+
+/// Bytes of the longest text that is read: a tree counts its characters in 32 bits, those that
+/// decoding adds included.
+inline constexpr std::uint32_t largestSkinText = UINT32_MAX / 2;
 
 /// How a skin's text had to be read.
 struct SkinTextNotes {

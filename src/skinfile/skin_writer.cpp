@@ -7,7 +7,9 @@
 #include "skinfile/number_format.h"
 #include "skinfile/text_case.h"
 
+#include <algorithm>
 #include <concepts>
+#include <cstdint>
 
 namespace tarvel {
 
@@ -81,13 +83,13 @@ ColorNumber sampleText(const SystemColors& colors, SampleText text) {
 
 void SkinWriter::writeLine(std::string_view line) {
     if (line.starts_with("</")) {
-        --xmlIndent_;
+        xmlIndent_ = static_cast<std::int16_t>(std::max(xmlIndent_ - 1, INT16_MIN));
     }
     if (xmlIndent_ > 0) {
         xmlText_.append(static_cast<std::size_t>(xmlIndent_), '\t');
     }
     if (opensLevel(line)) {
-        ++xmlIndent_;
+        xmlIndent_ = static_cast<std::int16_t>(std::min(xmlIndent_ + 1, INT16_MAX));
     }
     xmlText_.append(line);
     xmlText_.append("\r\n");

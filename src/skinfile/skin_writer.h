@@ -29,7 +29,7 @@ class SkinWriter {
 
     /// The last generated text.
     [[nodiscard]] const std::string& xmlText() const { return xmlText_; }
-    /// Levels of indentation of the next line; can fall below 0.
+    /// Levels of indentation of the next line; can fall below 0. Stays at the limits of its type.
     [[nodiscard]] std::int16_t xmlIndent() const { return xmlIndent_; }
 
   private:

@@ -73,8 +73,7 @@ class FormTable {
     /// The forms that a line with this second character can have.
     [[nodiscard]] const std::vector<LineForm>& of(Section section, char second) const {
         const auto& forms = forms_[static_cast<std::size_t>(section)];
-        return forms.ofAnyTag.empty() || second == '/' ? forms.bySecond[bucket(second)]
-                                                       : forms.ofAnyTag;
+        return forms.ofAnyTag.empty() ? forms.bySecond[bucket(second)] : forms.ofAnyTag;
     }
     /// The forms that hold text of the user's.
     [[nodiscard]] const std::vector<LineForm>& ofText() const { return textForms_; }
@@ -91,8 +90,8 @@ class FormTable {
         form.pieceCount = pieces.size();
         PlaceFinder(form).find();
         SectionForms& forms = forms_[static_cast<std::size_t>(in)];
-        (values == Values::tag ? forms.ofAnyTag : forms.bySecond[bucket(form.pieces[0][1])])
-            .push_back(form);
+        const bool anyTag = in == Section::information || in == Section::resource;
+        (anyTag ? forms.ofAnyTag : forms.bySecond[bucket(form.pieces[0][1])]).push_back(form);
         if (values == Values::text || values == Values::tag) {
             textForms_.push_back(form);
         }
@@ -118,6 +117,7 @@ class FormTable {
         openNamed(Section::skin, R"(<Resource Type="Image" Name=")", Section::resource);
         openNamed(Section::skin, R"(<Layout Screen=")", Section::layout);
         close(Section::skin, "</Skin>");
+        // A field can be called "/x", so the section's own end tag is tried before any tag.
         close(Section::information, "</Information>");
         add(Section::information, Action::leaf, Values::tag, {""});
         leaf(Section::music, Values::word, "<PlayGlobal>", "</PlayGlobal>");
@@ -205,8 +205,7 @@ class FormTable {
 
     struct SectionForms {
         std::array<std::vector<LineForm>, buckets> bySecond;
-        std::vector<LineForm>
-            ofAnyTag; // in a section whose tags the user names, beside its end tag
+        std::vector<LineForm> ofAnyTag; // all of a section whose tags the user names
     };
     std::array<SectionForms, sectionCount> forms_;
     std::vector<LineForm> textForms_;
@@ -249,8 +248,7 @@ bool matchTag(std::string_view line, WriterLine& match) {
     }
     const auto name = line.substr(1, nameEnd - 1);
     const auto endTag = name.size() + 3; // </name>
-    if (name.front() == '/' || name.front() == '!' || name.front() == '?' ||
-        line.size() < nameEnd + 1 + endTag || !line.ends_with('>') ||
+    if (line.size() < nameEnd + 1 + endTag || !line.ends_with('>') ||
         line.substr(line.size() - endTag, 2) != "</" ||
         line.substr(line.size() - endTag + 2, name.size()) != name) {
         return false;

@@ -122,6 +122,30 @@ void XmlTree::setContent(Index node, std::string_view content) {
     nodes_[node].content = addText(content);
 }
 
+void XmlTree::joinLineEnds() {
+    for (Node& node : nodes_) {
+        node.content = withLineEndsJoined(node.content);
+    }
+    for (Attribute& attribute : attributes_) {
+        attribute.value = withLineEndsJoined(attribute.value);
+    }
+}
+
+XmlTree::Span XmlTree::withLineEndsJoined(Span value) {
+    const auto text = view(value);
+    if (text.find("\r\n") == std::string_view::npos) {
+        return value;
+    }
+    std::string joined;
+    for (const char c : text) {
+        while (c == '\n' && joined.ends_with('\r')) {
+            joined.pop_back();
+        }
+        joined += c;
+    }
+    return addText(joined);
+}
+
 XmlTree::Mark XmlTree::mark(Index parent) const {
     return {parent, nodes_[parent].lastChild, nodes_.size(), attributes_.size(), text_.size()};
 }

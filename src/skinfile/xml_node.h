@@ -117,6 +117,8 @@ class XmlTree {
     void setContent(Index node, Span content) { nodes_[node].content = content; }
     /// Gives every element tagged `from` the tag `to`.
     void renameTags(std::string_view from, std::string_view to);
+    /// Makes every CR LF in contents and attribute values a line feed.
+    void joinLineEnds();
     /// Copies an element (of this or another tree) with all below it under parent. Content of
     /// elements that have children loses the white space around it, which is but their indentation.
     Index addCopy(Index parent, XmlNode source);
@@ -173,6 +175,7 @@ class XmlTree {
     [[nodiscard]] std::string_view view(Span span) const {
         return {text_.data() + span.position, span.length};
     }
+    Span withLineEndsJoined(Span value);
     Index addShallowCopy(Index parent, XmlNode source);
     void reserveFor(XmlNode source);
 

@@ -33,6 +33,10 @@ constexpr std::string_view help =
     "written; 2 the skin cannot be read, or the arguments are wrong.\n";
 
 ExitCode save(SkinDocument& document, const std::filesystem::path& out, Output output) {
+    if (const std::string problem = folderProblem(out); !problem.empty()) {
+        complain(output, problem);
+        return unreadable;
+    }
     if (document.settings().skinName.empty()) {
         complain(output, std::string(enterNameMessage));
         return findings;
@@ -101,7 +105,9 @@ ExitCode check(const std::filesystem::path& folder, Output output) {
     }
 }
 
-ExitCode run(const std::vector<std::string>& arguments, Output output) {
+namespace {
+
+ExitCode runCommand(const std::vector<std::string>& arguments, Output output) {
     const std::string command = arguments.empty() ? std::string{} : arguments.front();
     if (command == "--help" && arguments.size() == 1) {
         output.out << usage << help;
@@ -121,6 +127,17 @@ ExitCode run(const std::vector<std::string>& arguments, Output output) {
         return render(arguments[1], arguments[2], arguments[3], output);
     }
     return usageError(output);
+}
+
+} // namespace
+
+ExitCode run(const std::vector<std::string>& arguments, Output output) {
+    try {
+        return runCommand(arguments, output);
+    } catch (const std::exception& error) {
+        complain(output, error.what());
+        return findings;
+    }
 }
 
 } // namespace tarvel::tool

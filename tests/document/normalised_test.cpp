@@ -82,9 +82,27 @@ class RandomSkin {
         return texts[static_cast<std::size_t>(below(static_cast<int>(texts.size())))];
     }
 
+    // Of a field.
+    std::string name() {
+        static const std::vector<std::string> names = {
+            "/x", "!x", "?x",  "/",  "!--", "2nd_author", "-x",           "#1",     "@home",  "(x)",
+            "%y", ".a", "a+b", "a*", "[k]", "$",          "/Information", "\u0159", "\u00E9", "a/"};
+        return names[static_cast<std::size_t>(below(static_cast<int>(names.size())))];
+    }
+    // Of a tag or attribute in a modifier.
+    std::string xmlName() {
+        static const std::vector<std::string> names = {"Range",  "Ra\u0159", "\u4E2D",
+                                                       "\u00E9", "_\u20AC",  "Modifier"};
+        return names[static_cast<std::size_t>(below(static_cast<int>(names.size())))];
+    }
+
     void fill(SkinSettings& settings, const TemporaryFolder& folder) {
         settings.skinName = "x" + text();
-        settings.information = {{"Author", text()}, {"MadeUsing", "y"}, {"R&D", text()}};
+        settings.information = {{"Author", text()},
+                                {"MadeUsing", "y"},
+                                {"R&D", text()},
+                                {name(), text()},
+                                {name(), "z"}};
         settings.music = {.optYesMusic = chance(),
                           .chkGlobal = chance(),
                           .chkCustom = chance(),
@@ -148,7 +166,7 @@ class RandomSkin {
             XmlTree& tree = made.elementModifiers.edit();
             const auto modifier = tree.addChild(XmlTree::top, "Modifier", chance() ? "" : "t & u");
             tree.addAttribute(modifier, "Type", text());
-            tree.addAttribute(tree.addChild(modifier, "Range"), "X", text());
+            tree.addAttribute(tree.addChild(modifier, xmlName()), xmlName(), text());
         }
         return made;
     }

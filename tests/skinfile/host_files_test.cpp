@@ -40,7 +40,27 @@ class FileSizeLimit {
     rlimit before_{};
 };
 
+// What has been done to the disk through fsync.
+struct Flushes {
+    int count = 0;
+    int failAt = 0; // the one that finds the disk full; 0 for none
+};
+Flushes flushes; // NOLINT: seen by fsync below
+
 } // namespace
+
+} // namespace tarvel
+
+// Takes the place of the system's, so that the tests see each flush and can let it fail.
+extern "C" int fsync(int descriptor) {
+    if (++tarvel::flushes.count == tarvel::flushes.failAt) {
+        errno = ENOSPC;
+        return -1;
+    }
+    return ::fdatasync(descriptor);
+}
+
+namespace tarvel {
 
 TEST(HostPath, TurnsBackslashesAndFindsOtherLetterCase) {
     const TemporaryFolder folder;
@@ -127,6 +147,37 @@ TEST(WriteFile, ThatFailsKeepsTheOlderFile) {
     EXPECT_EQ(entriesOf(folder.path()), 1U);
 }
 
+TEST(WriteFile, PassesOverWhatAKilledRunLeft) {
+    const TemporaryFolder folder;
+    folder.file("from", "new");
+    std::string last; // the name of the newest file that was written beside its target
+    EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto, auto) {
+        for (const auto& entry : fs::directory_iterator(folder.path())) {
+            const std::string name = entry.path().filename().string();
+            last = name.starts_with(".tarvel-") ? name : last;
+        }
+        return true;
+    }));
+    const auto dash = last.rfind('-');
+    ASSERT_NE(dash, std::string::npos);
+    const int number = std::stoi(last.substr(dash + 1));
+    for (const int next : {1, 2, 3}) {
+        const auto name = last.substr(0, dash + 1) + std::to_string(number + next);
+        ::close(::open((folder / name).c_str(), O_CREAT | O_CLOEXEC | O_WRONLY, 0600));
+    }
+    writeFile(folder / "to", "newer");
+    EXPECT_EQ(readFile(folder / "to"), "newer");
+    EXPECT_EQ(entriesOf(folder.path()), 5U); // the left files are nobody's business
+}
+
+TEST(FolderProblem, IsAnEmptyPathOrABackslash) {
+    EXPECT_EQ(folderProblem("/a/b c"), "");
+    EXPECT_EQ(folderProblem("relative"), "");
+    EXPECT_EQ(folderProblem({}), "No folder is named");
+    EXPECT_EQ(folderProblem("/a/b\\c/d"),
+              "The path of a skin's folder cannot hold a backslash: /a/b\\c/d");
+}
+
 TEST(WriteFile, IntoAMissingFolderDescribesTheFailure) {
     const TemporaryFolder folder;
     try {
@@ -175,6 +226,67 @@ TEST(CopyFile, CancelledOrFailedKeepsTheOlderFile) {
     }
     EXPECT_EQ(readFile(folder / "to"), "old");
     EXPECT_EQ(entriesOf(folder.path()), 2U);
+}
+
+TEST(CopyFile, FlushesWhileItCopies) {
+    const TemporaryFolder folder;
+    folder.file("from", {});
+    fs::resize_file(folder / "from", std::uintmax_t{20} << 20);
+    flushes = {};
+    int seen = 0;
+    std::uintmax_t unflushed = 0;
+    std::uintmax_t before = 0;
+    EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto done, auto) {
+        unflushed = flushes.count > seen ? 0 : unflushed + done - before;
+        EXPECT_LE(unflushed, std::uintmax_t{16} << 20);
+        EXPECT_LE(flushes.count, seen + 1); // each is followed by a step
+        seen = flushes.count;
+        before = done;
+        return true;
+    }));
+    EXPECT_EQ(before, std::uintmax_t{20} << 20);
+    EXPECT_GE(seen, 1);
+    EXPECT_EQ(flushes.count, seen + 1); // and the whole before it takes its place
+    EXPECT_EQ(fs::file_size(folder / "to"), std::uintmax_t{20} << 20);
+}
+
+TEST(CopyFile, ThatCannotBeFlushedKeepsTheOlderFile) {
+    const TemporaryFolder folder;
+    folder.file("from", {});
+    folder.file("to", "old");
+    fs::resize_file(folder / "from", std::uintmax_t{20} << 20);
+    for (const int failAt : {1, 3}) { // within the copy, and at its end
+        flushes = {.failAt = failAt};
+        EXPECT_THROW(copyFile(folder / "from", folder / "to"), FileError);
+        EXPECT_EQ(flushes.count, failAt);
+        EXPECT_EQ(readFile(folder / "to"), "old");
+        EXPECT_EQ(entriesOf(folder.path()), 2U);
+    }
+    flushes = {};
+}
+
+TEST(CopyFile, DescribesWhyASourceCannotBeRead) {
+    const TemporaryFolder folder;
+    folder.file("file", "x");
+    const auto failure = [&](std::string_view from) -> std::string {
+        try {
+            copyFile(folder / from, folder / "to");
+        } catch (const FileError& error) {
+            return error.what();
+        }
+        return "none";
+    };
+    EXPECT_EQ(failure("file/pic.png"), "Not a directory: " + (folder / "file/pic.png").string());
+    EXPECT_EQ(failure("gone.png"), "No such file or directory: " + (folder / "gone.png").string());
+    EXPECT_FALSE(fs::exists(folder / "to"));
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "nothing is closed to root";
+    }
+    folder.file("closed/pic.png", "x");
+    fs::permissions(folder / "closed", fs::perms::none);
+    const std::string closed = failure("closed/pic.png");
+    fs::permissions(folder / "closed", fs::perms::owner_all);
+    EXPECT_EQ(closed, "Permission denied: " + (folder / "closed/pic.png").string());
 }
 
 TEST(CopyFile, NeverCopiesAFileOntoItself) {

@@ -62,6 +62,19 @@ TEST_F(SkinCheckTest, SourcesAndResources) {
                "Load, element 2 (Image: zz): its source \"zz\" names no resource"}));
 }
 
+TEST_F(SkinCheckTest, EmptyFileNames) {
+    EXPECT_EQ(check("<Resource Type='Image' Name='a'><File></File></Resource>"
+                    "<Resource Type='Image' Name='b'><File>Media\\</File></Resource>"),
+              (Lines{"Resource \"a\" names no file", "Resource \"b\" names no file"}));
+}
+
+TEST_F(SkinCheckTest, ASkinWithoutAName) {
+    folder_.file("QOR_Skin.xml", "<Skin/>");
+    EXPECT_EQ(checkSkin(folder_.path(), folder_.path()),
+              (Lines{"The skin has no name: it cannot be saved",
+                     "A save changes QOR_Skin.xml from line 1 on"}));
+}
+
 TEST_F(SkinCheckTest, ElementsOffTheScreen) {
     struct Case {
         const char* type;

@@ -98,6 +98,68 @@ TEST_F(SkinFolderTest, IntoItsOwnFolderNothingIsCopiedOntoItself) {
     EXPECT_EQ(content("Media/pic.png"), "picture");
 }
 
+TEST_F(SkinFolderTest, MusicAndBackgroundAreNotCopiedOntoThemselves) {
+    folder_.file("out/Media/back.jpg", "background");
+    folder_.file("out/Music/song.wma", "song");
+    document_.editSettings([&](SkinSettings& settings) {
+        settings.background = {true, folder_.document("out\\Media\\back.jpg")};
+    });
+    addMusic(folder_.document("out\\Music\\song.wma"));
+    addMusic(folder_.document("out\\music\\SONG.wma"));
+    std::vector<std::string> copied;
+    EXPECT_TRUE(save({.showProblem = {},
+                      .progress =
+                          [&](auto name, auto, auto) {
+                              copied.emplace_back(name);
+                              return true;
+                          }})
+                    .succeeded());
+    EXPECT_TRUE(problems_.empty());
+    EXPECT_TRUE(copied.empty());
+    EXPECT_EQ(content("Media/back.jpg"), "background");
+    EXPECT_EQ(content("Music/song.wma"), "song");
+}
+
+TEST_F(SkinFolderTest, LongFileNamesAreCopied) {
+    const std::string name = std::string(251, 'n') + ".png"; // the longest that there is
+    folder_.file("short", "picture");
+    fs::create_directories(folder_ / "a");
+    fs::rename(folder_ / "short", folder_ / "a" / name);
+    document_.addRes("long", folder_.document("a\\" + name));
+    EXPECT_TRUE(save().succeeded());
+    EXPECT_TRUE(problems_.empty());
+    EXPECT_EQ(content("Media/" + name), "picture");
+}
+
+TEST_F(SkinFolderTest, AFolderThatCannotHoldASkinIsRefused) {
+    folder_.file("c/d/QOR_Skin.xml", "older");
+    for (const fs::path& refused : {folder_.folder("c\\d"), fs::path()}) {
+        out_ = refused;
+        const SaveOutcome outcome = save();
+        EXPECT_FALSE(outcome.succeeded());
+        EXPECT_TRUE(outcome.stopped);
+        EXPECT_FALSE(folderProblem(refused).empty());
+        EXPECT_EQ(outcome.writeProblem, folderProblem(refused));
+        EXPECT_EQ(problems_.back(), folderProblem(refused));
+    }
+    EXPECT_TRUE(fs::is_empty(folder_ / "c\\d"));
+    EXPECT_EQ(readFile(folder_ / "c/d/QOR_Skin.xml"), "older");
+    EXPECT_EQ(folderProblem(folder_.path()), "");
+}
+
+TEST_F(SkinFolderTest, FieldsOfAnyNameComeBack) {
+    for (const char* name : {"/x", "!x", "?x", "/", "!", "?", "/Information", "2nd", "\u0159"}) {
+        const std::vector<InformationField> fields = {{name, "a & <b>"}, {"Author", "me"}};
+        document_.editSettings([&](SkinSettings& settings) { settings.information = fields; });
+        EXPECT_TRUE(save().succeeded());
+        SkinDocument loaded;
+        ASSERT_NO_THROW(readSkin(loaded, out_)) << name;
+        ASSERT_EQ(loaded.settings().information.size(), 3U) << name; // and MadeUsing
+        EXPECT_EQ(loaded.settings().information[0], fields[0]) << name;
+        EXPECT_EQ(loaded.settings().information[1], fields[1]) << name;
+    }
+}
+
 TEST_F(SkinFolderTest, TheLaterOfTwoFilesOfOneNameWins) {
     folder_.file("a/pic.png", "first");
     folder_.file("b/pic.png", "second");

@@ -1,6 +1,7 @@
 // Sections of a skin into the document, and whole folders.
 #include "behaviour/layout_screens.h"
 #include "document/element_factory.h"
+#include "skinfile/host_files.h"
 #include "skinfile/skin_reader.h"
 #include "support/document_support.h"
 #include "support/temporary_folder.h"
@@ -44,6 +45,13 @@ TEST_F(SkinReaderTest, NameAndInformation) {
         (std::vector<InformationField>{{"Author", "Kay"}, {"MadeUsing", "a pencil"}, {"e", ""}}));
     read(""); // the fields of before are cleared even when the skin has none
     EXPECT_TRUE(settings().information.empty());
+}
+
+TEST_F(SkinReaderTest, TheFieldsOfEveryInformationSection) {
+    read("<Information><Author>Kay</Author></Information><Delays/>"
+         "<Information><Author>Lee</Author><Web>w</Web></Information>");
+    EXPECT_EQ(settings().information,
+              (std::vector<InformationField>{{"Author", "Kay"}, {"Author", "Lee"}, {"Web", "w"}}));
 }
 
 TEST_F(SkinReaderTest, Music) {
@@ -107,6 +115,32 @@ TEST_F(SkinReaderTest, Resources) {
     EXPECT_EQ(outsideMessage({}), "");
 }
 
+TEST_F(SkinReaderTest, AnEmptyFileTextNamesNoFile) {
+    const auto notes = read("<Resource Type='Image' Name='a'><File></File></Resource>"
+                            "<Layout Screen='Menu'><LayoutElement Type='Image' Source='a'>"
+                            "<Pos L='1'/></LayoutElement></Layout>");
+    EXPECT_EQ(settings().resources,
+              (std::vector<Resource>{{"a", folder_.document(""), true, false}}));
+    EXPECT_TRUE(notes.outside.empty());
+    EXPECT_EQ(document_.rowCount(menuScreen), 1);
+}
+
+TEST_F(SkinReaderTest, IdsRowsAndCountsOfTwoScreens) {
+    read("<Layout Screen='Menu'><LayoutElement Type='Box'><Color>0x80010203</Color><Pos/>"
+         "</LayoutElement><LayoutElement Type='Box'><Pos/></LayoutElement></Layout>"
+         "<Layout Screen='Title'><LayoutElement Type='Text' Source='IP'><Pos/></LayoutElement>"
+         "</Layout>");
+    EXPECT_EQ(document_.lastElementId(), 3);
+    EXPECT_EQ(document_.itemData(1, 0), 1);
+    EXPECT_EQ(document_.itemData(1, 1), 2);
+    EXPECT_EQ(document_.itemData(0, 0), 3);
+    EXPECT_EQ(document_.rowText(1, 0), boxLabel(50));
+    EXPECT_EQ(document_.rowText(1, 1), boxLabel(100));
+    EXPECT_EQ(document_.rowText(0, 0), textLabel("IP"));
+    EXPECT_EQ(document_.screenElementCount(1), 2);
+    EXPECT_EQ(document_.screenElementCount(0), 1);
+}
+
 TEST_F(SkinReaderTest, ElementsOfAllScreensWithTheirResources) {
     folder_.file("Media/A.png", "x");
     read("<Layout Screen='MENU'><LayoutElement Type='Image' Source='A'><Pos L='1'/></LayoutElement>"
@@ -158,6 +192,46 @@ TEST_F(SkinReaderTest, AFailureLeavesTheDocumentAsItWas) {
     EXPECT_EQ(failure(),
               "QOR_Skin.xml cannot be read: it ends before its elements are closed (line 1)");
     EXPECT_EQ(document_, before);
+}
+
+TEST_F(SkinReaderTest, AFolderThatCannotHoldASkinIsDescribed) {
+    folder_.file("a\\b/QOR_Skin.xml", "<Skin name='wrong'/>");
+    folder_.file("a/b/QOR_Skin.xml", "<Skin name='wrong'/>");
+    for (const std::filesystem::path& refused : {folder_ / "a\\b", std::filesystem::path()}) {
+        try {
+            readSkin(document_, refused);
+            ADD_FAILURE() << "read " << refused;
+        } catch (const SkinReadError& error) {
+            EXPECT_EQ(error.what(), folderProblem(refused));
+        }
+    }
+    EXPECT_EQ(document_, SkinDocument());
+}
+
+TEST_F(SkinReaderTest, AFileThatIsTooLargeIsNotReadAtAll) {
+    const auto file = folder_.file("QOR_Skin.xml", "<Skin/>");
+    std::filesystem::resize_file(file, std::uintmax_t{3} << 30);
+    EXPECT_EQ(failure(), "QOR_Skin.xml cannot be read: the file is too large");
+}
+
+TEST_F(SkinReaderTest, AbsurdDepthIsRefused) {
+    const auto nested = [](int levels) {
+        std::string text;
+        for (int i = 0; i < levels; ++i) {
+            text += "<a>";
+        }
+        for (int i = 0; i < levels; ++i) {
+            text += "</a>";
+        }
+        return "<Layout Screen='Menu'><LayoutElement Type='Box'><Pos/><Modifier>" + text +
+               "</Modifier></LayoutElement></Layout><b/>";
+    };
+    read(nested(996));
+    EXPECT_EQ(document_.rowCount(menuScreen), 1);
+    folder_.file("QOR_Skin.xml", "<Skin>" + nested(997) + "</Skin>");
+    EXPECT_EQ(failure(),
+              "QOR_Skin.xml cannot be read: its elements lie more than 1000 levels deep");
+    EXPECT_EQ(document_.rowCount(menuScreen), 1);
 }
 
 TEST_F(SkinReaderTest, AFileThatMayNotBeReadIsDescribed) {

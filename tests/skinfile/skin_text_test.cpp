@@ -80,6 +80,70 @@ TEST(SkinText, TagsThatAreNoXmlNames) {
     EXPECT_EQ(notes.mendedLines, (std::vector<int>{3, 4}));
 }
 
+TEST(SkinText, AFieldCanHaveAnyName) {
+    std::string fields;
+    std::vector<std::string> names = {
+        "/x", "!x",  "?x",  "/",   "!",        "?",   "/Information", "x/",         "2nd",
+        "-x", "#1",  "@me", "(x)", "%y",       ".a",  "a+b",          "a*",         "[k]",
+        "$",  "a=b", "a;",  "&",   "Resource", "!--", "\u00E9",       "Information"};
+    for (const std::string& name : names) {
+        fields.append("\t\t<").append(name).append(">a & <b></").append(name).append(">\n");
+    }
+    const std::string text = written(fields + "\t\t<&#345;>r</&#345;>\n", "\t\t<Entry>e</Entry>\n",
+                                     "\t\t<LayoutElement Type=\"Box\">\n", "");
+    names.emplace_back("\u0159");
+    std::string commented = text;
+    commented.insert(commented.find("\t<Resource"), "<!-- edited -->\r\n");
+    std::string mixed = text; // by an editor that ends its lines by LF
+    mixed.insert(mixed.find("\t\t<2nd>"), "\t\t<!-- edited -->\n");
+    for (const std::string& variant : {text, text + "<!-- edited -->\r\n", commented, mixed,
+                                       withLineFeeds(text), withLineFeeds(commented)}) {
+        SkinTextNotes notes;
+        const XmlTree tree = readSkinText(variant, notes);
+        EXPECT_EQ(notes.writerForm, variant == text);
+        const XmlNode information = tree.root().child(0);
+        ASSERT_EQ(information.childCount(), names.size()) << variant;
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            EXPECT_EQ(information.child(i).tag(), names[i]);
+            EXPECT_EQ(information.child(i).content(), i + 1 < names.size() ? "a & <b>" : "r");
+        }
+        EXPECT_EQ(tree.root().child(1).child(0).content(), "e");
+    }
+}
+
+TEST(SkinText, AFieldThatLooksLikeACommentIsKept) {
+    for (const std::string name : {"!--", "!--x"}) {
+        std::string field("\t\t<");
+        field.append(name).append(">v</").append(name).append(">\n");
+        const std::string text =
+            written(field, "\t\t<Entry>e</Entry>\n", "\t\t<LayoutElement Type=\"Box\">\n", "");
+        for (const std::string& variant : {text + "<!-- edited -->\r\n", withLineFeeds(text)}) {
+            SkinTextNotes notes;
+            const XmlTree tree = readSkinText(variant, notes);
+            EXPECT_EQ(notes.mendedLines, std::vector<int>{3});
+            ASSERT_EQ(tree.root().child(0).childCount(), 1U) << name;
+            EXPECT_EQ(tree.root().child(0).child(0).tag(), name);
+        }
+    }
+    SkinTextNotes notes;
+    const XmlTree tree = readSkinText("<Skin name='n'><!-- </!-- --><a>&amp;</a></Skin>", notes);
+    EXPECT_EQ(tree.root().child(0).content(), "&");
+}
+
+TEST(SkinText, AnAddedLineIsCountedInWhatWasMended) {
+    const std::string text =
+        written("<!-- one -->\n\t\t<a>1 < 2</a>\n", "\t\t<Entry>e</Entry>\n",
+                "\t\t<LayoutElement Type=\"Text\">\n", "\t\t\t<Constant>x\n<y</Constant>\n");
+    std::string mixed = text;
+    mixed.erase(mixed.find("\r\n", mixed.find("one")), 1);      // an LF that ends a line
+    mixed.erase(mixed.find("\r\n", mixed.find("Constant")), 1); // and one within a value
+    SkinTextNotes notes;
+    const XmlTree tree = readSkinText(mixed, notes);
+    EXPECT_EQ(notes.mendedLines, (std::vector<int>{4, 11}));
+    EXPECT_EQ(tree.root().child(0).child(0).content(), "1 < 2");
+    EXPECT_EQ(elementIn(tree).child(0).content(), "x\n<y");
+}
+
 TEST(SkinText, ReferencesBeyondAsciiAreDecoded) {
     const std::string value = "&#8364; &#xE4; &#65; &#1114112; &#55296; &# &#x; &#228";
     SkinTextNotes notes;
@@ -109,6 +173,71 @@ TEST(SkinText, ModifierBlocksAreXml) {
     EXPECT_EQ(element.child(0).child(0).attributeName(0), "X");
     EXPECT_EQ(element.child(1).attributeValue(0), "plain");
     EXPECT_EQ(element.child(2).tag(), "Pos");
+}
+
+TEST(SkinText, NamesInModifiersCanHaveReferences) {
+    const std::string block =
+        "\t\t\t<Modifier Type=\"&#345; &gt;\">\n"
+        "\t\t\t\t<Ra&#345; X=\"&#345;\" &#20013;y=\"'\">5\" &#345; &amp;#345;</Ra&#345;>\n"
+        "\t\t\t\t\n\t\t\t</Modifier>\n\t\t\t\n";
+    const std::string text = written("\t\t<Author>me</Author>\n", "\t\t<Entry>e</Entry>\n",
+                                     "\t\t<LayoutElement Type=\"Box\">\n", block);
+    for (const std::string& variant : {text, text + "<!-- edited -->\r\n", withLineFeeds(text)}) {
+        SkinTextNotes notes;
+        const XmlTree tree = readSkinText(variant, notes);
+        EXPECT_EQ(notes.writerForm, variant == text);
+        EXPECT_EQ(notes.mendedLines, variant == text ? std::vector<int>{} : std::vector<int>{11});
+        const XmlNode modifier = elementIn(tree).child(0);
+        EXPECT_EQ(modifier.attributeValue(0), "\u0159 >");
+        const XmlNode range = modifier.child(0);
+        EXPECT_EQ(range.tag(), "Ra\u0159");
+        EXPECT_EQ(range.attributeValue(0), "\u0159");
+        EXPECT_EQ(range.attributeName(1), "\u4E2Dy");
+        EXPECT_EQ(range.attributeValue(1), "'");
+        EXPECT_EQ(range.content(), "5\" \u0159 &#345;");
+    }
+}
+
+TEST(SkinText, LinesOfModifiersStayXmlWhereOthersAreMended) {
+    const std::string block = "\t\t\t<Modifier Type=\"closed\"/>\n"
+                              "\t\t\t<MODIFIER Type=\"outer\">\n"
+                              "\t\t\t\t<Modifier Type=\"inner\"></Modifier>\n"
+                              "\t\t\t\t<Condition>a &amp; b</Condition>\n"
+                              "\t\t\t</MODIFIER>\n"
+                              "\t\t\t<Condition>a &amp; b < c</Condition>\n";
+    const std::string text =
+        written("\t\t<Author>a < b</Author>\n", "\t\t<Entry>e</Entry>\n",
+                "\t\t<LayoutElement Type=\"Text\" Source=\"<Modifier >\">\n", block);
+    SkinTextNotes notes;
+    const XmlTree tree = readSkinText(withLineFeeds(text), notes);
+    EXPECT_EQ(notes.mendedLines, (std::vector<int>{3, 9, 15}));
+    const XmlNode element = elementIn(tree);
+    EXPECT_EQ(element.attributeValue(1), "<Modifier >");
+    EXPECT_EQ(element.child(1).child(1).content(), "a & b");
+    EXPECT_EQ(element.child(2).content(), "a &amp; b < c");
+}
+
+TEST(SkinText, ATagListEndsOnItsLine) {
+    const std::string text = "<Skin name=\"n\">\n<Information><a>x</a></Information>\n"
+                             "<Resource Type=\"Image\" Name=\"r\"/>\n"
+                             "<Resource Type=\"Image\" Name=\"r\"><File>f</File></Resource>\n"
+                             "<Other>&amp;</Other>\n"
+                             "<Layout Screen=\"Menu\">\n<LayoutElement Type=\"Text\">\n"
+                             "<Constant>a < b</Constant>\n</LayoutElement>\n</Layout>\n</Skin>\n";
+    SkinTextNotes notes;
+    const XmlTree tree = readSkinText(text, notes);
+    EXPECT_EQ(notes.mendedLines, std::vector<int>{8});
+    EXPECT_EQ(tree.root().child(3).content(), "&");
+}
+
+TEST(SkinText, ACrLfWithinAValueBecomesALineFeed) {
+    SkinTextNotes notes;
+    const XmlTree tree = readSkinText("<Skin name='a&#13;&#10;b'><c>1&#xD;\n2&#13;3&#13;</c>"
+                                      "<d>&#13;&#13;&#10;&#10;&#13;<!-- -->\n</d></Skin>",
+                                      notes);
+    EXPECT_EQ(tree.root().attributeValue(0), "a\nb");
+    EXPECT_EQ(tree.root().child(0).content(), "1\n2\r3\r");
+    EXPECT_EQ(tree.root().child(1).content(), "\n\n\n");
 }
 
 TEST(SkinText, LinesWithoutAFormMakeItXml) {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <functional>
 
 namespace tarvel {
@@ -93,6 +94,45 @@ TEST_F(SkinWriterTest, LinesAndTheirIndentation) {
     (void)generated();
     EXPECT_EQ(writer_.xmlIndent(), 0); // starts anew
     EXPECT_TRUE(writer_.xmlText().starts_with("<Skin name=\"\">\r\n\t<Information>\r\n"));
+}
+
+TEST_F(SkinWriterTest, IndentationStaysAtItsLimits) {
+    for (int i = 0; i < 33'000; ++i) {
+        writer_.writeLine("</x>");
+    }
+    EXPECT_EQ(writer_.xmlIndent(), INT16_MIN);
+    EXPECT_EQ(writer_.xmlText().find('\t'), std::string::npos);
+    for (int i = 0; i < 40; ++i) {
+        writer_.writeLine("<x>");
+    }
+    EXPECT_EQ(writer_.xmlIndent(), INT16_MIN + 40);
+}
+
+TEST_F(SkinWriterTest, CurrentLayoutFollowsTheScreenThatIsWritten) {
+    struct Follower : DocumentObserver {
+        explicit Follower(SkinDocument& watched)
+            : document(watched) {
+            document.setObserver(this);
+        }
+        ~Follower() override { document.setObserver(nullptr); }
+        Follower(const Follower&) = delete;
+        Follower& operator=(const Follower&) = delete;
+        void documentChanged(const DocumentChange& change) override {
+            if (change.what == DocumentChange::What::currentLayout) {
+                screens.push_back(document.currentLayout());
+            }
+        }
+        SkinDocument& document;
+        std::vector<int> screens;
+    };
+    for (const int screen : {5, 3, 0}) {
+        document_.setCurrentLayout(screen);
+        document_.addElement(ofKind(ElementKind::Box));
+    }
+    document_.setCurrentLayout(2);
+    const Follower follower(document_);
+    (void)generated();
+    EXPECT_EQ(follower.screens, (std::vector<int>{0, 3, 5, menuScreen}));
 }
 
 TEST_F(SkinWriterTest, NewSkinWithoutElements) {

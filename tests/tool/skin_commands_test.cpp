@@ -198,6 +198,28 @@ TEST(Resave, ASkinWithoutANameIsNotSaved) {
     EXPECT_FALSE(fs::exists(folder / "out"));
 }
 
+TEST(Resave, IntoAFolderThatCannotHoldASkinChangesNothing) {
+    const TemporaryFolder folder;
+    folder.file("c/d/QOR_Skin.xml", "older");
+    const auto out = folder / "c\\d";
+    const Result result = runWith({"resave", handmade.string(), out.string()});
+    EXPECT_EQ(result.code, 2);
+    expectOneLine(result.err, out.string());
+    EXPECT_FALSE(fs::exists(out));
+    EXPECT_EQ(readFile(folder / "c/d/QOR_Skin.xml"), "older");
+}
+
+TEST(SkinCommands, AnEmptyFolderArgumentIsRefused) {
+    for (const auto& arguments : std::vector<std::vector<std::string>>{
+             {"resave", handmade.string(), ""}, {"resave", "", "out"}, {"check", ""}}) {
+        const Result result = runWith(arguments);
+        EXPECT_EQ(result.code, 2);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err, "tarvel-skin: No folder is named\n");
+    }
+    EXPECT_FALSE(fs::exists("out"));
+}
+
 TEST(Resave, OfWhatCannotBeReadMakesNoFolder) {
     const TemporaryFolder folder;
     folder.folder("empty");
