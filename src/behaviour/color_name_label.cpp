@@ -23,6 +23,11 @@ constexpr int swatchGap = 6;
 constexpr int padding = 4;
 constexpr qreal cornerRadius = 3;
 
+// Where the picture of a dragged name hangs from the pointer, and how much of it covers what is
+// below: the marked target stays in sight.
+constexpr QPoint hanging{14, 14};
+constexpr float dragOpacity = 0.6F;
+
 void drawSwatch(QPainter& painter, QPoint topLeft, int channel) {
     constexpr std::array<QRgb, channelCount> colors = {0xFF9A9A9A, 0xFFD6453D, 0xFF3C9A4E,
                                                        0xFF3F74D8};
@@ -122,6 +127,9 @@ QPixmap ColorNameLabel::dragPicture() const {
     painter.setFont(font());
     painter.setPen(palette().color(QPalette::Text));
     painter.drawText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, text());
+    // Faded as a whole: strokes that are faded one by one would show each other.
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(rect(), QColor::fromRgbF(0, 0, 0, dragOpacity));
     return picture;
 }
 
@@ -150,7 +158,7 @@ void ColorNameLabel::drag() {
     auto* drag = new QDrag(this); // deletes itself after the drop
     drag->setMimeData(channelData(channel_).release());
     drag->setPixmap(dragPicture());
-    drag->setHotSpot(*press_);
+    drag->setHotSpot(-hanging);
     press_.reset();
     drag->exec(Qt::CopyAction);
 }

@@ -46,7 +46,7 @@ class ColorNameLabel : public ColorDropLabel {
   public:
     explicit ColorNameLabel(int channel, QWidget* parent = nullptr);
 
-    /// What is seen under the pointer while the name is dragged.
+    /// What hangs from the pointer while the name is dragged; lets through what is below.
     [[nodiscard]] QPixmap dragPicture() const;
 
   signals:

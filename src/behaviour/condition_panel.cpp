@@ -42,6 +42,7 @@ ConditionPanel::ConditionPanel(SkinDocument& document, QWidget* parent)
     addOk(QStringLiteral("cmdConditionOK"), tr("Store the condition"));
     setFirstControl(lstCond_);
     connect(lstCond_, &QListWidget::currentRowChanged, this, &ConditionPanel::lstCond_Click);
+    connect(lstCond_, &QListWidget::itemSelectionChanged, this, &ConditionPanel::keepRowSelected);
     lstCond_->setCurrentRow(0);
 }
 
@@ -49,6 +50,14 @@ void ConditionPanel::lstCond_Click(int row) {
     if (row >= 0) {
         lblConditionDesc_->setText(
             qtText(conditionRows.at(static_cast<std::size_t>(row)).description));
+    }
+}
+
+// Ctrl takes the highlight from the selected row, which would be stored all the same.
+void ConditionPanel::keepRowSelected() {
+    QListWidgetItem* row = lstCond_->currentItem();
+    if (row != nullptr && lstCond_->selectedItems().isEmpty()) {
+        row->setSelected(true);
     }
 }
 

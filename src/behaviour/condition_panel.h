@@ -20,6 +20,7 @@ class ConditionPanel : public BehaviourPanel {
 
   private:
     void lstCond_Click(int row);
+    void keepRowSelected();
 
     QListWidget* lstCond_;
     QLabel* lblConditionDesc_;

@@ -5,27 +5,50 @@
 #include "dialogs/field_edit.h"
 #include "dialogs/skin_dialog.h"
 
+#include <QClipboard>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRegularExpressionValidator>
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tarvel {
 
 namespace {
 
-constexpr int helpWidth = 270; // pixels
+constexpr int helpWidth = 240; // pixels
 constexpr int boxWidth = 90;
+
+// Numbers come out of tables and lines of text with white space around them, which goes: from what
+// the keys paste, and from a text that the mouse has put in place of another.
+class NumberValidator : public QRegularExpressionValidator {
+  public:
+    explicit NumberValidator(QObject* parent)
+        : QRegularExpressionValidator(QRegularExpression(QStringLiteral("-?[0-9]*")), parent) {}
+
+    State validate(QString& input, int& position) const override {
+        const QString number = input.trimmed();
+        if (number.isEmpty() && !input.isEmpty()) {
+            return Invalid;
+        }
+        const auto before = static_cast<int>(input.indexOf(number));
+        position = std::clamp(position - before, 0, static_cast<int>(number.size()));
+        input = number;
+        return QRegularExpressionValidator::validate(input, position);
+    }
+};
 
 // A box that takes digits only. Other text can stand in it when it was set, or pasted as a number.
 class TimerEdit : public FieldEdit {
   public:
     TimerEdit() {
-        static const QRegularExpression number(QStringLiteral("-?[0-9]*"));
-        setValidator(new QRegularExpressionValidator(number, this));
+        setValidator(new NumberValidator(this));
         setInputMethodHints(Qt::ImhDigitsOnly);
         setAlignment(Qt::AlignRight);
         setFixedWidth(boxWidth);
@@ -34,6 +57,11 @@ class TimerEdit : public FieldEdit {
   protected:
     // txtTimer_KeyPress
     void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Paste)) {
+            pasteTrimmed();
+            event->accept();
+            return;
+        }
         const QString typed = event->text();
         const bool shortcut =
             (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
@@ -43,6 +71,28 @@ class TimerEdit : public FieldEdit {
             return;
         }
         FieldEdit::keyPressEvent(event);
+    }
+
+    // What an input method hands over was typed as well.
+    void inputMethodEvent(QInputMethodEvent* event) override {
+        QString digits;
+        for (const QChar c : event->commitString()) {
+            if (c.isPrint() && numsonly(c.unicode()) != 0) {
+                digits += c;
+            }
+        }
+        QInputMethodEvent typed(event->preeditString(), event->attributes());
+        typed.setCommitString(digits, event->replacementStart(), event->replacementLength());
+        FieldEdit::inputMethodEvent(&typed);
+        event->setAccepted(typed.isAccepted());
+    }
+
+  private:
+    void pasteTrimmed() {
+        const QString number = QGuiApplication::clipboard()->text().trimmed();
+        if (!number.isEmpty()) { // nothing would still take the place of what is selected
+            insert(number);
+        }
     }
 };
 

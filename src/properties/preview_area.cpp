@@ -137,7 +137,7 @@ void PreviewArea::showResource(const Resource& resource) {
         stack_->setCurrentWidget(vidPreview_);
         return;
     }
-    vidPreview_->clear();
+    vidPreview_->setFile(resource.content);
     if (opened && control.kind == ControlKind::png) {
         imgPng_->setFile(qtText(control.file));
         stack_->setCurrentWidget(imgPng_);

@@ -22,7 +22,8 @@ class PreviewArea : public QWidget {
   public:
     explicit PreviewArea(PictureCache& pictures, QWidget* parent = nullptr);
 
-    /// A video plays, from its beginning if it was stopped.
+    /// A video plays, from its beginning if it was stopped. The player has the content of every
+    /// resource as its file name, and opens it for videos only.
     void showResource(const Resource& resource);
     /// Shows an empty place.
     void clear();

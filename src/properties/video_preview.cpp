@@ -29,13 +29,13 @@ const std::string& VideoPreview::fileName() const {
     return screenOfOne_.element(video_).elementControl.file;
 }
 
-void VideoPreview::setFile(std::string_view file) {
+void VideoPreview::take(std::string_view file) {
     screenOfOne_.editElement(video_, [&](Element& element) { element.elementControl.file = file; });
     update();
 }
 
 void VideoPreview::play(std::string_view file) {
-    setFile(file);
+    take(file);
     stage_.showAnew();
     stage_.show(screenOfOne_, screenOfOne_.currentLayout());
 }
@@ -44,9 +44,10 @@ void VideoPreview::stop() {
     stage_.stopAllVids(screenOfOne_);
 }
 
-void VideoPreview::clear() {
-    setFile({});
+void VideoPreview::setFile(std::string_view file) {
+    take({}); // so that a player of the same file goes as well
     stage_.show(screenOfOne_, VideoStage::noScreen);
+    take(file);
 }
 
 void VideoPreview::paintEvent(QPaintEvent* /*event*/) {

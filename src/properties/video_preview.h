@@ -23,17 +23,19 @@ class VideoPreview : public QWidget {
     void play(std::string_view file);
     /// Keeps the picture shown last.
     void stop();
-    /// Gives up the file.
-    void clear();
+    /// Plays nothing and opens nothing: fileName() is all that changes.
+    void setFile(std::string_view file);
+    /// Plays nothing and has no file.
+    void clear() { setFile({}); }
     [[nodiscard]] bool isPlaying() const { return stage_.isPlaying(video_); }
-    /// The path given last; "" after clear().
+    /// What was given last; "" after clear().
     [[nodiscard]] const std::string& fileName() const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void setFile(std::string_view file);
+    void take(std::string_view file);
 
     // The stage plays the videos of a document; this one has a single video.
     SkinDocument screenOfOne_;

@@ -7,12 +7,15 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QDrag>
 #include <QMimeData>
 #include <QTimer>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
 
 namespace tarvel {
 
@@ -50,6 +53,7 @@ class ColorFrameTest : public QObject {
     void dropTargetIsMarked();
     void otherDataIsNotTaken();
     void namesHaveADragPicture();
+    void dragPictureLetsTheTargetThrough();
     void namesCanBeDragged();
     void clickOnANameTicksItsBox();
 
@@ -345,6 +349,20 @@ void ColorFrameTest::namesHaveADragPicture() {
     const auto& blue = control<ColorNameLabel>(*frame_, "lblColr(3)");
     QCOMPARE(red.dragPicture().deviceIndependentSize(), QSizeF(red.size()));
     QVERIFY(red.dragPicture().toImage() != blue.dragPicture().toImage());
+    const qreal ratio = red.devicePixelRatioF(); // sharp on every screen
+    QCOMPARE(red.dragPicture().devicePixelRatio(), ratio);
+    QCOMPARE(red.dragPicture().size(), (QSizeF(red.size()) * ratio).toSize());
+}
+
+void ColorFrameTest::dragPictureLetsTheTargetThrough() {
+    const QImage picture = control<ColorNameLabel>(*frame_, "lblColr(1)").dragPicture().toImage();
+    int strongest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            strongest = std::max(strongest, qAlpha(picture.pixel(x, y)));
+        }
+    }
+    QCOMPARE(strongest, 153); // 60 %
 }
 
 void ColorFrameTest::namesCanBeDragged() {
@@ -353,10 +371,14 @@ void ColorFrameTest::namesCanBeDragged() {
     const auto& blue = dropLabel("lblColr", 3);
     test::Pointer pointer(*window_);
     bool letGo = false;
+    std::optional<QPoint> hotSpot;
     pointer.moveTo(red, red.rect().center());
     pointer.press();
     // The drag has an event loop of its own.
     QTimer::singleShot(50, this, [&] {
+        if (const auto* drag = red.findChild<QDrag*>()) {
+            hotSpot = drag->hotSpot();
+        }
         pointer.moveTo(blue, blue.rect().center() - QPoint(2, 0));
         pointer.moveTo(blue, blue.rect().center());
         pointer.release();
@@ -368,6 +390,9 @@ void ColorFrameTest::namesCanBeDragged() {
     QTRY_VERIFY(letGo);
     // Without a display a drag ends where it began. It is no click then either.
     const bool display = QGuiApplication::platformName() != QLatin1String("offscreen");
+    if (display) { // the picture hangs below right of the pointer, beside the target
+        QVERIFY(hotSpot && hotSpot->x() < 0 && hotSpot->y() < 0);
+    }
     QCOMPARE(channels(), (QStringList{before[0], before[1], before[2],
                                       display ? QStringLiteral("20 210 2000") : before[3]}));
 }

@@ -28,6 +28,8 @@ class ConditionPanelTest : public QObject {
     void rowsShowTheirDescriptionAndAreStored_data();
     void rowsShowTheirDescriptionAndAreStored();
     void worksByKeysAlone();
+    void selectedRowStaysSelected_data();
+    void selectedRowStaysSelected();
     void escapeDoesNothing();
     void tellsTheDocumentsObserver();
     void storesIntoTheElementThatItWasOpenedFor();
@@ -138,6 +140,36 @@ void ConditionPanelTest::worksByKeysAlone() {
     QTest::keyClick(&lstCond, Qt::Key_Return);
     QVERIFY(!panel.isVisible());
     QCOMPARE(condition(), "ItemNext ");
+}
+
+void ConditionPanelTest::selectedRowStaysSelected_data() {
+    QTest::addColumn<int>("key"); // 0: a click
+    QTest::newRow("Ctrl and click") << 0;
+    QTest::newRow("Ctrl and Space") << int{Qt::Key_Space};
+}
+
+void ConditionPanelTest::selectedRowStaysSelected() {
+    QFETCH(int, key);
+    ConditionPanel panel(document_);
+    test::PanelWindow window(panel);
+    setCondition("ItemEntry");
+    QVERIFY(window.openPanel(1));
+    auto& lstCond = control<QListWidget>(panel, "lstCond");
+    const QRect row = lstCond.visualItemRect(lstCond.item(3));
+    for (int time = 0; time < 3; ++time) {
+        if (key == 0) {
+            QTest::mouseClick(lstCond.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                              row.center());
+        } else {
+            QTest::keyClick(&lstCond, static_cast<Qt::Key>(key), Qt::ControlModifier);
+        }
+        QCOMPARE(lstCond.selectedItems(), QList{lstCond.item(3)});
+    }
+    QTest::mouseClick(lstCond.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      lstCond.visualItemRect(lstCond.item(5)).center());
+    QCOMPARE(lstCond.selectedItems(), QList{lstCond.item(5)});
+    click(control<QPushButton>(panel, "cmdConditionOK"));
+    QCOMPARE(condition(), "ItemPassCode");
 }
 
 void ConditionPanelTest::escapeDoesNothing() {

@@ -85,6 +85,7 @@ class PropertyPanelImageTest : public QObject {
     void unreadableFileSaysSo_data();
     void unreadableFileSaysSo();
     void fileOutsideTheSkinIsNotOpened();
+    void videoOutsideTheSkinIsNotOpened();
     void nothingChosenShowsAnEmptyPlace();
     void replacedResourceIsPreviewedAnew();
 
@@ -93,6 +94,7 @@ class PropertyPanelImageTest : public QObject {
     void shownAgainAStoppedVideoStaysStopped();
     void videoPlaysOnlyInSight();
     void missingVideoSaysSo();
+    void everyContentIsTheFileNameOfThePlayer();
 
   private:
     // Three files and a resource that the dashboard supplies.
@@ -326,6 +328,18 @@ void PropertyPanelImageTest::fileOutsideTheSkinIsNotOpened() {
     }
 }
 
+void PropertyPanelImageTest::videoOutsideTheSkinIsNotOpened() {
+    const std::string path = documentPath(media("lights.wmv").toStdString());
+    SkinDocument document;
+    document.addRes("outside", path, true);
+    ShownPanel shown(document);
+    shown.panel.showElement(imageNamed("outside"));
+    const auto& vidPreview = shown.find<VideoPreview>("vidPreview");
+    QCOMPARE(vidPreview.fileName(), path);
+    QVERIFY(!vidPreview.isPlaying());
+    QCOMPARE(shownPreview(shown), "imgPreview");
+}
+
 void PropertyPanelImageTest::nothingChosenShowsAnEmptyPlace() {
     ShownPanel shown(skin());
     shown.panel.showKind(ElementKind::Image);
@@ -413,6 +427,22 @@ void PropertyPanelImageTest::missingVideoSaysSo() {
         words << middleOf(look, {x, -5}).rgb() << middleOf(look, {x, 5}).rgb();
     }
     QVERIFY(words.size() > 3);
+}
+
+void PropertyPanelImageTest::everyContentIsTheFileNameOfThePlayer() {
+    ShownPanel shown(skin());
+    shown.panel.showKind(ElementKind::Image);
+    auto& lstR = shown.find<QComboBox>("lstR");
+    const auto& vidPreview = shown.find<VideoPreview>("vidPreview");
+    QCOMPARE(vidPreview.fileName(), "");
+    for (const int row : {0, 1, 2, 3, 2, 1, 3, 0}) {
+        chooseEntry(lstR, row);
+        QCOMPARE(vidPreview.fileName(),
+                 shown.document.settings().resources.at(static_cast<std::size_t>(row)).content);
+        QCOMPARE(vidPreview.isPlaying(), row == 2);
+    }
+    shown.panel.showKind(ElementKind::Box);
+    QCOMPARE(vidPreview.fileName(), "");
 }
 
 QTEST_MAIN(PropertyPanelImageTest)

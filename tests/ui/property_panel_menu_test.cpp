@@ -88,6 +88,9 @@ void PropertyPanelMenuTest::captionsWithoutANameOfTheirOwn() {
     const auto labels = shown.find<QWidget>("fraQor").findChildren<QLabel*>();
     for (const QLabel* label : labels) {
         texts << label->text();
+        if (label->text() == "Game Title" || label->text() == "Game Description") {
+            QCOMPARE(label->font().family(), "Tahoma");
+        }
     }
     for (const char* text : {"Preview:", "Alignment:", "Game Title", "Game Description"}) {
         QVERIFY2(texts.contains(QString::fromLatin1(text)), text);

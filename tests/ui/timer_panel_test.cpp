@@ -1,12 +1,16 @@
 // The timer panel.
 #include "behaviour/layout_screens.h"
 #include "behaviour/timer_panel.h"
+#include "support/behaviour_editor.h"
 #include "support/document_support.h"
 #include "support/panel_support.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -35,6 +39,11 @@ class TimerPanelTest : public QObject {
     void takesDigitsOnly();
     void pastesNumbersOnly_data();
     void pastesNumbersOnly();
+    void pastesIntoANumber();
+    void menuPastesAsTheKeysDo();
+    void inputMethodsTypeDigitsOnly_data();
+    void inputMethodsTypeDigitsOnly();
+    void inputMethodsMayReplaceWhatIsThere();
     void selectsTheTextOfABoxThatGetsTheFocus();
     void warnsOfSmallValues_data();
     void warnsOfSmallValues();
@@ -45,6 +54,7 @@ class TimerPanelTest : public QObject {
     void keysCloseIt_data();
     void keysCloseIt();
     void controlsHaveAccessibleNames();
+    void panelsLeaveTheSurfaceFree();
 
   private:
     void setTimers(const TimerValues& timers) {
@@ -161,6 +171,20 @@ void TimerPanelTest::pastesNumbersOnly_data() {
                             << "1500";
     QTest::newRow("negative") << "-20"
                               << "-20";
+    QTest::newRow("blank before") << " 5000"
+                                  << "5000";
+    QTest::newRow("line end") << "5000\n"
+                              << "5000";
+    QTest::newRow("tabs") << "\t-20\r\n"
+                          << "-20";
+    QTest::newRow("blank alone") << " \n"
+                                 << "7";
+    QTest::newRow("nothing") << ""
+                             << "7";
+    QTest::newRow("blank within") << "5 000"
+                                  << "7";
+    QTest::newRow("two lines") << "50\n60"
+                               << "7";
     QTest::newRow("letters") << "abc"
                              << "7";
     QTest::newRow("mixed") << "5s"
@@ -177,6 +201,80 @@ void TimerPanelTest::pastesNumbersOnly() {
     QGuiApplication::clipboard()->setText(pasted);
     QTest::keySequence(&box(panel, 0), QKeySequence::Paste);
     QCOMPARE(box(panel, 0).text(), text);
+}
+
+void TimerPanelTest::pastesIntoANumber() {
+    TimerPanel panel(document_);
+    test::PanelWindow window(panel);
+    setTimers({79, 0, 0, 0});
+    QVERIFY(window.openPanel(1));
+    QLineEdit& edit = box(panel, 0);
+    QGuiApplication::clipboard()->setText(" 8\n");
+    edit.setCursorPosition(1);
+    QTest::keySequence(&edit, QKeySequence::Paste);
+    QCOMPARE(edit.text(), "789");
+    QTest::keySequence(&edit, QKeySequence::Undo);
+    QCOMPARE(edit.text(), "79");
+}
+
+void TimerPanelTest::menuPastesAsTheKeysDo() {
+    TimerPanel panel(document_);
+    test::PanelWindow window(panel);
+    QVERIFY(window.openPanel(1));
+    QGuiApplication::clipboard()->setText(" 5000\n");
+    QLineEdit& edit = box(panel, 0);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, edit.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&edit, &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    QVERIFY(menu != nullptr);
+    QAction* paste = nullptr;
+    for (QAction* entry : menu->actions()) {
+        paste = entry->text().contains("Paste") ? entry : paste;
+    }
+    QVERIFY(paste != nullptr);
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(paste).center());
+    QCOMPARE(edit.text(), "5000");
+    QTRY_VERIFY(edit.findChildren<QMenu*>().isEmpty());
+}
+
+void TimerPanelTest::inputMethodsTypeDigitsOnly_data() {
+    QTest::addColumn<QString>("committed");
+    QTest::addColumn<QString>("text"); // of a box that holds 7, selected
+    QTest::newRow("digits") << "12"
+                            << "12";
+    QTest::newRow("negative") << "-12"
+                              << "12";
+    QTest::newRow("minus") << "-"
+                           << "7";
+    QTest::newRow("letters") << "1a\b2"
+                             << "12";
+    QTest::newRow("other digits") << QStringLiteral("\uFF11\u0662") << "7";
+}
+
+void TimerPanelTest::inputMethodsTypeDigitsOnly() {
+    QFETCH(QString, committed);
+    QFETCH(QString, text);
+    TimerPanel panel(document_);
+    test::PanelWindow window(panel);
+    setTimers({7, 0, 0, 0});
+    QVERIFY(window.openPanel(1));
+    QInputMethodEvent event;
+    event.setCommitString(committed);
+    QApplication::sendEvent(&box(panel, 0), &event);
+    QCOMPARE(box(panel, 0).text(), text);
+}
+
+void TimerPanelTest::inputMethodsMayReplaceWhatIsThere() {
+    TimerPanel panel(document_);
+    test::PanelWindow window(panel);
+    setTimers({1234, 0, 0, 0});
+    QVERIFY(window.openPanel(1));
+    QLineEdit& edit = box(panel, 0);
+    edit.setCursorPosition(4);
+    QInputMethodEvent event;
+    event.setCommitString("-9", -2, 2);
+    QApplication::sendEvent(&edit, &event);
+    QCOMPARE(edit.text(), "129");
 }
 
 void TimerPanelTest::selectsTheTextOfABoxThatGetsTheFocus() {
@@ -307,6 +405,24 @@ void TimerPanelTest::controlsHaveAccessibleNames() {
     const TimerPanel panel(document_);
     QVERIFY(!panel.accessibleName().isEmpty());
     QCOMPARE(test::withoutAccessibleName(panel), QStringList());
+}
+
+void TimerPanelTest::panelsLeaveTheSurfaceFree() {
+    test::BehaviourEditor editor;
+    editor.selectRow(1, 0);
+    const QRect surface = editor.inWindow(*editor.pic());
+    for (int index = 0; index < test::panelCount; ++index) {
+        QVERIFY(editor.openPanel(index));
+        QCoreApplication::processEvents();
+        const QRect place = editor.inWindow(editor.panel(index));
+        QVERIFY2(!place.intersects(surface), qPrintable(editor.panel(index).objectName()));
+        for (const QLabel* label : editor.panel(index).findChildren<QLabel*>()) {
+            const bool whole = !label->isVisible() || !label->wordWrap() ||
+                               label->height() >= label->heightForWidth(label->width());
+            QVERIFY2(whole, qPrintable(label->text()));
+        }
+        editor.ok(index);
+    }
 }
 
 } // namespace tarvel
