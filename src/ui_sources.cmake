@@ -9,6 +9,7 @@ set(TARVEL_UI_SOURCES
   app/element_commands.cpp
   app/element_list_model.cpp
   app/elements_panel.cpp
+  app/focus_frame.cpp
   app/frm_main.cpp
   app/frm_main_build.cpp
   app/layout_panel.cpp
@@ -30,9 +31,13 @@ set(TARVEL_UI_SOURCES
   behaviour/value_label.cpp
   canvas/draw_tools.cpp
   canvas/edit_tools.cpp
+  canvas/jpeg_passes.cpp
   canvas/pic.cpp
   canvas/picture_cache.cpp
+  canvas/picture_decoder.cpp
+  canvas/picture_file.cpp
   canvas/picture_place.cpp
+  canvas/picture_watch.cpp
   canvas/selection_marks.cpp
   canvas/skin_fonts.cpp
   canvas/surface_controller.cpp

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string_view>
 
+class QLabel;
+
 namespace tarvel {
 
 /// A modal dialog that appears after half a second, and keeps the rest of the program alive.
@@ -23,6 +25,7 @@ class CopyProgress : public QProgressDialog {
     bool step(std::string_view file, std::uintmax_t done, std::uintmax_t total);
 
   private:
+    QLabel* label_; // child
     QElapsedTimer since_;
     QElapsedTimer lastTurn_;
 };

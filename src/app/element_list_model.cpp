@@ -34,8 +34,11 @@ QVariant ElementListModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const int id = ids_[static_cast<std::size_t>(index.row())];
-    if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole || role == Qt::ToolTipRole) {
+    if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole) {
         return qtText(document_.element(id).label);
+    }
+    if (role == Qt::ToolTipRole) {
+        return plainToolTip(qtText(document_.element(id).label));
     }
     return role == Qt::UserRole ? QVariant(id) : QVariant{};
 }

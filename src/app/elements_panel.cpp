@@ -6,10 +6,28 @@
 #include "behaviour/layout_screens.h"
 
 #include <QListView>
+#include <QMouseEvent>
 #include <QStackedLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tarvel {
+
+namespace {
+
+class ElementListView : public QListView {
+  protected:
+    // The right button asks for the menu of what is selected. Without a row under it, it would
+    // take the selection away first.
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::RightButton || indexAt(event->position().toPoint()).isValid()) {
+            QListView::mousePressEvent(event);
+        }
+    }
+};
+
+} // namespace
 
 ElementsPanel::ElementsPanel(const SkinDocument& document, QWidget* parent)
     : QGroupBox(QStringLiteral("ELEMENTS (Z-ORDER)"), parent)
@@ -21,7 +39,7 @@ ElementsPanel::ElementsPanel(const SkinDocument& document, QWidget* parent)
     for (int screen = 0; screen < screenCount; ++screen) {
         const auto caption = qtText(layoutScreens[static_cast<std::size_t>(screen)].caption);
         auto* model = new ElementListModel(document, screen, this);
-        auto* list = new QListView;
+        auto* list = new ElementListView;
         list->setObjectName(QStringLiteral("lst(%1)").arg(screen));
         list->setAccessibleName(QStringLiteral("Elements of %1").arg(caption));
         list->setModel(model);
@@ -35,10 +53,11 @@ ElementsPanel::ElementsPanel(const SkinDocument& document, QWidget* parent)
         list->setContextMenuPolicy(Qt::CustomContextMenu);
         connect(list, &QListView::customContextMenuRequested, this,
                 [this, screen, list](const QPoint& point) {
-                    if (!list->indexAt(point).isValid()) {
-                        setListIndex(screen, -1);
-                    }
-                    emit menuWanted(list->viewport()->mapToGlobal(point), listIndex(screen) >= 0);
+                    // The menu key asks at the selected row, which may be scrolled out of sight.
+                    const QRect inSight = list->viewport()->rect();
+                    const QPoint at(std::clamp(point.x(), inSight.left(), inSight.right()),
+                                    std::clamp(point.y(), inSight.top(), inSight.bottom()));
+                    emit menuWanted(list->viewport()->mapToGlobal(at), listIndex(screen) >= 0);
                 });
         stack_->addWidget(list);
         models_[static_cast<std::size_t>(screen)] = model;

@@ -16,6 +16,7 @@
 #include "app/window_gate.h"
 #include "behaviour/layout_screens.h"
 #include "canvas/pic.h"
+#include "canvas/picture_watch.h"
 #include "canvas/selection_marks.h"
 #include "canvas/skin_fonts.h"
 #include "canvas/surface_controller.h"
@@ -26,6 +27,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QFontMetricsF>
 #include <QMenu>
 #include <QRandomGenerator>
@@ -195,6 +197,7 @@ void FrmMain::setCurrentSel() {
     } else {
         fraPos_->setPos(element.elementControl);
     }
+    fraPos_->setEditable(!element.elementLocked);
 }
 
 void FrmMain::chooseTool(std::optional<ElementKind> kind) {
@@ -229,23 +232,54 @@ void FrmMain::popupMenu(QPoint globalPosition, bool onElement) {
     }
 }
 
+// Keys that work wherever the focus is in this window, but for its open panels and dialogs.
 bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
-    // Delete deletes the selected element wherever the focus is in this window.
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        const auto* widget = qobject_cast<QWidget*>(watched);
-        if (key->key() == Qt::Key_Delete && widget != nullptr && widget->window() == this &&
-            !gate_->isClosed() && selectedRow() >= 0) {
-            if (event->type() == QEvent::KeyPress) {
-                controller_->cancelWork();
-                commands_.mnuDelete_Click();
-            } else {
-                event->accept();
-            }
+    const bool pressed = event->type() == QEvent::KeyPress;
+    if (pressed || event->type() == QEvent::ShortcutOverride) {
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (widget != nullptr && widget->window() == this && !gate_->isClosed() &&
+            (windowKey(*static_cast<QKeyEvent*>(event), pressed) ||
+             (pressed && menuKey(*static_cast<QKeyEvent*>(event), *widget)))) {
             return true;
         }
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// False when the key is the widget's. A key that is but announced is claimed from shortcuts.
+bool FrmMain::windowKey(QKeyEvent& event, bool pressed) {
+    const bool working = controller_->isWorking() || fraCreate_->tool();
+    const bool escape = event.key() == Qt::Key_Escape && working;
+    if (!escape && !(event.key() == Qt::Key_Delete && selectedRow() >= 0)) {
+        return false;
+    }
+    if (!pressed) {
+        event.accept();
+    } else if (!escape) {
+        controller_->cancelWork();
+        commands_.mnuDelete_Click();
+    } else if (controller_->isWorking()) {
+        controller_->cancelWork();
+    } else {
+        drawingEnded();
+    }
+    return true;
+}
+
+// Not every platform takes Shift+F10 for the menu key.
+bool FrmMain::menuKey(const QKeyEvent& event, QWidget& widget) {
+    if (event.key() != Qt::Key_F10 || event.modifiers() != Qt::ShiftModifier) {
+        return false;
+    }
+    const QPoint at = widget.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, widget.mapToGlobal(at));
+    QApplication::sendEvent(&widget, &menu);
+    return true;
+}
+
+bool FrmMain::event(QEvent* event) {
+    // Menu entries have no hints of their own, and would only clear what the status line tells.
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
 
 bool FrmMain::Form_Unload() {

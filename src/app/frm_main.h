@@ -25,6 +25,7 @@ class LockedGround;
 class MainMenus;
 class PanelSlide;
 class Pic;
+class PictureWatch;
 class PositionPanel;
 class Prompts;
 class PropertyPanel;
@@ -61,6 +62,7 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
     bool Form_Unload();
 
   protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -81,6 +83,8 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
     void setCurrentSel();
     void chooseTool(std::optional<ElementKind> kind);
     void refuseInvalid(ElementKind kind, bool& refuse);
+    bool windowKey(QKeyEvent& event, bool pressed);
+    bool menuKey(const QKeyEvent& event, QWidget& widget);
     void popupMenu(QPoint globalPosition, bool onElement);
 
     void build(const std::filesystem::path& programFolder);
@@ -90,6 +94,7 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
     void connectSurface();
     void connectPanels();
     void connectMenus();
+    void watchPictures();
     void slideIn();
 
     Prompts& prompts_;
@@ -117,6 +122,7 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
     std::unique_ptr<SurfaceCover> cover_;
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
+    std::unique_ptr<PictureWatch> watch_;
     bool slidIn_ = false;
 };
 

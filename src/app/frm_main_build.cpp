@@ -3,6 +3,7 @@
 #include "app/behaviour_panels.h"
 #include "app/create_panel.h"
 #include "app/elements_panel.h"
+#include "app/focus_frame.h"
 #include "app/frm_main.h"
 #include "app/layout_panel.h"
 #include "app/locked_ground.h"
@@ -15,6 +16,7 @@
 #include "app/window_gate.h"
 #include "canvas/manipulation.h"
 #include "canvas/pic.h"
+#include "canvas/picture_watch.h"
 #include "canvas/selection_marks.h"
 #include "canvas/surface_controller.h"
 #include "canvas/surface_cover.h"
@@ -23,7 +25,6 @@
 #include "properties/property_panel.h"
 
 #include <QAction>
-#include <QFrame>
 #include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
@@ -77,18 +78,12 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     connectSurface();
     connectPanels();
     connectMenus();
+    watchPictures();
 }
 
 QWidget* FrmMain::buildSurface() {
-    auto* frame = new QFrame;
-    frame->setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
-    QPalette palette = frame->palette();
-    palette.setColor(QPalette::WindowText, palette.color(QPalette::Mid)); // the line of the frame
-    frame->setPalette(palette);
-    auto* inside = new QVBoxLayout(frame);
-    inside->setContentsMargins(0, 0, 0, 0);
     pic_ = new Pic(pictures_);
-    inside->addWidget(pic_);
+    auto* frame = new FocusFrame(*pic_);
     marks_ = new SelectionMarks(*pic_);
     ToolHost& host = *this;
     controller_ = std::make_unique<SurfaceController>(*pic_, host, *marks_);
@@ -129,13 +124,14 @@ QWidget* FrmMain::buildRightSide() {
     fraElements_ = sliding(new ElementsPanel(document_));
     fraPos_ = sliding(new PositionPanel);
     properties_ = sliding(new PropertyPanel(document_, prompts_, pictures_));
-    behaviours_ = new BehaviourButtons({menus_->entry(QStringLiteral("mnuModifier(0)")),
-                                        menus_->entry(QStringLiteral("mnuModifier(1)")),
-                                        menus_->entry(QStringLiteral("mnuModifier(2)"))});
+    behaviours_ = sliding(new BehaviourButtons({menus_->entry(QStringLiteral("mnuModifier(0)")),
+                                                menus_->entry(QStringLiteral("mnuModifier(1)")),
+                                                menus_->entry(QStringLiteral("mnuModifier(2)"))}));
     auto* cmdStop = new QPushButton(qtText(caption::cmdStop));
     cmdStop->setObjectName(QLatin1String(stopName));
     cmdStop->setAccessibleName(tr("Stop the videos of this screen"));
     connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
+    connect(cmdStop, &QPushButton::clicked, properties_, &PropertyPanel::stopPreview);
     // Saving is in the menu; this button does nothing and is not shown.
     auto* cmdSave = new QPushButton(side);
     cmdSave->setObjectName(QStringLiteral("cmdSave"));
@@ -175,7 +171,13 @@ void FrmMain::connectSurface() {
 void FrmMain::connectPanels() {
     connect(fraLayout_, &LayoutPanel::screenClicked, this, &FrmMain::optScreen_Click);
     connect(fraElements_, &ElementsPanel::listIndexChanged, this, [this](int screen) {
-        if (screen == document_.currentLayout()) {
+        if (screen != document_.currentLayout()) {
+            return;
+        }
+        // Panel and tool are of one kind. What is being drawn is selected too, and keeps its tool.
+        if (selectedRow() >= 0 && fraCreate_->tool() && !controller_->isMaking()) {
+            drawingEnded();
+        } else {
             showSelection();
         }
     });
@@ -226,12 +228,21 @@ void FrmMain::connectMenus() {
     on("mnuDelete", [this] { commands_.mnuDelete_Click(); });
 }
 
+void FrmMain::watchPictures() {
+    watch_ = std::make_unique<PictureWatch>(pictures_, *this);
+    auto* watch = watch_.get();
+    connect(&files_, &SkinFileCommands::told, watch, &PictureWatch::look); // a skin was loaded
+    connect(watch, &PictureWatch::changed, this,
+            [this] { ground_->documentChanged({DocumentChange::What::settings}); });
+}
+
 void FrmMain::slideIn() {
     for (QWidget* panel : {surface_, fraNote_, static_cast<QWidget*>(fraCreate_)}) {
         slide_->movetoX(panel, true);
     }
     for (QWidget* panel : {static_cast<QWidget*>(fraLayout_), static_cast<QWidget*>(fraElements_),
-                           static_cast<QWidget*>(fraPos_), static_cast<QWidget*>(properties_)}) {
+                           static_cast<QWidget*>(fraPos_), static_cast<QWidget*>(behaviours_),
+                           static_cast<QWidget*>(properties_)}) {
         slide_->movetoX(panel, false);
     }
     slide_->start();

@@ -88,7 +88,10 @@ void MainMenus::fill(QMenu& menu, const QString& menuName) {
         }
         auto* action = new QAction(QLatin1String(caption), &window_);
         action->setObjectName(QLatin1String(name));
-        action->setSeparator(action->text() == QStringLiteral("-"));
+        if (action->text() == QStringLiteral("-")) {
+            action->setSeparator(true);
+            action->setText({}); // a separator with a text is drawn as a heading
+        }
         menu.addAction(action);
     }
 }

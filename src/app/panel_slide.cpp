@@ -1,6 +1,7 @@
 // Sliding of the panels.
 #include "app/panel_slide.h"
 
+#include <QEvent>
 #include <QWidget>
 
 #include <cmath>
@@ -19,14 +20,32 @@ void PanelSlide::movetoX(QWidget* panel, bool fromLeft) {
     const int windowLeft = panel->parentWidget()->mapFrom(window, QPoint(0, 0)).x();
     const int start = windowLeft + (fromLeft ? -panel->width() : window->width());
     moves_.push_back(
-        {static_cast<double>(start), static_cast<double>(panel->x()),
-         [panel](double left) { panel->move(static_cast<int>(std::lround(left)), panel->y()); }});
-    panel->move(start, panel->y());
-    panel->setVisible(true);
+        {static_cast<double>(start), static_cast<double>(panel->x()), [this, panel](double left) {
+             lefts_[panel] = static_cast<int>(std::lround(left));
+             panel->move(lefts_[panel], panel->y());
+         }});
+    lefts_[panel] = start;
 }
 
 void PanelSlide::start() {
     easing_.start(std::exchange(moves_, {}));
+    for (const auto& [panel, left] : lefts_) {
+        panel->installEventFilter(this);
+        panel->move(left, panel->y());
+        panel->setVisible(true);
+    }
+}
+
+// Becoming visible asks for a new layout, which puts the panels to their final places.
+bool PanelSlide::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Move && easing_.isRunning()) {
+        auto* panel = static_cast<QWidget*>(watched);
+        const int left = lefts_.at(panel);
+        if (panel->x() != left) {
+            panel->move(left, panel->y());
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void PanelSlide::finish() {

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+#include <map>
 #include <vector>
 
 class QWidget;
@@ -20,9 +21,10 @@ class PanelSlide : public QObject {
   public:
     explicit PanelSlide(QObject* parent = nullptr);
 
-    /// Adds a widget that has its final place, and puts it beside the window: off the left edge, or
-    /// off the right one.
+    /// Adds a hidden widget that has its final place. It comes from beside the window: off the left
+    /// edge, or off the right one.
     void movetoX(QWidget* panel, bool fromLeft);
+    /// Shows the widgets where they come from and lets them slide.
     void start();
     /// Takes the final places at once, as before the window's layout works anew.
     void finish();
@@ -30,8 +32,12 @@ class PanelSlide : public QObject {
   signals:
     void finished();
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     std::vector<Easing::Move> moves_;
+    std::map<QWidget*, int> lefts_; // where each panel is on its way
     Easing easing_;
 };
 

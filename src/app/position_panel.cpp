@@ -5,7 +5,10 @@
 #include "dialogs/field_edit.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+
+#include <algorithm>
 
 namespace tarvel {
 
@@ -28,6 +31,7 @@ PositionPanel::PositionPanel(QWidget* parent)
         edit->setObjectName(QLatin1String(fields[i].name));
         edit->setAccessibleName(QLatin1String(fields[i].meaning));
         edit->setToolTip(edit->accessibleName());
+        edit->installEventFilter(this);
         connect(edit, &QLineEdit::editingFinished, this, [this, i] { leave(i); });
         auto* label = new QLabel;
         label->setBuddy(edit);
@@ -43,11 +47,11 @@ PositionPanel::PositionPanel(QWidget* parent)
 }
 
 void PositionPanel::show(const ElementControl& control) {
-    const PositionTexts texts = positionTexts(control);
+    shown_ = positionTexts(control);
     const auto& captions = positionCaptions(control.kind);
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (fields_[i]->text() != qtText(texts[i])) {
-            fields_[i]->setText(qtText(texts[i]));
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
+        if (fields_[i]->text() != qtText(shown_[i])) {
+            fields_[i]->setText(qtText(shown_[i]));
         }
         fields_[i]->setModified(false);
         fields_[i]->setEnabled(true);
@@ -61,6 +65,12 @@ void PositionPanel::setPos(const ElementControl& control) {
 
 void PositionPanel::setPosLine(const ElementControl& control) {
     show(control);
+}
+
+void PositionPanel::setEditable(bool editable) {
+    for (FieldEdit* field : fields_) {
+        field->setEnabled(editable);
+    }
 }
 
 void PositionPanel::clear() {
@@ -77,6 +87,18 @@ PositionTexts PositionPanel::texts() const {
         result[i] = coreText(fields_[i]->text());
     }
     return result;
+}
+
+// Escape takes back what was typed.
+bool PositionPanel::eventFilter(QObject* watched, QEvent* event) {
+    const auto at = std::find(fields_.begin(), fields_.end(), watched);
+    if (at != fields_.end() && event->type() == QEvent::KeyPress && (*at)->isModified() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        (*at)->setText(qtText(shown_[static_cast<std::size_t>(at - fields_.begin())]));
+        (*at)->sel();
+        return true;
+    }
+    return QGroupBox::eventFilter(watched, event);
 }
 
 void PositionPanel::leave(std::size_t field) {

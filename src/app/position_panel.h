@@ -22,6 +22,8 @@ class PositionPanel : public QGroupBox {
 
     void setPos(const ElementControl& control);
     void setPosLine(const ElementControl& control);
+    /// Whether the fields take other values; they do after setPos and setPosLine.
+    void setEditable(bool editable);
     /// Shows that nothing is selected.
     void clear();
     [[nodiscard]] PositionTexts texts() const;
@@ -30,11 +32,15 @@ class PositionPanel : public QGroupBox {
     /// A field was typed over and left, or Enter was pressed in it.
     void entered(tarvel::PositionField field, const QString& text);
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     void show(const ElementControl& control);
     void leave(std::size_t field);
 
     std::array<FieldEdit*, positionFields> fields_{};
+    PositionTexts shown_; // as the element has them
     std::array<QLabel*, positionFields> captions_{};
 };
 

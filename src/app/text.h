@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QString>
+#include <QTextDocument>
 
 #include <filesystem>
 #include <string>
@@ -24,6 +25,13 @@ namespace tarvel {
 
 [[nodiscard]] inline std::filesystem::path hostPathOf(const QString& path) {
     return coreText(path);
+}
+
+/// A tool tip that shows the text as it stands, also where it looks like markup.
+[[nodiscard]] inline QString plainToolTip(const QString& text) {
+    return Qt::mightBeRichText(text)
+               ? QLatin1String("<span>") + text.toHtmlEscaped() + QLatin1String("</span>")
+               : text;
 }
 
 [[nodiscard]] inline QColor qtColor(ColorNumber color) {

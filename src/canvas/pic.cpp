@@ -32,6 +32,9 @@ bool lieTogether(const QRegion& region) {
 QWidget* makePicBox(QWidget* parent) {
     auto* box = new QWidget(parent);
     box->setObjectName("picBox");
+    // A press on it is one on the surface. Hidden under the pointer, it would swallow the rest of
+    // the drag, and the release.
+    box->setAttribute(Qt::WA_TransparentForMouseEvents);
     box->setAccessibleName(QWidget::tr("Cover of the drawing surface"));
     box->setGeometry(parent->rect());
     box->setAutoFillBackground(true);

@@ -1,33 +1,19 @@
 // Decoded pictures, kept by file and wanted size up to a bound of memory.
 #pragma once
 
+#include "canvas/picture_decoder.h"
+
 #include <QByteArray>
 #include <QCache>
 #include <QElapsedTimer>
-#include <QImage>
+#include <QHash>
 #include <QSet>
 #include <QSize>
-#include <QString>
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
 namespace tarvel {
-
-/// What the cache knows of a picture.
-struct Picture {
-    enum class State : std::uint8_t {
-        ready,   ///< image is there
-        pending, ///< will be there later; shown as an empty place until then
-        failed   ///< never will be; problem says why
-    };
-    State state = State::failed;
-    /// RGB32 or premultiplied ARGB32, device pixel ratio 1.
-    QImage image;
-    /// A few words: "not found", "not readable", "not a picture", "damaged", "too large".
-    QString problem;
-};
 
 /// What has been decoded since PictureCache::beginSlice().
 struct DecodingSlice {
@@ -37,9 +23,9 @@ struct DecodingSlice {
     bool leftPending = false;
 };
 
-/// Decodes pictures on demand and forgets the ones used longest ago when memory runs out. Changes
-/// of a file on the disk go unnoticed until clear(). References it returns are good until the next
-/// call.
+/// Decodes pictures on demand and forgets the ones used longest ago when memory runs out, or when a
+/// large one is being decoded. Changes of a file on the disk go unnoticed until refresh().
+/// References it returns are good until the next call.
 ///
 /// Files are document paths; a text that begins with ":/" is a picture built into the program.
 class PictureCache {
@@ -47,8 +33,6 @@ class PictureCache {
     /// Memory for decoded pictures in bytes, about a quarter of it for the pictures that stretched
     /// ones are made from.
     static constexpr qsizetype defaultBytes = qsizetype{256} << 20;
-    /// Pictures of more pixels are refused, unless their format can be decoded at a smaller size.
-    static constexpr qsizetype largestPixels = qsizetype{64} << 20;
 
     explicit PictureCache(qsizetype bytes = defaultBytes);
 
@@ -60,7 +44,8 @@ class PictureCache {
     /// any screen.
     const Picture& unscaled(std::string_view file);
 
-    /// The picture's own size in pixels; empty when it cannot be read.
+    /// The picture's own size in pixels; empty when it cannot be read. Decodes the picture only
+    /// where that was never done.
     QSize pictureSize(std::string_view file);
 
     /// From here to endSlice(), files that were never decoded before are decoded only while less
@@ -68,6 +53,10 @@ class PictureCache {
     void beginSlice(int budgetMs);
     /// Whether anything was left pending since beginSlice(): then paint again soon.
     bool endSlice();
+
+    /// Looks at every file again, without reading any, and forgets what came of the ones that
+    /// changed, went or appeared. True when there was one: then paint again.
+    bool refresh();
 
     void clear();
 
@@ -84,25 +73,31 @@ class PictureCache {
             return qHashMulti(seed, key.file, key.size.width(), key.size.height());
         }
     };
-    /// A decoded picture to stretch from, not larger than a few screens.
-    struct Source {
-        Picture picture;
+    struct Facts {
+        SeenFile seen;
         QSize ownSize;
     };
 
-    const Source& source(const QByteArray& file);
+    const Picture& source(const QByteArray& file);
+    Picture decode(const QByteArray& file, PictureUse use);
     const Picture& keep(const Key& key, Picture picture);
+    void makeRoom(qint64 needed);
+    void forget(const QSet<QByteArray>& files);
     bool mustWait(const QByteArray& file);
 
     QCache<Key, Picture> shown_;
-    QCache<QByteArray, Source> sources_;
+    // To stretch from, not larger than a few screens.
+    QCache<QByteArray, Picture> sources_;
+    // Of every file that was decoded, as it was the first time, since what is shown may be from
+    // then. Outlives the pictures: a thumbnail that is kept needs no more than the size.
+    QHash<QByteArray, Facts> facts_;
     std::optional<DecodingSlice> slice_; // the one under way
     // A file that was decoded once never waits again: where memory is short it may be forgotten
     // between two paints, and would be waited for without end.
     QSet<QByteArray> decodedBefore_;
     // Answers that are too large for the caches.
     Picture uncachedPicture_;
-    Source uncachedSource_;
+    Picture uncachedSource_;
 };
 
 } // namespace tarvel

@@ -2,6 +2,7 @@
 #include "canvas/selection_marks.h"
 
 #include "canvas/hit_test.h"
+#include "canvas/surface_geometry.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -29,17 +30,13 @@ class SelectionBox : public QWidget {
 
     void show(const Element& element) {
         const ElementControl& control = element.elementControl;
-        const int left = static_cast<int>(std::floor(control.left));
-        const int top = static_cast<int>(std::floor(control.top));
-        const auto extent = [](float from, float size, int start) {
-            return static_cast<int>(
-                       std::ceil(std::clamp(from + std::max(size, 0.0F), -9999.0F, 9999.0F))) -
-                   start;
-        };
+        // Places may be as far out as numbers go, windows may not.
+        const QRect near =
+            nearSurface(QRectF(control.left, control.top, std::max(control.width, 0.0F),
+                               std::max(control.height, 0.0F)))
+                .toAlignedRect();
         element_ = element;
-        setGeometry(left - margin, top - margin,
-                    extent(control.left, control.width, left) + 2 * margin,
-                    extent(control.top, control.height, top) + 2 * margin);
+        setGeometry(near.adjusted(-margin, -margin, margin, margin));
         update();
         raise();
         setVisible(true);
@@ -87,6 +84,11 @@ class LineEndMark : public QWidget {
     }
 
     void showAt(SkinPoint point) {
+        const QPointF centre(point.x, point.y);
+        if (nearSurface(QRectF(centre, QSizeF())).topLeft() != centre) {
+            setVisible(false); // too far out to be seen
+            return;
+        }
         move(static_cast<int>(std::lround(point.x)) - width() / 2,
              static_cast<int>(std::lround(point.y)) - height() / 2);
         raise();

@@ -4,16 +4,18 @@
 #include "canvas/draw_tools.h"
 #include "canvas/edit_tools.h"
 #include "canvas/selection_marks.h"
+#include "dialogs/shown_path.h"
 
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QUrl>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include <cmath>
+#include <utility>
 
 namespace tarvel {
 
@@ -71,6 +73,7 @@ SurfaceController::~SurfaceController() = default;
 void SurfaceController::setTool(std::optional<ElementKind> kind) {
     kind_ = kind;
     surface_.setCursor(kind_ ? Qt::CrossCursor : Qt::ArrowCursor);
+    showPointerLater();
 }
 
 void SurfaceController::documentChanged(const DocumentChange& change) {
@@ -79,6 +82,7 @@ void SurfaceController::documentChanged(const DocumentChange& change) {
         work_.reset(); // what it worked on is not shown any more
     }
     picks_.documentChanged(change);
+    showPointerLater();
 }
 
 void SurfaceController::cancelWork() {
@@ -88,6 +92,9 @@ void SurfaceController::cancelWork() {
 }
 
 bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::EnabledChange) {
+        showPointerLater();
+    }
     if (!surface_.isEnabled()) { // filters see the events of disabled widgets, too
         return QObject::eventFilter(watched, event);
     }
@@ -96,6 +103,9 @@ bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonDblClick:
         press(*static_cast<QMouseEvent*>(event));
         return true;
+    case QEvent::Leave:
+        hover_.reset();
+        return false;
     case QEvent::MouseMove:
         move(*static_cast<QMouseEvent*>(event));
         return false; // the readout follows it, too
@@ -117,7 +127,10 @@ bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
 
 void SurfaceController::press(const QMouseEvent& event) {
     if (work_ != nullptr) {
-        return; // another button while one is held
+        if (event.button() != Qt::LeftButton) {
+            return; // another button while one is held
+        }
+        cancelWork(); // its release went elsewhere
     }
     surface_.setFocus(Qt::MouseFocusReason);
     emit pressed();
@@ -131,10 +144,7 @@ void SurfaceController::press(const QMouseEvent& event) {
 
 void SurfaceController::pressLeft(SkinPoint point) {
     if (kind_) {
-        host_.selectRow(-1);
-        if (!refused(*kind_)) {
-            work_ = startDrawing(host_, *kind_, point);
-        }
+        draw(*kind_, point);
         return;
     }
     const int selected = host_.curNum();
@@ -156,6 +166,14 @@ void SurfaceController::pressLeft(SkinPoint point) {
         } else {
             work_ = std::make_unique<MoveTool>(host_, point);
         }
+    }
+}
+
+void SurfaceController::draw(ElementKind kind, SkinPoint press) {
+    host_.selectRow(-1);
+    if (!refused(kind)) {
+        const QScopedValueRollback making(making_, true);
+        work_ = startDrawing(host_, kind, press);
     }
 }
 
@@ -181,10 +199,11 @@ bool SurfaceController::refused(ElementKind kind) {
 
 void SurfaceController::move(const QMouseEvent& event) {
     const SkinPoint point = pointOf(event);
+    hover_ = point;
     if (work_ != nullptr && event.buttons().testFlag(Qt::LeftButton)) {
         work_->move(point, event.modifiers().testFlag(Qt::ShiftModifier));
     } else if (event.buttons() == Qt::NoButton) {
-        showPointer(point);
+        showPointer();
     }
 }
 
@@ -197,8 +216,8 @@ void SurfaceController::release(const QMouseEvent& event) {
 }
 
 void SurfaceController::drop(QDropEvent& event) {
-    const QList<QUrl> urls = event.mimeData()->urls();
-    if (urls.isEmpty() || !urls.front().isLocalFile()) {
+    const QStringList files = draggedFiles(*event.mimeData());
+    if (files.isEmpty()) {
         return;
     }
     event.setDropAction(Qt::CopyAction); // a source that proposes a move would delete its file
@@ -206,8 +225,7 @@ void SurfaceController::drop(QDropEvent& event) {
     if (event.type() == QEvent::Drop) {
         // The drag is over before the dialog opens, or its source would wait for the dialog.
         QMetaObject::invokeMethod(
-            this, [this, file = urls.front().toLocalFile()] { emit fileDropped(file); },
-            Qt::QueuedConnection);
+            this, [this, file = files.front()] { emit fileDropped(file); }, Qt::QueuedConnection);
     }
 }
 
@@ -227,6 +245,7 @@ bool SurfaceController::key(const QKeyEvent& event) {
         }
         host_.selectRow(-1);
         if (!refused(*kind_)) {
+            const QScopedValueRollback making(making_, true);
             placeInTheMiddle(host_, *kind_);
         }
         return true;
@@ -259,8 +278,19 @@ bool SurfaceController::arrowKey(const QKeyEvent& event) {
     return true; // arrows never lead the focus away from the surface
 }
 
-void SurfaceController::showPointer(SkinPoint point) {
-    const Qt::CursorShape shape = pointerAt(point);
+// Once after a run of changes. What is under the pointer may have changed without its moving.
+void SurfaceController::showPointerLater() {
+    if (hover_ && !std::exchange(pointerIsStale_, true)) {
+        QMetaObject::invokeMethod(this, &SurfaceController::showPointer, Qt::QueuedConnection);
+    }
+}
+
+void SurfaceController::showPointer() {
+    pointerIsStale_ = false;
+    if (!hover_ || work_ != nullptr) {
+        return;
+    }
+    const Qt::CursorShape shape = surface_.isEnabled() ? pointerAt(*hover_) : Qt::ArrowCursor;
     if (surface_.cursor().shape() != shape) {
         surface_.setCursor(shape);
     }

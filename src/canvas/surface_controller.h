@@ -35,6 +35,8 @@ class SurfaceController : public QObject {
     void documentChanged(const DocumentChange& change);
     /// Whether the pointer is drawing or dragging.
     [[nodiscard]] bool isWorking() const { return work_ != nullptr; }
+    /// Whether an element is just being made and selected.
+    [[nodiscard]] bool isMaking() const { return making_; }
     /// Takes back what the pointer is doing.
     void cancelWork();
 
@@ -63,7 +65,9 @@ class SurfaceController : public QObject {
     bool contextMenu(const QContextMenuEvent& event);
     bool key(const QKeyEvent& event);
     bool arrowKey(const QKeyEvent& event);
-    void showPointer(SkinPoint point);
+    void showPointer();
+    void showPointerLater();
+    void draw(ElementKind kind, SkinPoint press);
     [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point);
     [[nodiscard]] bool refused(ElementKind kind);
 
@@ -73,6 +77,9 @@ class SurfaceController : public QObject {
     PickIndex picks_;
     std::optional<ElementKind> kind_;
     std::unique_ptr<CanvasTool> work_;
+    bool making_ = false;
+    std::optional<SkinPoint> hover_; // where the pointer stands, while it is over the surface
+    bool pointerIsStale_ = false;
 };
 
 } // namespace tarvel

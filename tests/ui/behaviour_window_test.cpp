@@ -2,6 +2,7 @@
 // is out of use meanwhile.
 #include "behaviour/behaviour_panel.h"
 #include "canvas/pic.h"
+#include "properties/video_preview.h"
 #include "support/behaviour_editor.h"
 
 using namespace tarvel;
@@ -226,10 +227,14 @@ void BehaviourWindowTest::stopVidsWorks() {
         QSKIP("this machine cannot decode the film");
     }
     editor.selectRow(1, 0);
+    auto& preview = editor.at<VideoPreview>("vidPreview");
+    preview.play(editor.control(id).file);
+    QTRY_VERIFY_WITH_TIMEOUT(preview.isPlaying(), patience);
     QVERIFY(editor.openPanel(0));
     QVERIFY(videos.isPlaying(id));
     editor.clickAt(editor.at<QWidget>("cmdStop"));
     QVERIFY(!videos.isPlaying(id));
+    QVERIFY(!preview.isPlaying());
     QCOMPARE(editor.shown(), QList<int>({0}));
 }
 

@@ -430,12 +430,27 @@ void EditingTest::rightButtonOpensTheMenus() {
     QApplication::sendEvent(list->viewport(), &onRow);
     QVERIFY(right->isVisible());
     right->close();
+    // Below the rows it is the menu of what is selected.
     const QPoint below(row.x(), list->viewport()->height() - 3);
+    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, below);
+    QCOMPARE(editor.selectedRow(1), 0);
     QContextMenuEvent onEmpty(QContextMenuEvent::Mouse, below,
                               list->viewport()->mapToGlobal(below));
     QApplication::sendEvent(list->viewport(), &onEmpty);
-    QVERIFY(right2->isVisible());
+    QVERIFY(right->isVisible());
+    right->close();
+    list->selectionModel()->clear();
+    QApplication::sendEvent(list->viewport(), &onEmpty);
+    QVERIFY(!right->isVisible() && right2->isVisible());
     right2->close();
+    // The entry tells whether the element is locked.
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
+    editor.entry("mnuLocked")->trigger();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
+    QApplication::sendEvent(list->viewport(), &onRow);
+    QVERIFY(right->isVisible());
+    QVERIFY(editor.entry("mnuLocked")->isChecked());
+    right->close();
 }
 
 void EditingTest::stackingCommands() {

@@ -4,6 +4,7 @@
 #include "skinfile/skin_reader.h"
 #include "support/editor.h"
 
+#include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -134,7 +135,9 @@ void FrmMainTest::separatorsOfTheElementMenu() {
     Editor editor;
     QStringList captions;
     for (const QAction* action : editor.find<QMenu>("mnuRight")->actions()) {
-        captions << (action->isSeparator() ? QStringLiteral("-") : action->text());
+        // A separator with a text would be drawn as a heading.
+        captions << (action->isSeparator() && action->text().isEmpty() ? QStringLiteral("-")
+                                                                       : action->text());
     }
     QCOMPARE(captions, QStringList({"Bring to Front", "Send to Back", "Bring Forward",
                                     "Send Backward", "-", "Unselect", "Lock", "-", "Modifiers",
@@ -153,6 +156,13 @@ void FrmMainTest::fixedTextsOfThePanels() {
     QCOMPARE(editor.find<QLabel>("fraNote")->text(),
              QStringLiteral("Note: Most TV's cut off edges of the screen, so make sure you leave "
                             "some extra room around your layout."));
+    const QList<QPair<const char*, QString>> groups = {{"fraCreate", "CREATE"},
+                                                       {"fraLayout", "CURRENT SCREEN"},
+                                                       {"fraElements", "ELEMENTS (Z-ORDER)"},
+                                                       {"fraPos", "POSITION"}};
+    for (const auto& [name, title] : groups) {
+        QCOMPARE(editor.find<QGroupBox>(name)->title(), title);
+    }
     const QList<QPair<const char*, QString>> buttons = {{"optBox", "Box"},
                                                         {"optLine", "Line"},
                                                         {"optImg", "Image/Video"},
