@@ -87,6 +87,7 @@ void FieldsFrame::addBelow(QWidget* widget) {
 void FieldsFrame::lstFields_Click() {
     const int field = selectedField();
     if (field < 0) {
+        setValue({}); // the old value would look as if it could be changed
         return;
     }
     emit fieldClicked(field);

@@ -82,6 +82,9 @@ void FrmMusic::layOut(bool animated) {
     if (!to.musicShown) {
         fraMusic_->resize(fraMusic_->width(), 0);
     }
+    if (!to.stuffShown || !to.musicShown) {
+        player_->stop(); // the button that stops it is hidden with the list
+    }
     fraStuff_->setVisible(to.stuffShown);
     fraMusic_->setVisible(to.musicShown);
     easing_.start({growToHeight(to.musicHeight, fraMusic_), moveToY(to.randomTop, chkRandom_),

@@ -94,7 +94,10 @@ void FrmResources::readDocument() {
     thumbnails_->restart();
     listNewResources();
     lstRes_->setCurrentIndex({});
-    resizeForm(addedHeight());
+    resizeForm(added_); // a hidden window may not have taken the size of another frame
+    if (!fraCustom_->hasFile()) {
+        fraCustom_->source()->focusChosen(); // not where the last work ended
+    }
 }
 
 void FrmResources::hideEvent(QHideEvent* event) {
@@ -102,7 +105,17 @@ void FrmResources::hideEvent(QHideEvent* event) {
     if (!event->spontaneous()) {
         thumbnails_->stop();
         preview({});
+        added_ = addedHeight();
+        forgetInput();
     }
+}
+
+// The name of a file that was not added would otherwise be given to the next one.
+void FrmResources::forgetInput() {
+    fraCustom_->clear();
+    fraPreset_->clear();
+    cmdOK_->setDefault(true);
+    showSource(false);
 }
 
 void FrmResources::showSource(bool preset) {

@@ -15,7 +15,8 @@ class ResourcePreview;
 class ResourceThumbnails;
 
 /// Lists the resources with a small picture of each, shows the selected one in large and adds new
-/// ones, from files or presets. Files can be dropped anywhere onto it.
+/// ones, from files or presets. Files can be dropped anywhere onto it. What was filled in but not
+/// added is forgotten when it closes.
 class FrmResources : public SkinDialog {
     Q_OBJECT
 
@@ -43,6 +44,7 @@ class FrmResources : public SkinDialog {
     void resizeForm(int added);
     void listNewResources();
     void selectLast();
+    void forgetInput();
     void finishAdding(bool added);
     void lstRes_Click();
     void preview(const Resource& resource);
@@ -55,6 +57,7 @@ class FrmResources : public SkinDialog {
     PathLabel* lblPreview_;
     QPushButton* cmdOK_;
     int fitted_ = 0; // the height that resizeForm found last
+    int added_ = 0;  // what the user had added to it when the dialog closed
 };
 
 } // namespace tarvel

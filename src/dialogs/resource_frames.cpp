@@ -121,10 +121,18 @@ void CustomFrame::cmdAdd_Click() {
     }
     const bool added = outcome == AddOutcome::added;
     if (added) {
-        lblFile_->setPath({});
-        txtRes_->clear();
+        clear();
     }
     emit done(added);
+}
+
+bool CustomFrame::hasFile() const {
+    return !lblFile_->text().isEmpty();
+}
+
+void CustomFrame::clear() {
+    lblFile_->setPath({});
+    txtRes_->clear();
 }
 
 PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget* parent)
@@ -190,6 +198,12 @@ void PresetFrame::lstResDef_Click() {
     const PresetResource& chosen = presetResources.at(static_cast<std::size_t>(preset));
     lblDesc_->setText(qtText(chosen.description));
     txtResDef_->setText(qtText(presetName(chosen.entry)));
+}
+
+void PresetFrame::clear() {
+    lstResDef_->setCurrentIndex({});
+    lblDesc_->clear();
+    txtResDef_->clear();
 }
 
 void PresetFrame::cmdAddDef_Click() {

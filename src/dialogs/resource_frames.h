@@ -48,6 +48,9 @@ class CustomFrame : public QGroupBox {
 
     /// Takes a file of the host as if it had been browsed to.
     void takeFile(const QString& file);
+    [[nodiscard]] bool hasFile() const;
+    /// Empties name and file.
+    void clear();
     [[nodiscard]] SourceButtons* source() const { return source_; }
 
   signals:
@@ -77,6 +80,8 @@ class PresetFrame : public QGroupBox {
   public:
     PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget* parent = nullptr);
 
+    /// Chooses nothing, with neither a name nor a description.
+    void clear();
     [[nodiscard]] SourceButtons* source() const { return source_; }
 
   signals:

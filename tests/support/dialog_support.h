@@ -72,15 +72,11 @@ inline QStringList rowTexts(const QListWidget& list) {
     return texts;
 }
 
-/// Drags files over the middle of a widget and drops them there. False when they are not taken.
-inline bool dropFiles(QWidget& target, const QStringList& files) {
+/// Drags addresses over the middle of a widget and drops them there. False when they are not taken.
+inline bool dropUrls(QWidget& target, const QList<QUrl>& urls) {
     QMimeData data;
-    QList<QUrl> urls;
-    for (const QString& file : files) {
-        urls << QUrl::fromLocalFile(file);
-    }
     data.setUrls(urls);
-    data.setText(files.join(QLatin1Char('\n'))); // as file managers do
+    data.setText(QUrl::toStringList(urls).join(QLatin1Char('\n'))); // as file managers do
     const QPoint at = target.rect().center();
     QDragEnterEvent enter(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&target, &enter);
@@ -94,6 +90,14 @@ inline bool dropFiles(QWidget& target, const QStringList& files) {
     QApplication::sendEvent(&target, &drop);
     // A move would let the other side delete the file.
     return drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+}
+
+inline bool dropFiles(QWidget& target, const QStringList& files) {
+    QList<QUrl> urls;
+    for (const QString& file : files) {
+        urls << QUrl::fromLocalFile(file);
+    }
+    return dropUrls(target, urls);
 }
 
 /// The focusable controls of a window that have no accessible name.

@@ -2,6 +2,7 @@
 #include "app/copy_progress.h"
 #include "support/editor.h"
 
+#include <QLabel>
 #include <QPushButton>
 
 #include <fstream>
@@ -15,6 +16,7 @@ class CopyProgressTest : public QObject {
   private slots:
     void staysAwayFromShortCopies();
     void comesAfterHalfASecond();
+    void namesNeitherWidenItNorAreMarkup();
     void cancelling();
     void savingBigMediaCanBeCancelled();
 };
@@ -39,6 +41,23 @@ void CopyProgressTest::comesAfterHalfASecond() {
     QTest::qWait(50);
     QVERIFY(progress.step("empty", 0, 0));
     QCOMPARE(progress.value(), 1000);
+}
+
+void CopyProgressTest::namesNeitherWidenItNorAreMarkup() {
+    CopyProgress progress(nullptr);
+    QTest::qWait(CopyProgress::delayMs + 50);
+    QVERIFY(progress.step("<b>x</b>.wmv", 1, 100));
+    const auto* label = progress.findChild<QLabel*>();
+    QCOMPARE(label->textFormat(), Qt::PlainText);
+    QVERIFY(label->text().startsWith("Copying <b>x</b>.wmv\n"));
+    const int width = progress.width();
+    QTest::qWait(50);
+    const std::string longName = "start" + std::string(200, 'm') + "end.wmv";
+    QVERIFY(progress.step(longName, 2, 100));
+    const QString name = label->text().section('\n', 0, 0);
+    QVERIFY2(name.startsWith("Copying start"), qPrintable(name));
+    QVERIFY2(name.endsWith("end.wmv"), qPrintable(name));
+    QCOMPARE(progress.width(), width);
 }
 
 void CopyProgressTest::cancelling() {

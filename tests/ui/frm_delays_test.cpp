@@ -27,6 +27,7 @@ class FrmDelaysTest : public QObject {
     void eachFieldHasItsDelay();
     void clickSelectsTheWholeValue();
     void valueWithoutAFieldChangesNothing();
+    void deselectedFieldShowsNoValue();
     void worksByKeysAlone();
     void closes_data();
     void closes();
@@ -136,6 +137,24 @@ void FrmDelaysTest::valueWithoutAFieldChangesNothing() {
     QVERIFY(test::open(dialog));
     typeOver(control<QLineEdit>(dialog, "txtData"), "900");
     QCOMPARE(delays(), (Delays{1, 2, 3}));
+}
+
+void FrmDelaysTest::deselectedFieldShowsNoValue() {
+    setDelays({1, 2, 3});
+    FrmDelays dialog(document_, prompts_);
+    QVERIFY(test::open(dialog));
+    auto& list = control<QListWidget>(dialog, "lstFields");
+    auto& txtData = control<QLineEdit>(dialog, "txtData");
+    clickRow(list, 1);
+    QCOMPARE(txtData.text(), "2");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      list.visualItemRect(list.item(1)).center());
+    QVERIFY(list.selectedItems().isEmpty());
+    QCOMPARE(txtData.text(), "");
+    QTest::keyClicks(&txtData, "9");
+    QCOMPARE(delays(), (Delays{1, 2, 3}));
+    clickRow(list, 1);
+    QCOMPARE(txtData.text(), "2");
 }
 
 void FrmDelaysTest::worksByKeysAlone() {

@@ -27,6 +27,7 @@ class FrmInfoTest : public QObject {
     void clickOnAFieldShowsItsValueAndMovesTheFocus();
     void valuesGoToTheirFields();
     void valueWithoutAFieldChangesNothing();
+    void deselectedFieldShowsNoValue();
     void aFieldIsAdded_data();
     void aFieldIsAdded();
     void noFieldIsAdded_data();
@@ -172,6 +173,27 @@ void FrmInfoTest::valueWithoutAFieldChangesNothing() {
     typeOver(txtData, "lost");
     QCOMPARE(txtData.text(), "lost");
     QCOMPARE(document_, SkinDocument());
+}
+
+void FrmInfoTest::deselectedFieldShowsNoValue() {
+    document_.editSettings([](SkinSettings& settings) {
+        settings.information = {{"Author", "somebody"}, {"Version", "2"}};
+    });
+    const SkinDocument before = document_;
+    FrmInfo dialog(document_, prompts_);
+    QVERIFY(test::open(dialog));
+    auto& list = control<QListWidget>(dialog, "lstFields");
+    auto& txtData = control<QLineEdit>(dialog, "txtData");
+    clickRow(list, 1);
+    QCOMPARE(txtData.text(), "2");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      list.visualItemRect(list.item(1)).center());
+    QVERIFY(list.selectedItems().isEmpty());
+    QCOMPARE(txtData.text(), "");
+    QTest::keyClicks(&txtData, "9");
+    QCOMPARE(document_, before);
+    clickRow(list, 1);
+    QCOMPARE(txtData.text(), "2");
 }
 
 void FrmInfoTest::aFieldIsAdded_data() {

@@ -24,6 +24,7 @@ class FrmMusicListTest : public QObject, protected test::MusicFixture {
     void nothingIsAdded();
     void deleteRemovesTheEntryOnly();
     void rightClickRemovesTheEntryOnly();
+    void rightClickBelowTheRowsRemovesTheSelectedEntry();
     void removingWithoutASelectionDoesNothing();
     void removalGoesOnWithTheNextEntry();
     void droppedMusicIsAdded();
@@ -35,6 +36,8 @@ class FrmMusicListTest : public QObject, protected test::MusicFixture {
     void progressAndProblemsAreShown();
     void fallsSilentWhenClosed();
     void fallsSilentWhenTheEntryIsRemoved();
+    void fallsSilentWhenTheListIsHidden_data();
+    void fallsSilentWhenTheListIsHidden();
     void realPlayerTellsOfProblems();
     void realPlayerPlaysToTheEnd();
 };
@@ -109,6 +112,23 @@ void FrmMusicListTest::rightClickRemovesTheEntryOnly() {
     clickRow(list, 0);
     QCOMPARE(list.count(), 3); // not with the left button
     clickRow(list, 2, Qt::RightButton);
+    QCOMPARE(music(), expected);
+    QCOMPARE(list.count(), 2);
+}
+
+// The click removes what is selected; over a row that is the row itself, which it selects first.
+void FrmMusicListTest::rightClickBelowTheRowsRemovesTheSelectedEntry() {
+    setThreeFiles();
+    MusicSettings expected = music();
+    expected.lstMusic = {1, 2};
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 0);
+    const QPoint below = list.viewport()->rect().bottomRight() - QPoint(5, 5);
+    QVERIFY(list.itemAt(below) == nullptr);
+    QTest::mouseClick(list.viewport(), Qt::RightButton, {}, below);
+    QCOMPARE(music().lstMusic, expected.lstMusic);
     QCOMPARE(music(), expected);
     QCOMPARE(list.count(), 2);
 }
@@ -277,6 +297,26 @@ void FrmMusicListTest::fallsSilentWhenTheEntryIsRemoved() {
     clickRow(list, 0);
     QTest::keyClick(&list, Qt::Key_Delete);
     QCOMPARE(log_.last(), "stop");
+}
+
+void FrmMusicListTest::fallsSilentWhenTheListIsHidden_data() {
+    QTest::addColumn<QString>("option");
+    QTest::newRow("custom music off") << "chkCustom";
+    QTest::newRow("no music") << "optNoMusic";
+}
+
+void FrmMusicListTest::fallsSilentWhenTheListIsHidden() {
+    QFETCH(QString, option);
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    clickRow(control<MusicList>(*dialog, "lstMusic"), 0);
+    click(control<PlayButton>(*dialog, "cmdPlay"));
+    click(control<QWidget>(*dialog, "chkRandom")); // hides nothing
+    QCOMPARE(log_, QStringList{"play " + inFolder("a.wma")});
+    click(control<QWidget>(*dialog, option));
+    QCOMPARE(log_, (QStringList{"play " + inFolder("a.wma"), "stop"}));
+    QVERIFY(!control<PlayButton>(*dialog, "cmdPlay").isPlaying());
 }
 
 void FrmMusicListTest::realPlayerTellsOfProblems() {

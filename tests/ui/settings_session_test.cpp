@@ -4,6 +4,7 @@
 #include "document/normalised.h"
 #include "support/menu_support.h"
 
+#include <QComboBox>
 #include <QImage>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -93,6 +94,7 @@ class SettingsSessionTest : public QObject {
     static void setMusic(Editor& editor);
     static void setResources(Editor& editor);
     static void addPreset(QWidget& dialog, int row, const QString& name);
+    static void checkPanelsLast(Editor& editor, const QString& name);
     static void setBackground(Editor& editor);
     static void setEverything(Editor& editor);
     static QString expectedText();
@@ -255,19 +257,29 @@ void SettingsSessionTest::addPreset(QWidget& dialog, int row, const QString& nam
     click(control<QPushButton>(dialog, "cmdAddDef"));
 }
 
+// The property panel lists a new resource last, too.
+void SettingsSessionTest::checkPanelsLast(Editor& editor, const QString& name) {
+    const auto* lstR = editor.find<QComboBox>("lstR");
+    QCOMPARE(lstR->itemText(lstR->count() - 1), name);
+    QCOMPARE(lstR->count(), static_cast<int>(editor.document().settings().resources.size()));
+}
+
 void SettingsSessionTest::setResources(Editor& editor) {
     const QString logo = userFile(editor, "logo.png");
     const QString photo = userFile(editor, "photo.bmp");
     writePicture(logo, Qt::red);
     writePicture(photo, Qt::blue);
     editor.prompts.fileChoices << QStringList(logo);
-    QVERIFY(inDialog(editor, "mnuResource", "frmResources", [](QWidget& dialog) {
+    QVERIFY(inDialog(editor, "mnuResource", "frmResources", [&](QWidget& dialog) {
         click(control<QPushButton>(dialog, "cmdBrowse"));
         QCOMPARE(control<QLineEdit>(dialog, "txtRes").text(), QStringLiteral("logo"));
         click(control<QPushButton>(dialog, "cmdAdd"));
+        checkPanelsLast(editor, "logo");
         addPreset(dialog, 0, {});
+        checkPanelsLast(editor, "PreviewMedia");
         addPreset(dialog, 1, {});
         addPreset(dialog, 4, "Disc");
+        checkPanelsLast(editor, "Disc");
     }));
     // A picture dropped onto the surface opens the dialog with it filled in.
     bool dropped = false;
@@ -279,6 +291,7 @@ void SettingsSessionTest::setResources(Editor& editor) {
                  QStringList({"logo", "PreviewMedia", "GameIcon", "Disc", "Lake <1>"}));
     }));
     QVERIFY(dropped);
+    checkPanelsLast(editor, "Lake <1>");
 }
 
 void SettingsSessionTest::setBackground(Editor& editor) {
