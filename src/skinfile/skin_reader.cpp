@@ -119,7 +119,8 @@ void readSection(SkinDocument& document, XmlNode section, ResourceReader& resour
 }
 
 SkinReadError unreadable(const std::string& problem) {
-    return SkinReadError(std::string(skinFileName) + " cannot be read: " + problem);
+    SkinReadError error(std::string(skinFileName) + " cannot be read: " + problem);
+    return error;
 }
 
 // A modifier deeper than any that means something would be written with as many tabs on each line.
