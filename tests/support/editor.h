@@ -38,6 +38,20 @@ inline Element boxAt(float left, float top, float width, float height, int opaci
     return element;
 }
 
+/// A line between two points, in skin pixels.
+inline Element lineFrom(float x1, float y1, float x2, float y2) {
+    Element element;
+    element.elementKind = ElementKind::Line;
+    element.label = "Line";
+    ElementControl& control = element.elementControl;
+    control.kind = ControlKind::lin;
+    control.X1 = x1;
+    control.Y1 = y1;
+    control.X2 = x2;
+    control.Y2 = y2;
+    return element;
+}
+
 struct Editor {
     QTemporaryDir folder;
     ScriptedPrompts prompts;

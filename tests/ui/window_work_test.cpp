@@ -4,12 +4,10 @@
 
 #include <QAbstractButton>
 #include <QContextMenuEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QStatusTipEvent>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -17,18 +15,6 @@ using namespace tarvel;
 using namespace tarvel::test;
 
 namespace {
-
-Element lineFrom(float x1, float y1, float x2, float y2) {
-    Element element;
-    element.elementKind = ElementKind::Line;
-    ElementControl& control = element.elementControl;
-    control.kind = ControlKind::lin;
-    control.X1 = x1;
-    control.Y1 = y1;
-    control.X2 = x2;
-    control.Y2 = y2;
-    return element;
-}
 
 // Notes where a widget stands in its window when it is shown and each time it is painted.
 class PaintLog : public QObject {
