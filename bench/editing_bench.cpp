@@ -4,10 +4,10 @@
 //
 // Prints wall time, which is what the user waits, and processor time, which other work on the
 // machine does not bend; the limits are those of the project and apply to the latter.
-#include "app/frm_main.h"
-#include "app/panel_slide.h"
-#include "app/prompts.h"
-#include "canvas/pick_index.h"
+#include "editing/pick_index.h"
+#include "widgets/panel_slide.h"
+#include "widgets/prompts.h"
+#include "window/frm_main.h"
 
 #include <QApplication>
 #include <QFont>

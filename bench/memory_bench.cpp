@@ -1,6 +1,6 @@
 // What a loaded skin keeps in memory, by the allocator's own account: bytes for each element,
 // pictures apart.
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
 #include "skins.h"

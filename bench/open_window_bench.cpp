@@ -5,11 +5,11 @@
 //        tarvel_open_window_bench --make FOLDER COUNT screens|boxes|pictures|menu
 // The second form makes the folder and a skin of COUNT elements in it: of all kinds on all screens,
 // boxes on "Menu", images on "Menu" that have a picture file each, all kinds on "Menu".
-#include "app/frm_main.h"
-#include "app/panel_slide.h"
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 #include "skins.h"
 #include "support/scripted_prompts.h"
+#include "widgets/panel_slide.h"
+#include "window/frm_main.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,9 +1,9 @@
 // Reading and generating skins, against pugixml's bare parse and a bare loop of appends.
 #include "bench_support.h"
-#include "skinfile/host_files.h"
-#include "skinfile/number_format.h"
+#include "files/host_files.h"
 #include "skinfile/skin_reader.h"
 #include "skins.h"
+#include "text/number_format.h"
 
 #include <pugixml.hpp>
 

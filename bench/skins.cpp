@@ -1,8 +1,8 @@
 // Skins of any size for the benchmarks.
 #include "skins.h"
 
-#include "behaviour/layout_screens.h"
 #include "document/element_factory.h"
+#include "document/layout_screens.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
 

@@ -1,9 +1,9 @@
 // Painting a screen, against the same rectangles and texts drawn with nothing in between.
 #include "bench_support.h"
-#include "canvas/picture_cache.h"
-#include "canvas/skin_fonts.h"
-#include "canvas/surface_damage.h"
-#include "canvas/surface_painter.h"
+#include "surface/picture_cache.h"
+#include "surface/surface_damage.h"
+#include "surface/surface_painter.h"
+#include "widgets/skin_fonts.h"
 
 #include <QGuiApplication>
 #include <QPainter>

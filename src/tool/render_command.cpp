@@ -1,11 +1,11 @@
 // render: one screen to a PNG file, by the painting code of the editor's surface.
-#include "behaviour/layout_screens.h"
-#include "canvas/picture_cache.h"
-#include "canvas/surface_painter.h"
-#include "canvas/video_stage.h"
-#include "skinfile/host_files.h"
+#include "document/layout_screens.h"
+#include "files/host_files.h"
 #include "skinfile/skin_reader.h"
-#include "skinfile/text_case.h"
+#include "surface/picture_cache.h"
+#include "surface/surface_painter.h"
+#include "surface/video_stage.h"
+#include "text/text_case.h"
 #include "tool/skin_commands.h"
 
 #include <QBuffer>

@@ -1,11 +1,11 @@
 // resave, check, and the choice of a command.
 #include "tool/skin_commands.h"
 
-#include "app/version.h"
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
+#include "skinfile/version.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,12 +1,12 @@
 // The main window for tests, with everything that it asks answered by a script.
 #pragma once
 
-#include "app/frm_main.h"
-#include "app/panel_slide.h"
-#include "app/text.h"
 #include "document/element_factory.h"
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 #include "support/scripted_prompts.h"
+#include "widgets/panel_slide.h"
+#include "widgets/qt_text.h"
+#include "window/frm_main.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // Working a behaviour panel in a test: a window around it, and the pointer as the system moves it.
 #pragma once
 
-#include "behaviour/behaviour_panel.h"
+#include "panels/behaviour_panel.h"
 #include "support/dialog_support.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 // Elements at places, for tests of the surface.
 #pragma once
 
-#include "canvas/element_place.h"
-#include "canvas/hit_test.h"
+#include "document/element_place.h"
 #include "document/skin_document.h"
+#include "editing/hit_test.h"
 #include "support/document_support.h"
 
 #include <ostream>

@@ -1,11 +1,11 @@
 // A property panel in a test: shown with a document of its own, and worked by mouse and keys.
 #pragma once
 
-#include "canvas/picture_cache.h"
 #include "document/skin_document.h"
-#include "properties/property_panel.h"
+#include "panels/property_panel.h"
 #include "support/dialog_support.h"
 #include "support/scripted_prompts.h"
+#include "surface/picture_cache.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,11 +1,11 @@
 // What the tests of the resources dialog share: the dialog and pictures to fill it with.
 #pragma once
 
-#include "canvas/picture_cache.h"
 #include "dialogs/frm_resources.h"
 #include "support/dialog_support.h"
 #include "support/scripted_prompts.h"
 #include "support/temporary_folder.h"
+#include "surface/picture_cache.h"
 
 #include <QImage>
 

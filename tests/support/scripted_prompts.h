@@ -1,7 +1,7 @@
 // Prompts for tests: answers out of a script, and a record of what was asked.
 #pragma once
 
-#include "app/prompts.h"
+#include "widgets/prompts.h"
 
 #include <QList>
 

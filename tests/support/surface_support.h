@@ -1,9 +1,9 @@
 // Quick elements of every kind, and pictures of screens, for the tests of the drawing side.
 #pragma once
 
-#include "canvas/surface_painter.h"
 #include "document/skin_document.h"
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
+#include "surface/surface_painter.h"
 
 #include <QImage>
 #include <QPainter>

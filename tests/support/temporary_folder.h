@@ -1,7 +1,7 @@
 // A folder of its own for a test, with quick files in it.
 #pragma once
 
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 
 #include <cstdlib>
 #include <filesystem>

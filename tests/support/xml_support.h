@@ -1,8 +1,8 @@
 // XML for tests: trees out of literals, and trees in the messages of failed comparisons.
 #pragma once
 
-#include "skinfile/xml_node.h"
-#include "skinfile/xml_parse.h"
+#include "text/xml_node.h"
+#include "text/xml_parse.h"
 
 #include <ostream>
 #include <string>

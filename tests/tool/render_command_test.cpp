@@ -1,5 +1,5 @@
 // render, run as a program: it makes an application object of its own.
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 #include "support/temporary_folder.h"
 
 #include <QImage>

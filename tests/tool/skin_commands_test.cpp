@@ -1,5 +1,5 @@
 // The commands of tarvel-skin: arguments, resave, check, exit codes and lines.
-#include "skinfile/host_files.h"
+#include "files/host_files.h"
 #include "support/temporary_folder.h"
 #include "tool/skin_commands.h"
 

@@ -1,0 +1,158 @@
+// Hits on elements and handles. Sums of coordinates are formed in doubles, where they are exact.
+#include "editing/hit_test.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tarvel {
+
+namespace {
+
+// A side of the selection box.
+struct Side {
+    double start;
+    double length;
+};
+
+Side horizontal(const ElementControl& control) {
+    return {control.left, std::max(control.width, 0.0F)};
+}
+
+Side vertical(const ElementControl& control) {
+    return {control.top, std::max(control.height, 0.0F)};
+}
+
+bool isLine(const ElementControl& control) {
+    return control.kind == ControlKind::lin;
+}
+
+double centreAlong(const Side& side, int edge) {
+    return side.start + side.length * (edge + 1) / 2;
+}
+
+bool reaches(const Side& side, int edge, double at) {
+    const double fromCentre = at - centreAlong(side, edge);
+    const double inward = edge == 0 ? handleReach : std::min<double>(handleReach, side.length / 4);
+    const double before = edge > 0 ? inward : handleReach;
+    const double after = edge < 0 ? inward : handleReach;
+    return fromCentre >= -before && fromCentre <= after;
+}
+
+bool isAtEnd(double x, double y, double endX, double endY) {
+    return std::abs(endX - x) < lineEndReach && std::abs(endY - y) < lineEndReach;
+}
+
+Handle lineEndAt(const ElementControl& line, SkinPoint point) {
+    const bool atFirst = isAtEnd(point.x, point.y, line.X1, line.Y1);
+    const bool atSecond = isAtEnd(point.x, point.y, line.X2, line.Y2);
+    if (atFirst && atSecond) {
+        const double first = std::hypot(line.X1 - point.x, line.Y1 - point.y);
+        const double second = std::hypot(line.X2 - point.x, line.Y2 - point.y);
+        return first < second ? Handle::firstEnd : Handle::secondEnd;
+    }
+    if (atFirst) {
+        return Handle::firstEnd;
+    }
+    return atSecond ? Handle::secondEnd : Handle::none;
+}
+
+} // namespace
+
+bool onElement(float x, float y, const ElementControl& control) {
+    const double right = static_cast<double>(control.left) + control.width;
+    const double bottom = static_cast<double>(control.top) + control.height;
+    return x >= control.left && x <= right && y >= control.top && y <= bottom;
+}
+
+bool onElementLine(float x, float y, const ElementControl& line) {
+    return isAtEnd(x, y, line.X1, line.Y1) || isAtEnd(x, y, line.X2, line.Y2);
+}
+
+bool isAt(const Element& element, SkinPoint point) {
+    const ElementControl& control = element.elementControl;
+    const bool hit = element.elementKind == ElementKind::Line
+                         ? onElementLine(point.x, point.y, control)
+                         : onElement(point.x, point.y, control);
+    return hit && !element.elementLocked;
+}
+
+int rowAt(const SkinDocument& document, SkinPoint point) {
+    const int screen = document.currentLayout();
+    for (int row = document.rowCount(screen) - 1; row >= 0; --row) {
+        if (isAt(document.element(document.itemData(screen, row)), point)) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+HandleEdges edgesOf(Handle handle) {
+    switch (handle) {
+    case Handle::topLeft:
+        return {-1, -1};
+    case Handle::top:
+        return {0, -1};
+    case Handle::topRight:
+        return {1, -1};
+    case Handle::right:
+        return {1, 0};
+    case Handle::bottomRight:
+        return {1, 1};
+    case Handle::bottom:
+        return {0, 1};
+    case Handle::bottomLeft:
+        return {-1, 1};
+    case Handle::left:
+        return {-1, 0};
+    case Handle::none:
+    case Handle::firstEnd:
+    case Handle::secondEnd:
+        break;
+    }
+    return {};
+}
+
+bool hasHandle(const Element& element, Handle handle) {
+    const ElementControl& control = element.elementControl;
+    if (element.elementLocked || handle == Handle::none) {
+        return false;
+    }
+    const auto [x, y] = edgesOf(handle);
+    const bool isEnd = x == 0 && y == 0;
+    if (isEnd || isLine(control)) {
+        return isEnd && isLine(control);
+    }
+    return (x != 0 || control.width >= shortestSideWithMiddle) &&
+           (y != 0 || control.height >= shortestSideWithMiddle);
+}
+
+SkinPoint handleCentre(const ElementControl& control, Handle handle) {
+    if (handle == Handle::firstEnd) {
+        return {control.X1, control.Y1};
+    }
+    if (handle == Handle::secondEnd) {
+        return {control.X2, control.Y2};
+    }
+    const auto [x, y] = edgesOf(handle);
+    return {toSingle(centreAlong(horizontal(control), x)),
+            toSingle(centreAlong(vertical(control), y))};
+}
+
+Handle handleAt(const Element& element, SkinPoint point) {
+    const ElementControl& control = element.elementControl;
+    if (isLine(control)) {
+        return element.elementLocked ? Handle::none : lineEndAt(control, point);
+    }
+    constexpr std::array<Handle, 8> order = {
+        Handle::bottomRight, Handle::topRight, Handle::bottomLeft, Handle::topLeft,
+        Handle::right,       Handle::bottom,   Handle::left,       Handle::top};
+    const auto found = std::find_if(order.begin(), order.end(), [&](Handle handle) {
+        const auto [x, y] = edgesOf(handle);
+        return hasHandle(element, handle) && reaches(horizontal(control), x, point.x) &&
+               reaches(vertical(control), y, point.y);
+    });
+    return found == order.end() ? Handle::none : *found;
+}
+
+} // namespace tarvel

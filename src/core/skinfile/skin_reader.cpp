@@ -1,0 +1,228 @@
+// The sections of a skin file into the document's settings and screens.
+#include "skinfile/skin_reader.h"
+
+#include "document/layout_screens.h"
+#include "files/host_files.h"
+#include "skinfile/screen_builder.h"
+#include "text/tag_scanner.h"
+#include "text/text_case.h"
+
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <new>
+#include <system_error>
+
+namespace tarvel {
+
+namespace {
+
+void readMusic(SkinSettings& settings, XmlNode section) {
+    // A Directory element has no effect, and the list of music files is not in the file.
+    settings.music.optYesMusic = true;
+    settings.music.chkGlobal = reverseOnOff(getContent(section, "PlayGlobal"));
+    settings.music.chkRandom = reverseOnOff(getContent(section, "PlayRandom"));
+}
+
+void readInformation(SkinSettings& settings, XmlNode section) {
+    for (const XmlNode field : section.children()) {
+        settings.information.push_back({std::string(field.tag()), std::string(field.content())});
+    }
+}
+
+void readTextColor(SystemColors& colors, XmlNode section, std::string_view tag, SampleText text) {
+    colors.setTextColor(getContent(section, tag), static_cast<std::size_t>(text));
+}
+
+void readMessageBox(SkinSettings& settings, XmlNode section) {
+    SystemColors& colors = settings.systemColors;
+    colors.setBoxColor(getContent(section, "BoxColor"), 0);
+    colors.setBorderColor(getContent(section, "BorderColor"), 0);
+    readTextColor(colors, section, "TextColor", SampleText::messageText);
+    readTextColor(colors, section, "ShadowColor", SampleText::messageShadow);
+}
+
+void readSystemMenu(SkinSettings& settings, XmlNode section) {
+    SystemColors& colors = settings.systemColors;
+    colors.setBoxColor(getContent(section, "BoxColor"), 1);
+    colors.setBorderColor(getContent(section, "BorderColor"), 1);
+    readTextColor(colors, section, "SelectColor", SampleText::menuSelect);
+    readTextColor(colors, section, "SelectValueColor", SampleText::menuSelectValue);
+    readTextColor(colors, section, "TextColor", SampleText::menuText);
+    readTextColor(colors, section, "ValueColor", SampleText::menuValue);
+}
+
+void readDelays(SkinSettings& settings, XmlNode section) {
+    settings.delays = {val(getContent(section, "Title")), val(getContent(section, "Load")),
+                       val(getContent(section, "Saver"))};
+}
+
+// Adds the resources of a skin to the document.
+class ResourceReader {
+  public:
+    ResourceReader(SkinDocument& document, const std::filesystem::path& folder,
+                   std::vector<std::string>& outside)
+        : document_(document)
+        , folder_(folder)
+        , prefix_(withSlash(documentPath(folder)))
+        , outside_(outside) {}
+
+    void read(XmlNode section) {
+        if (!equalsIgnoringCase(getAttrib(section, "Type"), "image")) {
+            return;
+        }
+        const std::string name(getAttrib(section, "Name"));
+        // Without a File child this is the last child, which then is the fragment.
+        const XmlNode file = getTag(section, "File");
+        if (file && file.tag() == "File" && !file.content().starts_with("::")) {
+            addFile(name, std::string(file.content()));
+        } else {
+            document_.addcRes(file ? makeTag(file.tag(), file.content()) : std::string{}, name);
+        }
+    }
+
+  private:
+    void addFile(const std::string& name, std::string file) {
+        std::replace(file.begin(), file.end(), '/', '\\');
+        const bool outside = leadsOutside(folder_, file);
+        if (outside) {
+            outside_.push_back(name);
+        }
+        document_.addRes(name, prefix_ + file, outside);
+    }
+
+    SkinDocument& document_;
+    const std::filesystem::path& folder_;
+    std::string prefix_;
+    std::vector<std::string>& outside_;
+};
+
+void readSection(SkinDocument& document, XmlNode section, ResourceReader& resources) {
+    struct Reader {
+        std::string_view tag;
+        void (*read)(SkinSettings&, XmlNode);
+    };
+    constexpr std::array<Reader, 5> readers = {{{"music", readMusic},
+                                                {"information", readInformation},
+                                                {"messagebox", readMessageBox},
+                                                {"systemmenu", readSystemMenu},
+                                                {"delays", readDelays}}};
+    if (equalsIgnoringCase(section.tag(), "resource")) {
+        resources.read(section);
+        return;
+    }
+    for (const Reader& reader : readers) {
+        if (equalsIgnoringCase(section.tag(), reader.tag)) {
+            document.editSettings([&](SkinSettings& settings) { reader.read(settings, section); });
+        }
+    }
+}
+
+SkinReadError unreadable(const std::string& problem) {
+    SkinReadError error(std::string(skinFileName) + " cannot be read: " + problem);
+    return error;
+}
+
+// A modifier deeper than any that means something would be written with as many tabs on each line.
+void requireSaneDepth(XmlNode root) {
+    constexpr std::size_t deepest = 1000;
+    std::vector<XmlNode> open{root}; // of each level the element at hand
+    while (!open.empty()) {
+        if (const XmlNode below = open.back().firstChild()) {
+            open.push_back(below);
+            if (open.size() > deepest) {
+                throw unreadable("its elements lie more than " + std::to_string(deepest) +
+                                 " levels deep");
+            }
+            continue;
+        }
+        while (!open.empty() && !(open.back() = open.back().nextSibling())) {
+            open.pop_back();
+        }
+    }
+}
+
+XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
+    try {
+        const auto path = skinFilePath(folder);
+        std::error_code ignored; // reading tells what is wrong
+        const auto size = std::filesystem::file_size(path, ignored);
+        if (!ignored && size > largestSkinText) {
+            throw unreadable("the file is too large");
+        }
+        return readSkinText(readFile(path), notes);
+    } catch (const XmlError& error) {
+        throw unreadable(std::string(error.what()) + " (line " + std::to_string(error.line()) +
+                         ")");
+    } catch (const FileError& error) {
+        throw unreadable(error.what());
+    }
+}
+
+SkinDocument withSkin(SkinDocument document, const std::filesystem::path& folder,
+                      SkinReadNotes& notes) {
+    const XmlTree tree = parsedSkin(folder, notes.text);
+    requireSaneDepth(tree.root());
+    readSkinTree(document, tree.root(), folder, notes);
+    return document;
+}
+
+} // namespace
+
+std::filesystem::path skinFilePath(const std::filesystem::path& folder) {
+    return hostPath(withSlash(documentPath(folder)).append(skinFileName));
+}
+
+void readSkinTree(SkinDocument& document, XmlNode root, const std::filesystem::path& folder,
+                  SkinReadNotes& notes) {
+    document.editSettings([root](SkinSettings& settings) {
+        settings.skinName = getAttrib(root, "name");
+        settings.information.clear();
+    });
+    ResourceReader resources(document, folder, notes.outside);
+    for (const XmlNode section : root.children()) {
+        readSection(document, section, resources);
+    }
+    for (const XmlNode section : root.children()) {
+        if (equalsIgnoringCase(section.tag(), "layout")) {
+            drawScreen(document, section);
+        }
+    }
+    document.setCurrentLayout(menuScreen);
+}
+
+SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& folder) {
+    const std::string problem = folderProblem(folder);
+    if (!problem.empty()) {
+        throw SkinReadError(problem);
+    }
+    if (!FileExists(withSlash(documentPath(folder)).append(skinFileName))) {
+        throw SkinReadError(std::string(noSkinFile));
+    }
+    SkinReadNotes notes;
+    SkinDocument next;
+    try {
+        next = withSkin(document, folder, notes);
+    } catch (const SkinReadError&) {
+        throw;
+    } catch (const std::bad_alloc&) {
+        throw unreadable("not enough memory to read it");
+    } catch (const std::exception& error) {
+        throw unreadable(error.what());
+    }
+    document = std::move(next);
+    return notes;
+}
+
+std::string outsideMessage(const std::vector<std::string>& names) {
+    if (names.empty()) {
+        return {};
+    }
+    std::string message = "These resources lie outside the skin folder and are left out: ";
+    for (const std::string& name : names) {
+        message.append(&name == names.data() ? "" : ", ").append(name);
+    }
+    return message;
+}
+
+} // namespace tarvel

@@ -1,0 +1,228 @@
+// Resources.
+#include "dialogs/frm_resources.h"
+
+#include "dialogs/resource_frames.h"
+#include "dialogs/resource_preview.h"
+#include "dialogs/resource_thumbnails.h"
+#include "surface/picture_cache.h"
+#include "widgets/control_names.h"
+#include "widgets/path_label.h"
+#include "widgets/shown_path.h"
+
+#include <QDropEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHideEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tarvel {
+
+FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCache& pictures,
+                           QWidget* parent)
+    : SkinDialog(QStringLiteral("frmResources"), QStringLiteral("  :: Resource Manager ::"),
+                 document, prompts, parent)
+    , fraCustom_(new CustomFrame(document, prompts, this))
+    , fraPreset_(new PresetFrame(document, pictures))
+    , lstRes_(named(new QListWidget, QStringLiteral("lstRes"), tr("Resources of the skin")))
+    , thumbnails_(new ResourceThumbnails(document, pictures, *lstRes_, this))
+    , imgPreview_(named(new ResourcePreview(pictures), QStringLiteral("imgPreview"),
+                        tr("Preview of the resource")))
+    , lblPreview_(new PathLabel)
+    , cmdOK_(makeOk()) {
+    setAcceptDrops(true);
+    buildColumns();
+    connect(lstRes_, &QListWidget::itemSelectionChanged, this, &FrmResources::lstRes_Click);
+    connect(fraCustom_->source(), &SourceButtons::chosen, this, &FrmResources::showSource);
+    connect(fraPreset_->source(), &SourceButtons::chosen, this, &FrmResources::showSource);
+    connect(fraCustom_, &CustomFrame::fileTaken, this, [this](const QString& file) {
+        lstRes_->setCurrentIndex({}); // something else is previewed
+        preview({.name = {}, .content = documentPath(hostPathOf(file))});
+    });
+    connect(fraCustom_, &CustomFrame::done, this, &FrmResources::finishAdding);
+    connect(fraPreset_, &PresetFrame::done, this, [this] { finishAdding(true); });
+    showSource(false);
+}
+
+void FrmResources::buildColumns() {
+    const int width = std::max(fraCustom_->sizeHint().width(), fraPreset_->sizeHint().width());
+    fraCustom_->setMinimumWidth(width);
+    fraPreset_->setMinimumWidth(width);
+    auto* left = new QVBoxLayout;
+    left->addWidget(fraCustom_);
+    left->addWidget(fraPreset_);
+    left->addWidget(makeCurrentFrame(), 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(makePreviewFrame(), 1);
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(left, 1);
+    columns->addLayout(right, 1);
+    auto* rows = new QVBoxLayout(this);
+    rows->addLayout(columns, 1);
+    rows->addWidget(cmdOK_, 0, Qt::AlignRight);
+}
+
+QWidget* FrmResources::makeCurrentFrame() {
+    auto* frame = new QGroupBox(QStringLiteral("CURRENT RESOURCES"));
+    lstRes_->setUniformItemSizes(true);
+    lstRes_->setTextElideMode(Qt::ElideMiddle);
+    lstRes_->setMinimumHeight(150);
+    auto* box = new QVBoxLayout(frame);
+    box->addWidget(lstRes_);
+    return frame;
+}
+
+QWidget* FrmResources::makePreviewFrame() {
+    auto* frame = new QGroupBox(tr("PREVIEW"));
+    lblPreview_->setObjectName(QStringLiteral("lblPreview"));
+    auto* box = new QVBoxLayout(frame);
+    box->addWidget(imgPreview_, 1);
+    box->addWidget(lblPreview_);
+    return frame;
+}
+
+void FrmResources::readDocument() {
+    {
+        const QSignalBlocker quiet(lstRes_);
+        lstRes_->clear();
+    }
+    thumbnails_->restart();
+    listNewResources();
+    lstRes_->setCurrentIndex({});
+    resizeForm(added_); // a hidden window may not have taken the size of another frame
+    if (!fraCustom_->hasFile()) {
+        fraCustom_->source()->focusChosen(); // not where the last work ended
+    }
+}
+
+void FrmResources::hideEvent(QHideEvent* event) {
+    SkinDialog::hideEvent(event);
+    if (!event->spontaneous()) {
+        thumbnails_->stop();
+        preview({});
+        added_ = addedHeight();
+        forgetInput();
+    }
+}
+
+// The name of a file that was not added would otherwise be given to the next one.
+void FrmResources::forgetInput() {
+    fraCustom_->clear();
+    fraPreset_->clear();
+    cmdOK_->setDefault(true);
+    showSource(false);
+}
+
+void FrmResources::showSource(bool preset) {
+    const int added = addedHeight();      // before the frames change it
+    const QWidget* focus = focusWidget(); // hiding would give it to whatever comes next
+    const QWidget* leaving = preset ? static_cast<QWidget*>(fraCustom_) : fraPreset_;
+    const bool focusGoes = focus != nullptr && leaving->isAncestorOf(focus);
+    fraCustom_->source()->setPreset(preset);
+    fraPreset_->source()->setPreset(preset);
+    fraCustom_->setVisible(!preset);
+    fraPreset_->setVisible(preset);
+    if (focusGoes) {
+        (preset ? fraPreset_->source() : fraCustom_->source())->focusChosen();
+    }
+    // An arrow key will still give the focus to the option that it chose, in the hidden frame.
+    QTimer::singleShot(0, this, &FrmResources::keepFocusVisible);
+    resizeForm(added);
+}
+
+// The focus goes from an option in the hidden frame to the same one in the other.
+void FrmResources::keepFocusVisible() {
+    const QWidget* focus = focusWidget();
+    if (focus == nullptr) {
+        return;
+    }
+    if (fraCustom_->isHidden() && fraCustom_->isAncestorOf(focus)) {
+        fraPreset_->source()->focusChosen();
+    } else if (fraPreset_->isHidden() && fraPreset_->isAncestorOf(focus)) {
+        fraCustom_->source()->focusChosen();
+    }
+}
+
+// What the user has added to the height.
+int FrmResources::addedHeight() const {
+    return fitted_ == 0 ? 0 : std::max(0, height() - fitted_);
+}
+
+// Fits the height to the frame that is shown.
+void FrmResources::resizeForm(int added) {
+    layout()->invalidate();
+    layout()->activate();
+    const QSize hint = layout()->totalSizeHint();
+    const int wide = std::max(width(), hint.width());
+    fitted_ = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wide) : hint.height();
+    resize(wide, fitted_ + added);
+}
+
+void FrmResources::listNewResources() {
+    const auto& resources = document().settings().resources;
+    for (auto row = static_cast<std::size_t>(lstRes_->count()); row < resources.size(); ++row) {
+        auto* item = new QListWidgetItem(qtText(resources[row].name), lstRes_); // NOLINT: owned
+        item->setToolTip(resources[row].isFile ? shownPath(resources[row].content)
+                                               : qtText(resources[row].content));
+    }
+    thumbnails_->addRows();
+}
+
+void FrmResources::selectLast() {
+    lstRes_->setCurrentRow(lstRes_->count() - 1);
+}
+
+// Steps back to the start: OK is next, or another file.
+void FrmResources::finishAdding(bool added) {
+    listNewResources();
+    if (added) {
+        selectLast();
+    }
+    cmdOK_->setDefault(true);
+    showSource(false);
+    if (added) {
+        cmdOK_->setFocus();
+    }
+}
+
+void FrmResources::lstRes_Click() {
+    const auto selected = lstRes_->selectedItems();
+    if (!selected.isEmpty()) {
+        const auto row = static_cast<std::size_t>(lstRes_->row(selected.front()));
+        preview(document().settings().resources.at(row));
+    }
+}
+
+void FrmResources::preview(const Resource& resource) {
+    imgPreview_->showResource(resource);
+    lblPreview_->setPath(imgPreview_->description());
+}
+
+void FrmResources::takeFile(const QString& file) {
+    showSource(false);
+    fraCustom_->takeFile(file);
+}
+
+void FrmResources::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedFiles(*event->mimeData()).isEmpty()) {
+        event->setDropAction(Qt::CopyAction); // dropping must not move a file
+        event->accept();
+    }
+}
+
+void FrmResources::dropEvent(QDropEvent* event) {
+    const QStringList files = draggedFiles(*event->mimeData());
+    if (!files.isEmpty()) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        takeFile(files.front());
+    }
+}
+
+} // namespace tarvel

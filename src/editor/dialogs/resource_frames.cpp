@@ -1,0 +1,217 @@
+// Adding of files and presets.
+#include "dialogs/resource_frames.h"
+
+#include "editing/resource_rules.h"
+#include "panels/resource_looks.h"
+#include "surface/picture_cache.h"
+#include "widgets/control_names.h"
+#include "widgets/path_label.h"
+#include "widgets/prompts.h"
+#include "widgets/shown_path.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace tarvel {
+
+namespace {
+
+constexpr const char* fileFilter = "Pictures and videos|*.png *.jpg *.jpeg *.bmp *.gif *.wmv"
+                                   "|All files|*";
+
+} // namespace
+
+SourceButtons::SourceButtons(const QString& suffix, QWidget* parent)
+    : QWidget(parent)
+    , optCustom_(named(new QRadioButton(QStringLiteral("Custom (from file)")),
+                       QStringLiteral("optCustom") + suffix, tr("Resource from a file")))
+    , optPreset_(named(new QRadioButton(QStringLiteral("Preset (in QOR)")),
+                       QStringLiteral("optPreset") + suffix,
+                       tr("Resource that the dashboard supplies"))) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(18);
+    row->addWidget(optCustom_);
+    row->addWidget(optPreset_);
+    row->addStretch();
+    connect(optPreset_, &QRadioButton::toggled, this, &SourceButtons::chosen);
+}
+
+void SourceButtons::setPreset(bool preset) {
+    const QSignalBlocker quiet(optPreset_);
+    (preset ? optPreset_ : optCustom_)->setChecked(true);
+}
+
+void SourceButtons::focusChosen() {
+    (optPreset_->isChecked() ? optPreset_ : optCustom_)->setFocus();
+}
+
+CustomFrame::CustomFrame(SkinDocument& document, Prompts& prompts, QWidget* owner)
+    : QGroupBox(QStringLiteral("ADD RESOURCE"))
+    , document_(document)
+    , prompts_(prompts)
+    , owner_(owner)
+    , source_(new SourceButtons({}))
+    , txtRes_(named(new QLineEdit, QStringLiteral("txtRes"), tr("Name of the resource")))
+    , lblFile_(named(new PathLabel, QStringLiteral("lblFile"), tr("Chosen file")))
+    , cmdBrowse_(named(new QPushButton(QStringLiteral("Browse")), QStringLiteral("cmdBrowse"),
+                       tr("Browse for a file")))
+    , cmdAdd_(named(new QPushButton(QStringLiteral("Add")), QStringLiteral("cmdAdd"),
+                    tr("Add the file as a resource"))) {
+    setObjectName(QStringLiteral("fraCustom"));
+    buildGrid();
+    connect(cmdBrowse_, &QPushButton::clicked, this, &CustomFrame::cmdBrowse_Click);
+    connect(cmdAdd_, &QPushButton::clicked, this, &CustomFrame::cmdAdd_Click);
+}
+
+void CustomFrame::buildGrid() {
+    txtRes_->setAcceptDrops(false); // files are for the dialog
+    auto* lblRes = new QLabel(QStringLiteral("Resource Name:"));
+    lblRes->setBuddy(txtRes_);
+    auto* note = new QLabel(QStringLiteral("*The resource can either be a video or a picture.  "
+                                           "Both are referred to as \"images\"."));
+    note->setWordWrap(true);
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(source_, 0, 0, 1, 3);
+    grid->addWidget(lblRes, 1, 0);
+    grid->addWidget(txtRes_, 1, 1, 1, 2);
+    grid->addWidget(new QLabel(QStringLiteral("File:")), 2, 0);
+    grid->addWidget(lblFile_, 2, 1);
+    grid->addWidget(cmdBrowse_, 2, 2);
+    grid->addWidget(note, 3, 0, 1, 2);
+    grid->addWidget(cmdAdd_, 3, 2, Qt::AlignTop);
+    grid->setColumnStretch(1, 1);
+}
+
+void CustomFrame::cmdBrowse_Click() {
+    const QStringList files = prompts_.files(owner_, QLatin1String(fileFilter), false);
+    if (!files.isEmpty() && !files.front().isEmpty()) {
+        takeFile(files.front());
+    }
+}
+
+void CustomFrame::takeFile(const QString& file) {
+    lblFile_->setPath(file);
+    if (txtRes_->text().isEmpty()) {
+        txtRes_->setText(qtText(suggestedName(documentPath(hostPathOf(file)))));
+    }
+    cmdAdd_->setDefault(true);
+    cmdAdd_->setFocus();
+    emit fileTaken(file);
+}
+
+void CustomFrame::cmdAdd_Click() {
+    const QString file = lblFile_->text();
+    const std::string path = file.isEmpty() ? std::string() : documentPath(hostPathOf(file));
+    const AddOutcome outcome = addCustomResource(document_, coreText(txtRes_->text()), path);
+    if (outcome == AddOutcome::reserved) {
+        prompts_.message(owner_, qtText(reservedNameMessage));
+        return;
+    }
+    if (outcome == AddOutcome::taken) {
+        prompts_.message(owner_, qtText(takenNameMessage));
+        txtRes_->setFocus();
+        return;
+    }
+    const bool added = outcome == AddOutcome::added;
+    if (added) {
+        clear();
+    }
+    emit done(added);
+}
+
+bool CustomFrame::hasFile() const {
+    return !lblFile_->text().isEmpty();
+}
+
+void CustomFrame::clear() {
+    lblFile_->setPath({});
+    txtRes_->clear();
+}
+
+PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget* parent)
+    : QGroupBox(QStringLiteral("ADD PRESET RESOURCE"), parent)
+    , document_(document)
+    , source_(new SourceButtons(QStringLiteral("2")))
+    , lstResDef_(named(new QListWidget, QStringLiteral("lstResDef"), tr("Preset resources")))
+    , lblDesc_(named(new QLabel, QStringLiteral("lblDesc"), tr("Description of the preset")))
+    , txtResDef_(named(new QLineEdit, QStringLiteral("txtResDef"), tr("Name of the resource")))
+    , cmdAddDef_(named(new QPushButton(QStringLiteral("Add Resource")), QStringLiteral("cmdAddDef"),
+                       tr("Add the preset as a resource"))) {
+    setObjectName(QStringLiteral("fraPreset"));
+    for (const auto& preset : presetResources) {
+        lstResDef_->addItem(qtText(preset.entry));
+    }
+    lstResDef_->setCurrentIndex({}); // the focus alone is to choose nothing
+    buildGrid(pictures);
+    connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::lstResDef_Click);
+    connect(lstResDef_, &QListWidget::itemClicked, this, &PresetFrame::lstResDef_Click);
+    connect(cmdAddDef_, &QPushButton::clicked, this, &PresetFrame::cmdAddDef_Click);
+}
+
+void PresetFrame::buildGrid(PictureCache& pictures) {
+    lblDesc_->setWordWrap(true);
+    lblDesc_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lblDesc_->setMinimumHeight(3 * lblDesc_->fontMetrics().lineSpacing());
+    lstResDef_->setFixedHeight(150);
+    txtResDef_->setAcceptDrops(false);
+    auto* imgDefault =
+        named(new QLabel, QStringLiteral("imgDefault"), tr("The picture that stands for presets"));
+    constexpr QSize iconSize{64, 48};
+    const Resource anyPreset{.name = {}, .content = {}, .isFile = false};
+    const QImage icon = thumbnailOf(anyPreset, pictures, iconSize, imgDefault->devicePixelRatioF());
+    imgDefault->setPixmap(QPixmap::fromImage(icon));
+    auto* lblName = new QLabel(QStringLiteral("Resource name"));
+    lblName->setBuddy(txtResDef_);
+    auto* grid = new QGridLayout(this);
+    grid->addWidget(source_, 0, 0, 1, 2);
+    grid->addWidget(lstResDef_, 1, 0, 3, 1);
+    grid->addWidget(imgDefault, 1, 1);
+    grid->addWidget(new QLabel(QStringLiteral("Description:")), 2, 1);
+    grid->addWidget(lblDesc_, 3, 1, Qt::AlignTop);
+    auto* nameRow = new QHBoxLayout;
+    nameRow->addWidget(lblName);
+    nameRow->addWidget(txtResDef_, 1);
+    nameRow->addWidget(cmdAddDef_);
+    grid->addLayout(nameRow, 4, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(3, 1);
+}
+
+int PresetFrame::selectedPreset() const {
+    const auto selected = lstResDef_->selectedItems();
+    return selected.isEmpty() ? -1 : lstResDef_->row(selected.front());
+}
+
+void PresetFrame::lstResDef_Click() {
+    const int preset = selectedPreset();
+    if (preset < 0) {
+        return;
+    }
+    const PresetResource& chosen = presetResources.at(static_cast<std::size_t>(preset));
+    lblDesc_->setText(qtText(chosen.description));
+    txtResDef_->setText(qtText(presetName(chosen.entry)));
+}
+
+void PresetFrame::clear() {
+    lstResDef_->setCurrentIndex({});
+    lblDesc_->clear();
+    txtResDef_->clear();
+}
+
+void PresetFrame::cmdAddDef_Click() {
+    const auto outcome =
+        addPresetResource(document_, selectedPreset(), coreText(txtResDef_->text()));
+    if (outcome != AddOutcome::taken) {
+        emit done();
+    }
+}
+
+} // namespace tarvel

@@ -1,0 +1,35 @@
+// Opening and closing of the settings dialogs.
+#include "dialogs/skin_dialog.h"
+
+#include "widgets/control_names.h"
+
+#include <QPushButton>
+#include <QShowEvent>
+
+namespace tarvel {
+
+SkinDialog::SkinDialog(const QString& name, const QString& title, SkinDocument& document,
+                       Prompts& prompts, QWidget* parent)
+    : QDialog(parent)
+    , document_(document)
+    , prompts_(prompts) {
+    setObjectName(name);
+    setWindowTitle(title);
+    setModal(true);
+}
+
+void SkinDialog::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        readDocument(); // first, since the size may depend on it and the place on the size
+    }
+    QDialog::showEvent(event);
+}
+
+QPushButton* SkinDialog::makeOk() {
+    auto* button = named(new QPushButton(tr("OK")), QStringLiteral("cmdOK"), tr("OK: close"));
+    button->setDefault(true);
+    connect(button, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    return button;
+}
+
+} // namespace tarvel

@@ -1,0 +1,56 @@
+// Behaviour buttons and their marks.
+#include "panels/behaviour_buttons.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace tarvel {
+
+namespace {
+
+constexpr std::array<const char*, BehaviourButtons::count> captions = {"Modifiers", "Timers",
+                                                                       "Condition"};
+
+void markEntry(QAction& entry, bool bold) {
+    const QString caption = entry.text();
+    const bool marked = caption.endsWith(QLatin1Char('*'));
+    if (bold && !marked) {
+        entry.setText(caption + QLatin1Char('*'));
+    } else if (!bold && marked) {
+        entry.setText(caption.chopped(1));
+    }
+}
+
+} // namespace
+
+BehaviourButtons::BehaviourButtons(std::array<QAction*, count> menuEntries, QWidget* parent)
+    : QWidget(parent)
+    , mnuModifier_(menuEntries) {
+    setObjectName(QStringLiteral("fraBehaviour"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (int i = 0; i < count; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        auto* button = new QPushButton(QLatin1String(captions[at]));
+        button->setObjectName(QStringLiteral("cmdModifier(%1)").arg(i));
+        button->setAccessibleName(tr("%1 of the selected element").arg(button->text()));
+        connect(button, &QPushButton::clicked, this, [this, i] { emit cmdModifier_Click(i); });
+        connect(menuEntries[at], &QAction::triggered, this,
+                [this, i] { emit cmdModifier_Click(i); });
+        row->addWidget(button);
+        cmdModifier_[at] = button;
+    }
+}
+
+void BehaviourButtons::setBolds(const BehaviourMarks& marks) {
+    const std::array<bool, count> bold = {marks.modifiers, marks.timers, marks.condition};
+    for (std::size_t i = 0; i < bold.size(); ++i) {
+        QFont font = cmdModifier_[i]->font();
+        font.setBold(bold[i]);
+        cmdModifier_[i]->setFont(font);
+        markEntry(*mnuModifier_[i], bold[i]);
+    }
+}
+
+} // namespace tarvel

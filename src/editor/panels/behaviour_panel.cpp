@@ -1,0 +1,94 @@
+// The frame of a behaviour panel.
+#include "panels/behaviour_panel.h"
+
+#include "widgets/control_names.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tarvel {
+
+namespace {
+
+constexpr qreal cornerRadius = 6;
+constexpr int margin = 14;
+
+QColor between(const QColor& a, const QColor& b, float share) {
+    const auto mixed = [share](float from, float to) { return from + (to - from) * share; };
+    return QColor::fromRgbF(mixed(a.redF(), b.redF()), mixed(a.greenF(), b.greenF()),
+                            mixed(a.blueF(), b.blueF()));
+}
+
+} // namespace
+
+BehaviourPanel::BehaviourPanel(SkinDocument& document, const QString& name, const QString& heading,
+                               QWidget* parent)
+    : QFrame(parent)
+    , document_(document)
+    , rows_(new QVBoxLayout(this)) {
+    hide();
+    setObjectName(name);
+    rows_->setContentsMargins(margin, margin, margin, margin);
+    rows_->setSpacing(10);
+    auto* title = new QLabel(heading);
+    QFont bold = title->font();
+    bold.setBold(true);
+    title->setFont(bold);
+    rows_->addWidget(title);
+}
+
+void BehaviourPanel::addOk(const QString& name, const QString& accessibleName) {
+    cmdOK_ = named(new QPushButton(QStringLiteral("OK")), name, accessibleName);
+    connect(cmdOK_, &QPushButton::clicked, this, &BehaviourPanel::ok);
+    rows_->addStretch(1);
+    rows_->addWidget(cmdOK_, 0, Qt::AlignRight);
+}
+
+void BehaviourPanel::open(int elementId) {
+    if (elementId < 1 || elementId > document_.lastElementId()) {
+        return;
+    }
+    elementId_ = elementId;
+    fill(document_.element(elementId));
+    show();
+    raise();
+    if (firstControl_ != nullptr) {
+        firstControl_->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void BehaviourPanel::ok() {
+    if (elementId_ <= document_.lastElementId()) { // the document may have been replaced
+        document_.editElement(elementId_, [this](Element& element) { store(element); });
+    }
+    hide();
+    emit closed();
+}
+
+void BehaviourPanel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor window = palette().color(QPalette::Window);
+    painter.setBrush(window);
+    painter.setPen(between(window, palette().color(QPalette::WindowText), 0.45F));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
+                            cornerRadius);
+}
+
+void BehaviourPanel::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        cmdOK_->click();
+        break;
+    case Qt::Key_Escape:
+        break; // goes no further: what lies below the panel is out of use
+    default:
+        QFrame::keyPressEvent(event);
+    }
+}
+
+} // namespace tarvel

@@ -1,0 +1,139 @@
+// Picker and preview of resources.
+#include "panels/image_frame.h"
+
+#include "document/skin_document.h"
+#include "editing/panel_texts.h"
+#include "panels/preview_area.h"
+#include "widgets/qt_text.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int roomAcross = 12; // pixels beside the text of a button, beyond the style's
+
+QLabel* captionLabel(const char* name, std::string_view text) {
+    auto* label = new QLabel(qtText(text));
+    label->setObjectName(QLatin1String(name));
+    return label;
+}
+
+} // namespace
+
+ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, PictureCache& pictures,
+                       QWidget* parent)
+    : QGroupBox(tr("Image"), parent)
+    , values_(values)
+    , document_(document) {
+    setObjectName(QStringLiteral("fraImg"));
+    setAccessibleName(tr("Resource of the image"));
+    auto* column = new QVBoxLayout(this);
+    buildPicker();
+    auto* lblRes = captionLabel("lblRes", caption::lblRes);
+    lblRes->setBuddy(lstR_);
+    column->addWidget(lblRes);
+    auto* cmdAddRes = new QPushButton(qtText(caption::cmdAddRes));
+    cmdAddRes->setObjectName(QStringLiteral("cmdAddRes"));
+    cmdAddRes->setAccessibleName(tr("Open the resource manager"));
+    cmdAddRes->setMinimumWidth(cmdAddRes->sizeHint().width() + roomAcross);
+    connect(cmdAddRes, &QPushButton::clicked, this, &ImageFrame::addResourceClicked);
+    auto* row = new QHBoxLayout;
+    row->addWidget(lstR_, 1);
+    row->addWidget(cmdAddRes);
+    column->addLayout(row);
+    column->addWidget(captionLabel("lblPreview", caption::lblPreview));
+    preview_ = new PreviewArea(pictures);
+    column->addWidget(preview_, 1);
+    resourcesChanged();
+}
+
+void ImageFrame::buildPicker() {
+    lstR_ = new QComboBox;
+    lstR_->setObjectName(QStringLiteral("lstR"));
+    lstR_->setAccessibleName(tr("Resource of the image"));
+    lstR_->view()->setAccessibleName(tr("Resources of the skin"));
+    lstR_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    lstR_->setMinimumContentsLength(12);
+    connect(lstR_, &QComboBox::activated, this, &ImageFrame::lstR_Click);
+}
+
+void ImageFrame::fillPicker() {
+    const QSignalBlocker silence(lstR_);
+    const auto& resources = document_.settings().resources;
+    lstR_->clear();
+    QStringList names;
+    for (const Resource& resource : resources) {
+        names << qtText(resource.name);
+    }
+    lstR_->setPlaceholderText(resources.empty() ? tr("No resources yet") : tr("Choose one"));
+    lstR_->addItems(names);
+    lstR_->setEnabled(!resources.empty());
+}
+
+void ImageFrame::resourcesChanged() {
+    const auto& resources = document_.settings().resources;
+    const QString name = lstR_->currentText();
+    const bool wasChosen = lstR_->currentIndex() >= 0;
+    fillPicker();
+    // Where several have the name, the one that is where the chosen one was.
+    const bool sameRow = values_.lstR >= 0 &&
+                         static_cast<std::size_t>(values_.lstR) < resources.size() &&
+                         lstR_->itemText(values_.lstR) == name;
+    if (!wasChosen || !sameRow) {
+        values_.lstR =
+            wasChosen ? lstR_->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive) : -1;
+    }
+    lstR_->setCurrentIndex(values_.lstR);
+    if (previewed_) {
+        refresh();
+    }
+}
+
+const Resource* ImageFrame::chosen() const {
+    const auto& resources = document_.settings().resources;
+    const bool valid =
+        values_.lstR >= 0 && static_cast<std::size_t>(values_.lstR) < resources.size();
+    return valid ? &resources[static_cast<std::size_t>(values_.lstR)] : nullptr;
+}
+
+void ImageFrame::lstR_Click() {
+    values_.lstR = lstR_->currentIndex();
+    previewed_.reset();
+    refresh();
+}
+
+void ImageFrame::refresh() {
+    if (lstR_->currentIndex() != values_.lstR) {
+        lstR_->setCurrentIndex(values_.lstR);
+    }
+    const Resource* resource = chosen();
+    const Resource shown = resource != nullptr ? *resource : Resource{};
+    if (previewed_ == shown) {
+        return;
+    }
+    previewed_ = shown;
+    if (resource != nullptr) {
+        preview_->showResource(shown);
+    } else {
+        preview_->clear();
+    }
+}
+
+void ImageFrame::leave() {
+    previewed_.reset();
+    preview_->clear();
+}
+
+void ImageFrame::stopPreview() {
+    preview_->stop();
+}
+
+} // namespace tarvel

@@ -1,0 +1,66 @@
+// The screen buttons and their notes.
+#include "panels/layout_panel.h"
+
+#include "widgets/qt_text.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QRadioButton>
+
+namespace tarvel {
+
+LayoutPanel::LayoutPanel(QWidget* parent)
+    : QGroupBox(QStringLiteral("CURRENT SCREEN"), parent) {
+    setObjectName(QStringLiteral("fraLayout"));
+    setAccessibleName(QStringLiteral("Current screen"));
+    auto* grid = new QGridLayout(this);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    grid->setHorizontalSpacing(2);
+    grid->setVerticalSpacing(3);
+    grid->setRowStretch(screenCount, 1);
+    for (int screen = 0; screen < screenCount; ++screen) {
+        const LayoutScreen& shown = layoutScreens[static_cast<std::size_t>(screen)];
+        auto* button = new QRadioButton(qtText(shown.caption));
+        button->setObjectName(QStringLiteral("optScreen(%1)").arg(screen));
+        button->setAccessibleName(QStringLiteral("Screen %1").arg(qtText(shown.caption)));
+        // Bold captions are wider: without the room the panel would jump.
+        QFont bold = button->font();
+        bold.setBold(true);
+        button->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(button->text()) + 26);
+        connect(button, &QRadioButton::clicked, this,
+                [this, screen] { emit screenClicked(screen); });
+        grid->addWidget(button, screen, 0);
+        if (!shown.note.empty()) {
+            auto* note = new QLabel(qtText(shown.note));
+            note->setEnabled(false);
+            grid->addWidget(note, screen, 1);
+        }
+        optScreen_[static_cast<std::size_t>(screen)] = button;
+    }
+    setCurrent(menuScreen);
+}
+
+void LayoutPanel::setCurrent(int screen) {
+    optScreen_.at(static_cast<std::size_t>(screen))->setChecked(true);
+}
+
+int LayoutPanel::current() const {
+    int checked = menuScreen;
+    for (int screen = 0; screen < screenCount; ++screen) {
+        if (optScreen_[static_cast<std::size_t>(screen)]->isChecked()) {
+            checked = screen;
+        }
+    }
+    return checked;
+}
+
+void LayoutPanel::setLayoutBolds(const SkinDocument& document) {
+    for (int screen = 0; screen < screenCount; ++screen) {
+        QRadioButton* button = optScreen_[static_cast<std::size_t>(screen)];
+        QFont font = button->font();
+        font.setBold(isLayoutBold(document, screen));
+        button->setFont(font);
+    }
+}
+
+} // namespace tarvel

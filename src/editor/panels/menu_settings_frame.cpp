@@ -1,0 +1,259 @@
+// Check boxes, numbers, alignments and colours of an item menu.
+#include "panels/menu_settings_frame.h"
+
+#include "editing/panel_texts.h"
+#include "widgets/color_well.h"
+#include "widgets/field_edit.h"
+#include "widgets/qt_text.h"
+#include "widgets/skin_fonts.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int smallGap = 4; // pixels
+
+Qt::Alignment qtAlignment(TextAlignment alignment) {
+    switch (alignment) {
+    case TextAlignment::right:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    case TextAlignment::center:
+        return Qt::AlignCenter;
+    case TextAlignment::left:
+        break;
+    }
+    return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+// The ground of a screen, black, unless the text could not be read on it.
+QColor groundFor(const QColor& text) {
+    constexpr int tooDark = 72;
+    return qGray(text.rgb()) < tooDark ? QColor(208, 208, 208) : QColor(Qt::black);
+}
+
+QLabel* headLabel(std::string_view text) {
+    auto* label = new QLabel(qtText(text));
+    QFont font = skinFont({.size = 9.0F, .bold = true});
+    font.setPointSizeF(9); // as large as the texts around it on every screen
+    label->setFont(font);
+    return label;
+}
+
+QLabel* previewLabel(const char* name, std::string_view text) {
+    auto* label = new QLabel(qtText(text));
+    label->setObjectName(QLatin1String(name));
+    QFont font = skinFont({});
+    font.setPointSizeF(9);
+    label->setFont(font);
+    label->setAutoFillBackground(true);
+    label->setContentsMargins(smallGap, 0, smallGap, 0);
+    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    return label;
+}
+
+} // namespace
+
+struct MenuSettingsFrame::Group {
+    struct ColorNames {
+        const char* well;
+        const char* label;
+        std::string_view text;
+        QString spoken;
+        ColorNumber MenuFrame::*value;
+    };
+
+    std::string_view head;
+    const char* list;
+    QString spoken;
+    int MenuFrame::*position;
+    void (*choose)(MenuFrame&, int);
+    TextAlignment MenuFrame::*preview;
+    std::array<ColorNames, 2> colors;
+};
+
+MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget* parent)
+    : QGroupBox(tr("Item Menu"), parent)
+    , values_(frame)
+    , prompts_(prompts) {
+    setObjectName(QStringLiteral("fraQor"));
+    setAccessibleName(tr("Settings of the item menu"));
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(smallGap);
+    column->addLayout(checksAndNumbers());
+    addGroup(*column, {.head = caption::gameTitle,
+                       .list = "cmbTitleAlign",
+                       .spoken = tr("Alignment of the titles"),
+                       .position = &MenuFrame::cmbTitleAlign,
+                       .choose = chooseTitleAlign,
+                       .preview = &MenuFrame::titlePreview,
+                       .colors = {{{"colSelTitle", "lblSelTitle", caption::lblSelTitle,
+                                    tr("Color of the selected title"), &MenuFrame::colSelTitle},
+                                   {"colUnselTitle", "lblUnselTitle", caption::lblUnselTitle,
+                                    tr("Color of the other titles"), &MenuFrame::colUnselTitle}}}});
+    addGroup(*column,
+             {.head = caption::gameDescription,
+              .list = "cmbDescAlign",
+              .spoken = tr("Alignment of the descriptions"),
+              .position = &MenuFrame::cmbDescAlign,
+              .choose = chooseDescAlign,
+              .preview = &MenuFrame::descPreview,
+              .colors = {{{"colSelDesc", "lblSelDesc", caption::lblSelDesc,
+                           tr("Color of the selected description"), &MenuFrame::colSelDesc},
+                          {"colUnselDesc", "lblUnselDesc", caption::lblUnselDesc,
+                           tr("Color of the other descriptions"), &MenuFrame::colUnselDesc}}}});
+    column->addStretch();
+    refresh();
+}
+
+QLayout* MenuSettingsFrame::checksAndNumbers() {
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(smallGap);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(addCheck("chkThumbVis", caption::chkThumbVis, &MenuFrame::chkThumbVis), 0, 0);
+    grid->addWidget(
+        addCheck("chkSmoothScroll", caption::chkSmoothScroll, &MenuFrame::chkSmoothScroll), 0, 1);
+    grid->addWidget(addCheck("chkSelGlow", caption::chkSelGlow, &MenuFrame::chkSelGlow), 1, 0);
+    grid->addWidget(addCheck("chkShowDesc", caption::chkShowDesc, &MenuFrame::chkShowDesc), 1, 1);
+
+    auto* row = new QHBoxLayout;
+    const auto addField = [&](const char* labelName, std::string_view text, QLineEdit* edit) {
+        auto* label = new QLabel(qtText(text));
+        label->setObjectName(QLatin1String(labelName));
+        label->setBuddy(edit);
+        row->addWidget(label);
+        row->addWidget(edit);
+    };
+    addField("lblScrollFactor", caption::lblScrollFactor,
+             addNumber("txtScrollFactor", tr("Scroll factor"), &MenuFrame::txtScrollFactor));
+    row->addStretch();
+    addField("lblNumItems", caption::lblNumItems,
+             addNumber("txtNumItems", tr("Number of games shown"), &MenuFrame::txtNumItems));
+    grid->addLayout(row, 2, 0, 1, 2);
+    return grid;
+}
+
+QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,
+                                       bool MenuFrame::*value) {
+    auto* box = new QCheckBox(qtText(text));
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(box->text());
+    connect(box, &QCheckBox::clicked, this, [this, value](bool on) { values_.*value = on; });
+    checks_.push_back({box, value});
+    return box;
+}
+
+QLineEdit* MenuSettingsFrame::addNumber(const char* name, const QString& spoken,
+                                        std::string MenuFrame::*value) {
+    auto* edit = new FieldEdit;
+    edit->setObjectName(QLatin1String(name));
+    edit->setAccessibleName(spoken);
+    edit->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000")));
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, value](const QString& text) { values_.*value = coreText(text); });
+    numbers_.push_back({edit, value});
+    return edit;
+}
+
+void MenuSettingsFrame::addGroup(QBoxLayout& column, const Group& group) {
+    column.addSpacing(smallGap);
+    auto* top = new QHBoxLayout;
+    top->addWidget(headLabel(group.head));
+    top->addStretch();
+    auto* alignment = new QLabel(qtText(caption::alignment));
+    QComboBox* list = addAlignment(group);
+    alignment->setBuddy(list);
+    top->addWidget(alignment);
+    top->addWidget(list);
+    column.addLayout(top);
+
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(smallGap);
+    grid->addWidget(new QLabel(qtText(caption::preview)), 0, 0);
+    for (std::size_t which = 0; which < group.colors.size(); ++which) {
+        grid->addLayout(colorRow(group, which), static_cast<int>(which), 1);
+    }
+    grid->setColumnStretch(1, 1);
+    column.addLayout(grid);
+}
+
+QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
+    auto* list = new QComboBox;
+    list->setObjectName(QLatin1String(group.list));
+    list->setAccessibleName(group.spoken);
+    list->view()->setAccessibleName(group.spoken);
+    for (const std::string_view entry : alignmentEntries) {
+        list->addItem(qtText(entry));
+    }
+    connect(list, &QComboBox::activated, this, [this, choose = group.choose](int position) {
+        choose(values_, position);
+        std::ranges::for_each(colors_, [this](const Color& color) { showColor(color); });
+    });
+    alignments_.push_back({list, group.position});
+    return list;
+}
+
+QLayout* MenuSettingsFrame::colorRow(const Group& group, std::size_t which) {
+    const Group::ColorNames& names = group.colors.at(which);
+    auto* well = new ColorWell;
+    well->setObjectName(QLatin1String(names.well));
+    well->setAccessibleName(names.spoken);
+    auto* row = new QHBoxLayout;
+    row->addWidget(well);
+    const Color color{.well = well,
+                      .preview = previewLabel(names.label, names.text),
+                      .value = names.value,
+                      .alignment = group.preview};
+    row->addWidget(color.preview, 1);
+    connect(well, &ColorWell::clicked, this, [this, color] { ask(color); });
+    colors_.push_back(color);
+    return row;
+}
+
+void MenuSettingsFrame::ask(const Color& color) {
+    if (const auto chosen = askColor(prompts_, *this, values_.*color.value)) {
+        values_.*color.value = *chosen;
+        showColor(color);
+    }
+}
+
+void MenuSettingsFrame::showColor(const Color& color) {
+    const ColorNumber number = values_.*color.value;
+    color.well->setSwatch({FillStyle::solid, number});
+    QPalette colors = color.preview->palette();
+    colors.setColor(QPalette::WindowText, qtColor(number));
+    colors.setColor(QPalette::Window, groundFor(qtColor(number)));
+    color.preview->setPalette(colors);
+    color.preview->setAlignment(qtAlignment(values_.*color.alignment));
+}
+
+void MenuSettingsFrame::refresh() {
+    for (const Check& check : checks_) {
+        check.box->setChecked(values_.*check.value);
+    }
+    for (const Number& number : numbers_) {
+        const QString text = qtText(values_.*number.value);
+        if (number.edit->text() != text) {
+            number.edit->setText(text);
+        }
+    }
+    for (const Alignment& alignment : alignments_) {
+        alignment.list->setCurrentIndex(values_.*alignment.value);
+    }
+    for (const Color& color : colors_) {
+        showColor(color);
+    }
+}
+
+} // namespace tarvel

@@ -1,0 +1,111 @@
+// Position fields.
+#include "panels/position_panel.h"
+
+#include "widgets/field_edit.h"
+#include "widgets/qt_text.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace tarvel {
+
+PositionPanel::PositionPanel(QWidget* parent)
+    : QGroupBox(QStringLiteral("POSITION"), parent) {
+    struct Field {
+        const char* name;
+        const char* meaning;
+    };
+    static constexpr std::array<Field, positionFields> fields = {
+        {{"txtL", "Left, or first end across"},
+         {"txtT", "Top, or first end down"},
+         {"txtW", "Width, or second end across"},
+         {"txtH", "Height, or second end down"}}};
+    setObjectName(QStringLiteral("fraPos"));
+    setAccessibleName(tr("Position in skin pixels"));
+    auto* row = new QHBoxLayout(this);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        auto* edit = new FieldEdit;
+        edit->setObjectName(QLatin1String(fields[i].name));
+        edit->setAccessibleName(QLatin1String(fields[i].meaning));
+        edit->setToolTip(edit->accessibleName());
+        edit->installEventFilter(this);
+        connect(edit, &QLineEdit::editingFinished, this, [this, i] { leave(i); });
+        auto* label = new QLabel;
+        label->setBuddy(edit);
+        // Room for the captions of a line: they are wider.
+        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("X2")));
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        row->addWidget(label);
+        row->addWidget(edit);
+        fields_[i] = edit;
+        captions_[i] = label;
+    }
+    clear();
+}
+
+void PositionPanel::show(const ElementControl& control) {
+    shown_ = positionTexts(control);
+    const auto& captions = positionCaptions(control.kind);
+    for (std::size_t i = 0; i < shown_.size(); ++i) {
+        if (fields_[i]->text() != qtText(shown_[i])) {
+            fields_[i]->setText(qtText(shown_[i]));
+        }
+        fields_[i]->setModified(false);
+        fields_[i]->setEnabled(true);
+        captions_[i]->setText(qtText(captions[i]));
+    }
+}
+
+void PositionPanel::setPos(const ElementControl& control) {
+    show(control);
+}
+
+void PositionPanel::setPosLine(const ElementControl& control) {
+    show(control);
+}
+
+void PositionPanel::setEditable(bool editable) {
+    for (FieldEdit* field : fields_) {
+        field->setEnabled(editable);
+    }
+}
+
+void PositionPanel::clear() {
+    show({});
+    for (FieldEdit* field : fields_) {
+        field->clear();
+        field->setEnabled(false);
+    }
+}
+
+PositionTexts PositionPanel::texts() const {
+    PositionTexts result;
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        result[i] = coreText(fields_[i]->text());
+    }
+    return result;
+}
+
+// Escape takes back what was typed.
+bool PositionPanel::eventFilter(QObject* watched, QEvent* event) {
+    const auto at = std::find(fields_.begin(), fields_.end(), watched);
+    if (at != fields_.end() && event->type() == QEvent::KeyPress && (*at)->isModified() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        (*at)->setText(qtText(shown_[static_cast<std::size_t>(at - fields_.begin())]));
+        (*at)->sel();
+        return true;
+    }
+    return QGroupBox::eventFilter(watched, event);
+}
+
+void PositionPanel::leave(std::size_t field) {
+    if (fields_[field]->isModified()) {
+        fields_[field]->setModified(false);
+        emit entered(static_cast<PositionField>(field), fields_[field]->text());
+    }
+}
+
+} // namespace tarvel

@@ -1,0 +1,118 @@
+// Composition of the panel's frames.
+#include "panels/property_panel.h"
+
+#include "document/skin_document.h"
+#include "editing/new_element.h"
+#include "editing/panel_texts.h"
+#include "panels/image_frame.h"
+#include "panels/menu_settings_frame.h"
+#include "panels/shared_frame.h"
+#include "panels/text_frame.h"
+#include "widgets/qt_text.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int narrowest = 380; // pixels
+
+} // namespace
+
+PropertyPanel::PropertyPanel(const SkinDocument& document, Prompts& prompts, PictureCache& pictures,
+                             QWidget* parent)
+    : QWidget(parent)
+    , document_(document)
+    , fraShared_(new SharedFrame(values_, prompts))
+    , fraText_(new TextFrame(values_, prompts))
+    , fraImg_(new ImageFrame(values_, document, pictures))
+    , fraQor_(new MenuSettingsFrame(values_.fraQor, prompts)) {
+    setAccessibleName(tr("Properties"));
+    setMinimumWidth(narrowest);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    buildFrames();
+    column->addWidget(frames_, 1);
+    buildRow();
+    column->addLayout(row_);
+    connect(fraImg_, &ImageFrame::addResourceClicked, this, &PropertyPanel::addResourceClicked);
+    showNothing();
+}
+
+// Pages on top of each other: the area is as high as the highest of them.
+void PropertyPanel::buildFrames() {
+    auto* hint = new QLabel(tr("Select an element to change it, or choose a tool to draw one."));
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setWordWrap(true);
+    nothing_ = hint;
+    colorsAndText_ = new QWidget;
+    auto* column = new QVBoxLayout(colorsAndText_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(fraShared_);
+    column->addWidget(fraText_);
+    column->addStretch();
+    frames_ = new QStackedWidget;
+    for (QWidget* page : {nothing_, colorsAndText_, static_cast<QWidget*>(fraImg_),
+                          static_cast<QWidget*>(fraQor_)}) {
+        frames_->addWidget(page);
+    }
+}
+
+void PropertyPanel::buildRow() {
+    cmdApply_ = new QPushButton(qtText(caption::cmdApply));
+    cmdApply_->setObjectName(QStringLiteral("cmdApply"));
+    cmdApply_->setAccessibleName(tr("Apply the changes to the element"));
+    connect(cmdApply_, &QPushButton::clicked, this, &PropertyPanel::applyClicked);
+    row_ = new QHBoxLayout;
+    row_->addWidget(cmdApply_, 1);
+}
+
+void PropertyPanel::addBeside(QWidget* control) {
+    row_->addWidget(control);
+}
+
+void PropertyPanel::showElement(const Element& element) {
+    showFrames(showEditControls(element, document_.settings().resources, values_));
+    cmdApply_->setEnabled(true);
+}
+
+void PropertyPanel::showKind(ElementKind kind) {
+    showFrames(editControls(newControl(kind), values_));
+    cmdApply_->setEnabled(false); // nothing is there yet to apply to
+}
+
+void PropertyPanel::showNothing() {
+    showFrames(PanelLayout{});
+    cmdApply_->setEnabled(false);
+}
+
+void PropertyPanel::resourcesChanged() {
+    fraImg_->resourcesChanged();
+}
+
+void PropertyPanel::stopPreview() {
+    fraImg_->stopPreview();
+}
+
+void PropertyPanel::showFrames(const PanelLayout& layout) {
+    fraShared_->setVisible(layout.fraShared);
+    fraShared_->refresh(layout);
+    fraText_->setVisible(layout.fraText);
+    fraText_->refresh();
+    fraQor_->refresh();
+    if (layout.fraImg) {
+        fraImg_->refresh();
+        frames_->setCurrentWidget(fraImg_);
+        return;
+    }
+    fraImg_->leave();
+    frames_->setCurrentWidget(layout.fraQor      ? fraQor_
+                              : layout.fraShared ? colorsAndText_
+                                                 : nothing_);
+}
+
+} // namespace tarvel

@@ -1,0 +1,71 @@
+// The property panel: shows the element that is selected, or the settings of the next one drawn.
+#pragma once
+
+#include "editing/panel_values.h"
+
+#include <QWidget>
+
+class QHBoxLayout;
+class QPushButton;
+class QStackedWidget;
+
+namespace tarvel {
+
+class ImageFrame;
+class MenuSettingsFrame;
+class PictureCache;
+class Prompts;
+class SharedFrame;
+class SkinDocument;
+class TextFrame;
+
+/// Keeps its values whatever is shown. Its height does not depend on the kind. The document, the
+/// prompts and the cache of pictures are not owned; the document is only read, in the calls below
+/// and when the user chooses a resource.
+class PropertyPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    PropertyPanel(const SkinDocument& document, Prompts& prompts, PictureCache& pictures,
+                  QWidget* parent = nullptr);
+
+    /// What the controls hold now.
+    [[nodiscard]] PanelValues values() const { return values_; }
+
+    /// An element became current: takes its values over.
+    void showElement(const Element& element);
+    /// A tool was chosen: shows the frames of the kind that it draws.
+    void showKind(ElementKind kind);
+    /// Neither element nor tool: shows no frames.
+    void showNothing();
+    /// The skin has other resources. The one chosen stays chosen, by its name.
+    void resourcesChanged();
+    /// Stops the video of the preview until a resource is chosen or the frame is shown anew.
+    void stopPreview();
+
+    /// Puts a control beside cmdApply; it becomes a child.
+    void addBeside(QWidget* control);
+
+  signals:
+    void applyClicked();
+    void addResourceClicked();
+
+  private:
+    void buildFrames();
+    void buildRow();
+    void showFrames(const PanelLayout& layout);
+
+    const SkinDocument& document_;
+    PanelValues values_;
+    QStackedWidget* frames_ = nullptr;
+    QWidget* nothing_ = nullptr;
+    QWidget* colorsAndText_ = nullptr;
+    SharedFrame* fraShared_ = nullptr;
+    TextFrame* fraText_ = nullptr;
+    ImageFrame* fraImg_ = nullptr;
+    MenuSettingsFrame* fraQor_ = nullptr;
+    QHBoxLayout* row_ = nullptr;
+    QPushButton* cmdApply_ = nullptr;
+};
+
+} // namespace tarvel

@@ -1,0 +1,175 @@
+// Colour rows and the opacity.
+#include "panels/shared_frame.h"
+
+#include "editing/panel_texts.h"
+#include "widgets/click_label.h"
+#include "widgets/color_well.h"
+#include "widgets/control_names.h"
+#include "widgets/field_edit.h"
+#include "widgets/qt_text.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int roomAcross = 12; // pixels beside the text of a button, beyond the style's
+
+QLabel* captionLabel(const char* name, std::string_view text) {
+    auto* label = new QLabel(qtText(text));
+    label->setObjectName(QLatin1String(name));
+    return label;
+}
+
+} // namespace
+
+SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
+    : QGroupBox(qtText(caption::fraShared), parent)
+    , values_(values)
+    , prompts_(prompts)
+    , border_(borderRow())
+    , fill_(fillRow()) {
+    named(this, QStringLiteral("fraShared"), tr("Colors and opacity"));
+    auto* column = new QVBoxLayout(this);
+    addRow(*column, border_);
+    fraBox_ = new QWidget;
+    fraBox_->setObjectName(QStringLiteral("fraBox"));
+    auto* lower = new QVBoxLayout(fraBox_);
+    lower->setContentsMargins(0, 0, 0, 0);
+    addRow(*lower, fill_);
+    lower->addLayout(alphaRow());
+    column->addWidget(fraBox_);
+    alignRows();
+    connect(border_.well, &ColorWell::clicked, this, [this] { ask(values_.lColor); });
+    connect(border_.value, &ClickLabel::clicked, this, [this] { ask(values_.lColor); });
+    connect(border_.clear, &QPushButton::clicked, this, [this] {
+        clearBorder(values_);
+        refresh();
+    });
+    connect(fill_.well, &ColorWell::clicked, this, [this] { ask(values_.fColor); });
+    connect(fill_.value, &ClickLabel::clicked, this, [this] { ask(values_.fColor); });
+    connect(fill_.clear, &QPushButton::clicked, this, [this] {
+        clearFill(values_);
+        refresh();
+    });
+    refresh();
+}
+
+SharedFrame::Row SharedFrame::borderRow() {
+    return {.caption = captionLabel("lblBorderColor", caption::lblBorderColor),
+            .well = named(new ColorWell, QStringLiteral("lColor"), tr("Border color")),
+            .value = named(new ClickLabel, QStringLiteral("lblL"), tr("Border color in numbers")),
+            .clear = named(new QPushButton(qtText(caption::cmdClearL)), QStringLiteral("cmdClearL"),
+                           tr("Clear the border color"))};
+}
+
+SharedFrame::Row SharedFrame::fillRow() {
+    return {.caption = captionLabel("lblFillColor", caption::lblFillColor),
+            .well = named(new ColorWell, QStringLiteral("fColor"), tr("Fill color")),
+            .value = named(new ClickLabel, QStringLiteral("lblF"), tr("Fill color in numbers")),
+            .clear = named(new QPushButton(qtText(caption::cmdClearF)), QStringLiteral("cmdClearF"),
+                           tr("Clear the fill color"))};
+}
+
+void SharedFrame::addRow(QBoxLayout& column, Row& row) {
+    auto* line = new QHBoxLayout;
+    line->addWidget(row.caption);
+    line->addWidget(row.well);
+    line->addWidget(row.value);
+    line->addStretch();
+    line->addWidget(row.clear);
+    column.addLayout(line);
+}
+
+QBoxLayout* SharedFrame::alphaRow() {
+    auto* line = new QHBoxLayout;
+    lblAlpha_ = captionLabel("lblAlpha", caption::lblAlpha);
+    txtAlpha_ = named(new FieldEdit, QStringLiteral("txtAlpha"), tr("Opacity in percent"));
+    lblAlpha_->setBuddy(txtAlpha_);
+    txtAlpha_->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000000")));
+    connect(txtAlpha_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { values_.txtAlpha = coreText(text); });
+    line->addWidget(lblAlpha_);
+    line->addWidget(txtAlpha_);
+    line->addStretch();
+    return line;
+}
+
+// One column of captions, one of values and one of buttons, over both rows and the opacity.
+void SharedFrame::alignRows() {
+    const QFontMetrics metrics(font());
+    int captionWidth = 0;
+    for (const std::string_view text :
+         {caption::lblBorderColor, caption::lblFillColor, caption::lineColor, caption::fontColor,
+          caption::lblAlpha}) {
+        captionWidth = std::max(captionWidth, metrics.horizontalAdvance(qtText(text)));
+    }
+    for (QLabel* each : {border_.caption, fill_.caption, lblAlpha_}) {
+        each->setMinimumWidth(captionWidth);
+    }
+    const int valueWidth = metrics.horizontalAdvance(QStringLiteral("#DDDDDD"));
+    const int clearWidth =
+        roomAcross + std::max(border_.clear->sizeHint().width(), fill_.clear->sizeHint().width());
+    for (const Row* row : {&border_, &fill_}) {
+        row->value->setMinimumWidth(valueWidth);
+        row->clear->setMinimumWidth(clearWidth);
+    }
+}
+
+void SharedFrame::ask(Swatch& swatch) {
+    if (const auto color = askColor(prompts_, *this, swatch.color)) {
+        chooseColor(swatch, *color);
+        refresh();
+    }
+}
+
+void SharedFrame::refresh() {
+    border_.show(values_.lColor);
+    fill_.show(values_.fColor);
+    const QString alpha = qtText(values_.txtAlpha);
+    if (txtAlpha_->text() != alpha) {
+        txtAlpha_->setText(alpha);
+    }
+}
+
+void SharedFrame::refresh(const PanelLayout& layout) {
+    if (layout.borderColor) {
+        border_.caption->setText(qtText(layout.lblBorderColor));
+        border_.well->setAccessibleName(layout.kindFlag == ElementKind::Line ? tr("Line color")
+                                                                             : tr("Border color"));
+    }
+    if (layout.fillColor) {
+        fill_.caption->setText(qtText(layout.lblFillColor));
+        fill_.well->setAccessibleName(layout.kindFlag == ElementKind::Text ? tr("Font color")
+                                                                           : tr("Fill color"));
+    }
+    border_.setVisible(layout.borderColor);
+    fill_.setVisible(layout.fillColor);
+    fill_.clear->setVisible(layout.cmdClearF);
+    lblAlpha_->setVisible(layout.alpha);
+    txtAlpha_->setVisible(layout.alpha);
+    fraBox_->setVisible(layout.fraBox);
+    refresh();
+}
+
+void SharedFrame::Row::setVisible(bool visible) const {
+    caption->setVisible(visible);
+    well->setVisible(visible);
+    value->setVisible(visible);
+    clear->setVisible(visible);
+}
+
+void SharedFrame::Row::show(const Swatch& swatch) const {
+    well->setSwatch(swatch);
+    value->setText(well->valueText());
+    value->setToolTip(well->toolTip());
+}
+
+} // namespace tarvel

@@ -1,0 +1,70 @@
+// Drawing of new elements.
+#include "surface/draw_tools.h"
+
+#include "editing/new_element.h"
+
+namespace tarvel {
+
+namespace {
+
+// The new element is the last row, and selected from the start: its place shows in the fields.
+int makeSelected(ToolHost& host, ElementKind kind, SkinPoint press) {
+    SkinDocument& document = host.document();
+    const int id = makeNewElement(document, kind, host.panelValues(), press);
+    host.selectRow(document.rowCount(document.currentLayout()) - 1);
+    return id;
+}
+
+} // namespace
+
+DrawTool::DrawTool(ToolHost& host, ElementKind kind, SkinPoint press)
+    : host_(host)
+    , drag_(makeSelected(host, kind, press), press) {}
+
+void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
+    drag_.moveTo(host_.document(), point);
+}
+
+void DrawTool::release(SkinPoint point) {
+    drag_.finish(host_.document(), point, naturalSize());
+    host_.drawingEnded();
+}
+
+void DrawTool::cancel() {
+    host_.selectRow(-1);
+    drag_.takeBack(host_.document());
+    host_.drawingEnded();
+}
+
+std::optional<SkinSize> DrawImageTool::naturalSize() const {
+    return host().naturalSize(ElementKind::Image);
+}
+
+std::optional<SkinSize> DrawTextTool::naturalSize() const {
+    return host().naturalSize(ElementKind::Text);
+}
+
+std::unique_ptr<DrawTool> startDrawing(ToolHost& host, ElementKind kind, SkinPoint press) {
+    switch (kind) {
+    case ElementKind::Box:
+        return std::make_unique<DrawBoxTool>(host, press);
+    case ElementKind::Line:
+        return std::make_unique<DrawLineTool>(host, press);
+    case ElementKind::Image:
+        return std::make_unique<DrawImageTool>(host, press);
+    case ElementKind::Text:
+        return std::make_unique<DrawTextTool>(host, press);
+    case ElementKind::Menu:
+        break;
+    }
+    return std::make_unique<DrawMenuTool>(host, press);
+}
+
+void placeInTheMiddle(ToolHost& host, ElementKind kind) {
+    const Place place = middlePlace(kind, host.naturalSize(kind));
+    const int id = makeSelected(host, kind, {place[0], place[1]});
+    placeElement(host.document(), id, place);
+    host.drawingEnded();
+}
+
+} // namespace tarvel

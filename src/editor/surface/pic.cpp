@@ -1,0 +1,235 @@
+// Painting and repainting of the drawing surface.
+#include "surface/pic.h"
+
+#include "surface/picture_cache.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvel {
+
+namespace {
+
+// More separate rectangles than this are painted as their common one.
+constexpr int largestCount = 8;
+// So are those that fill at least one part in so many of it: what lies between them costs less
+// than another pass over all elements.
+constexpr int fewestParts = 2;
+
+bool lieTogether(const QRegion& region) {
+    const auto area = [](const QRect& rect) { return rect.width() * rect.height(); };
+    int covered = 0;
+    for (const QRect& part : region) {
+        covered += area(part);
+    }
+    return covered * fewestParts >= area(region.boundingRect());
+}
+
+QWidget* makePicBox(QWidget* parent) {
+    auto* box = new QWidget(parent);
+    box->setObjectName("picBox");
+    // A press on it is one on the surface. Hidden under the pointer, it would swallow the rest of
+    // the drag, and the release.
+    box->setAttribute(Qt::WA_TransparentForMouseEvents);
+    box->setAccessibleName(QWidget::tr("Cover of the drawing surface"));
+    box->setGeometry(parent->rect());
+    box->setAutoFillBackground(true);
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::black);
+    box->setPalette(palette);
+    box->hide();
+    return box;
+}
+
+} // namespace
+
+Pic::Pic(PictureCache& pictures, QWidget* parent)
+    : QWidget(parent)
+    , pictures_(pictures)
+    , painter_(pictures) {
+    setObjectName("Pic");
+    setAccessibleName(tr("Drawing surface"));
+    setFixedSize(skinWidth, skinHeight);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    picBox_ = makePicBox(this);
+    painter_.setVideoFrames(&videos_);
+    connect(&videos_, &VideoStage::frameChanged, this,
+            [this](int elementId) { repaintRect(damage_.placeOf(elementId)); });
+    connect(&videos_, &VideoStage::placeFreed, this, &Pic::catchUpLater);
+}
+
+Pic::~Pic() = default;
+
+void Pic::setDocument(const SkinDocument* document) {
+    document_ = document;
+    documentChanged({DocumentChange::What::everything});
+}
+
+void Pic::documentChanged(const DocumentChange& change) {
+    using What = DocumentChange::What;
+    const bool shown = document_ != nullptr && change.screen == document_->currentLayout();
+    switch (change.what) {
+    case What::everything:
+    case What::currentLayout:
+        // The same screen chosen again counts as shown anew, too.
+        videos_.showAnew();
+        update();
+        catchUpLater();
+        break;
+    case What::settings:
+        settingsChanged();
+        break;
+    case What::rows:
+        // Of other screens too: their elements may have had videos.
+        catchUpLater();
+        break;
+    case What::element:
+        if (shown) {
+            elementChanged(change.elementId);
+        }
+        break;
+    case What::rowText:
+    case What::counts:
+        break;
+    }
+}
+
+void Pic::setFlatGround(QImage ground, int firstRow) {
+    flatGround_ = std::move(ground);
+    firstRow_ = firstRow;
+    update();
+}
+
+void Pic::clearFlatGround() {
+    setFlatGround({}, 0);
+}
+
+QImage Pic::flatPicture(int endRow) {
+    QImage image(size() * devicePixelRatioF(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(Qt::black);
+    if (document_ != nullptr) {
+        SurfaceView flat = view();
+        flat.endRow = endRow;
+        QPainter painter(&image);
+        painter_.paint(painter, *document_, document_->currentLayout(), rect(), flat);
+    }
+    return image;
+}
+
+void Pic::stopAllVids() {
+    if (document_ != nullptr) {
+        videos_.stopAllVids(*document_);
+    }
+}
+
+QRectF Pic::elementBounds(const Element& element) {
+    return tarvel::elementBounds(element);
+}
+
+QSize Pic::sizeHint() const {
+    return {skinWidth, skinHeight};
+}
+
+void Pic::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    if (document_ == nullptr) {
+        painter.fillRect(event->rect(), Qt::black);
+        return;
+    }
+    // Pictures appear as they are decoded, so that a skin of hundreds shows at once.
+    constexpr int budgetMs = 20;
+    pictures_.beginSlice(budgetMs);
+    paintRegion(painter, event->region());
+    if (pictures_.endSlice()) {
+        QMetaObject::invokeMethod(this, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+    }
+}
+
+void Pic::paintRegion(QPainter& painter, const QRegion& region) {
+    const int screen = document_->currentLayout();
+    if (region.rectCount() > largestCount || lieTogether(region)) {
+        painter_.paint(painter, *document_, screen, region.boundingRect(), view());
+        return;
+    }
+    for (const QRect& part : region) {
+        painter_.paint(painter, *document_, screen, part, view());
+    }
+}
+
+void Pic::mouseMoveEvent(QMouseEvent* event) {
+    emit pointerMoved(event->position());
+    QWidget::mouseMoveEvent(event);
+}
+
+void Pic::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    catchUpLater();
+}
+
+void Pic::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    catchUpLater();
+}
+
+void Pic::elementChanged(int elementId) {
+    repaintDamage(damage_.elementChanged(*document_, elementId));
+    if (document_->element(elementId).elementKind == ElementKind::Image) {
+        catchUpLater();
+    }
+}
+
+void Pic::settingsChanged() {
+    const Background background =
+        document_ == nullptr ? Background() : document_->settings().background;
+    if (background != background_) {
+        background_ = background;
+        update();
+    }
+}
+
+void Pic::repaintDamage(const Damage& damage) {
+    if (damage.whole) {
+        update();
+    }
+    for (const QRectF& place : damage.rects) {
+        repaintRect(place);
+    }
+}
+
+void Pic::repaintRect(const QRectF& rect) {
+    const QRectF visible = rect & QRectF(0, 0, skinWidth, skinHeight);
+    if (!visible.isEmpty()) {
+        update(visible.toAlignedRect());
+    }
+}
+
+// Changes of rows come in runs, as when a skin is loaded; looking at all rows once after the run
+// keeps the cost of each small.
+void Pic::catchUpLater() {
+    if (!std::exchange(catchingUp_, true)) {
+        QMetaObject::invokeMethod(this, &Pic::catchUp, Qt::QueuedConnection);
+    }
+}
+
+void Pic::catchUp() {
+    catchingUp_ = false;
+    settingsChanged();
+    static const SkinDocument nothing;
+    const SkinDocument& document = document_ == nullptr ? nothing : *document_;
+    const int screen = document.currentLayout();
+    repaintDamage(damage_.rowsChanged(document, screen));
+    videos_.show(document, isVisible() ? screen : VideoStage::noScreen);
+}
+
+SurfaceView Pic::view() const {
+    return {.firstRow = firstRow_, .ground = flatGround_.isNull() ? nullptr : &flatGround_};
+}
+
+} // namespace tarvel

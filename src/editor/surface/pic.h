@@ -1,0 +1,88 @@
+// The drawing surface: shows the current screen of a document at its size of 640 by 480.
+#pragma once
+
+#include "document/skin_document.h"
+#include "surface/surface_damage.h"
+#include "surface/surface_painter.h"
+#include "surface/video_stage.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <string>
+
+namespace tarvel {
+
+class PictureCache;
+
+/// One widget pixel is one skin pixel; on finer displays everything is drawn at their resolution.
+/// Paints from the document each time and keeps no skin data besides where things were last seen.
+class Pic : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// The cache is not owned and outlives the surface.
+    explicit Pic(PictureCache& pictures, QWidget* parent = nullptr);
+    ~Pic() override;
+
+    /// Not owned, and outlives the surface or its next setDocument(); nullptr shows black.
+    void setDocument(const SkinDocument* document);
+
+    /// To be told of every change of the document, after it. Repaints no more than what changed.
+    void documentChanged(const DocumentChange& change);
+
+    /// Shows `ground` stretched over the screen in place of the background picture, and only the
+    /// rows from `firstRow` on.
+    void setFlatGround(QImage ground, int firstRow);
+    /// Back to all rows on the background picture.
+    void clearFlatGround();
+
+    /// The screen as it is shown, in the pixels of the display: on the background picture or the
+    /// flat ground, with the rows before `endRow`.
+    [[nodiscard]] QImage flatPicture(int endRow);
+
+    /// Stops the videos of the current screen.
+    void stopAllVids();
+    [[nodiscard]] const VideoStage& videos() const { return videos_; }
+
+    /// The cover of the whole surface, "picBox"; hidden unless something covers the surface.
+    [[nodiscard]] QWidget& picBox() { return *picBox_; }
+
+    /// Everything the element may cover, in skin pixels; empty when it shows nothing.
+    [[nodiscard]] static QRectF elementBounds(const Element& element);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+  signals:
+    /// The pointer is at a point, in skin pixels.
+    void pointerMoved(QPointF point);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+  private:
+    void elementChanged(int elementId);
+    void settingsChanged();
+    void repaintDamage(const Damage& damage);
+    void repaintRect(const QRectF& rect);
+    void catchUpLater();
+    void catchUp();
+    [[nodiscard]] SurfaceView view() const;
+    void paintRegion(QPainter& painter, const QRegion& region);
+
+    PictureCache& pictures_;
+    const SkinDocument* document_ = nullptr;
+    VideoStage videos_;
+    SurfacePainter painter_;
+    SurfaceDamage damage_;
+    Background background_;
+    QImage flatGround_;
+    int firstRow_ = 0;
+    QWidget* picBox_;
+    bool catchingUp_ = false;
+};
+
+} // namespace tarvel

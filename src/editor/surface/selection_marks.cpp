@@ -1,0 +1,156 @@
+// Painting and placing of the selection marks.
+#include "surface/selection_marks.h"
+
+#include "editing/hit_test.h"
+#include "surface/surface_geometry.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include <array>
+#include <cmath>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int handleSide = 7; // pixels, odd: a handle has a middle
+constexpr int margin = handleSide / 2;
+const QColor markColor(0, 140, 255);
+
+void paintHandle(QPainter& painter, const QRectF& rect) {
+    painter.fillRect(rect, markColor);
+    painter.fillRect(rect.adjusted(1, 1, -1, -1), Qt::white);
+}
+
+// The outline of an element with its handles; a mark may reach over the edge of its element.
+class SelectionBox : public QWidget {
+  public:
+    using QWidget::QWidget;
+
+    void show(const Element& element) {
+        const ElementControl& control = element.elementControl;
+        // Places may be as far out as numbers go, windows may not.
+        const QRect near =
+            nearSurface(QRectF(control.left, control.top, std::max(control.width, 0.0F),
+                               std::max(control.height, 0.0F)))
+                .toAlignedRect();
+        element_ = element;
+        setGeometry(near.adjusted(-margin, -margin, margin, margin));
+        update();
+        raise();
+        setVisible(true);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        const QRectF outline = QRectF(rect()).adjusted(margin, margin, -margin - 1, -margin - 1);
+        // Two colours, so that the outline shows on any ground.
+        painter.setPen(QPen(Qt::black, 1));
+        painter.drawRect(outline);
+        painter.setPen(
+            QPen(element_.elementLocked ? QColor(Qt::gray) : markColor, 1, Qt::DashLine));
+        painter.drawRect(outline);
+        constexpr std::array handles = {Handle::topLeft,    Handle::top,         Handle::topRight,
+                                        Handle::right,      Handle::bottomRight, Handle::bottom,
+                                        Handle::bottomLeft, Handle::left};
+        for (const Handle handle : handles) {
+            if (hasHandle(element_, handle)) {
+                const HandleEdges edges = edgesOf(handle);
+                const QPointF centre(outline.left() + (edges.x + 1) * outline.width() / 2,
+                                     outline.top() + (edges.y + 1) * outline.height() / 2);
+                const QPointF corner(std::round(centre.x()) - margin,
+                                     std::round(centre.y()) - margin);
+                paintHandle(painter, QRectF(corner, QSizeF(handleSide, handleSide)));
+            }
+        }
+    }
+
+  private:
+    Element element_;
+};
+
+class LineEndMark : public QWidget {
+  public:
+    LineEndMark(QWidget* parent, int number)
+        : QWidget(parent) {
+        setObjectName(QStringLiteral("fraResize%1").arg(number));
+        auto* label = new QLabel(this);
+        label->setObjectName(QStringLiteral("lblResize%1").arg(number));
+        label->setGeometry(0, 0, handleSide + 2, handleSide + 2);
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        resize(handleSide + 2, handleSide + 2);
+    }
+
+    void showAt(SkinPoint point) {
+        const QPointF centre(point.x, point.y);
+        if (nearSurface(QRectF(centre, QSizeF())).topLeft() != centre) {
+            setVisible(false); // too far out to be seen
+            return;
+        }
+        move(static_cast<int>(std::lround(point.x)) - width() / 2,
+             static_cast<int>(std::lround(point.y)) - height() / 2);
+        raise();
+        setVisible(true);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        paintHandle(painter, rect());
+    }
+};
+
+template <class Mark> Mark* prepared(Mark* mark) {
+    mark->setAttribute(Qt::WA_TransparentForMouseEvents);
+    mark->setVisible(false);
+    return mark;
+}
+
+} // namespace
+
+SelectionMarks::SelectionMarks(QWidget& surface)
+    : QObject(&surface)
+    , fraSel_(prepared(new SelectionBox(&surface)))
+    , fraResize1_(prepared(new LineEndMark(&surface, 1)))
+    , fraResize2_(prepared(new LineEndMark(&surface, 2))) {
+    fraSel_->setObjectName(QStringLiteral("fraSel"));
+}
+
+void SelectionMarks::setSel(const Element& element) {
+    fraResize1_->setVisible(false);
+    fraResize2_->setVisible(false);
+    static_cast<SelectionBox*>(fraSel_)->show(element);
+}
+
+void SelectionMarks::setSelLine(const Element& element) {
+    hideSels();
+    if (element.elementLocked) {
+        return; // its ends cannot be dragged
+    }
+    static_cast<LineEndMark*>(fraResize1_)
+        ->showAt(handleCentre(element.elementControl, Handle::firstEnd));
+    static_cast<LineEndMark*>(fraResize2_)
+        ->showAt(handleCentre(element.elementControl, Handle::secondEnd));
+}
+
+void SelectionMarks::setCurrentSel(const Element& element) {
+    if (element.elementKind == ElementKind::Line) {
+        setSelLine(element);
+    } else {
+        setSel(element);
+    }
+}
+
+void SelectionMarks::hideSels() {
+    fraSel_->setVisible(false);
+    fraResize1_->setVisible(false);
+    fraResize2_->setVisible(false);
+}
+
+bool SelectionMarks::isBoxShown() const {
+    return fraSel_->isVisibleTo(fraSel_->parentWidget());
+}
+
+} // namespace tarvel

@@ -1,0 +1,314 @@
+// Presses, moves, releases and keys of the surface.
+#include "surface/surface_controller.h"
+
+#include "surface/draw_tools.h"
+#include "surface/edit_tools.h"
+#include "surface/selection_marks.h"
+#include "widgets/shown_path.h"
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QWidget>
+
+#include <cmath>
+#include <utility>
+
+namespace tarvel {
+
+namespace {
+
+// The skin pixel under the pointer: on finer displays the pointer stands between them, too.
+SkinPoint pointOf(const QMouseEvent& event) {
+    return {static_cast<float>(std::floor(event.position().x())),
+            static_cast<float>(std::floor(event.position().y()))};
+}
+
+int modifiersOf(const QKeyEvent& event) {
+    const auto held = [&](Qt::KeyboardModifier key, int bit) {
+        return event.modifiers().testFlag(key) ? bit : 0;
+    };
+    return held(Qt::ShiftModifier, shiftModifier) + held(Qt::ControlModifier, ctrlModifier) +
+           held(Qt::AltModifier, altModifier);
+}
+
+Qt::CursorShape pointerOf(Handle handle) {
+    switch (handle) {
+    case Handle::topLeft:
+    case Handle::bottomRight:
+        return Qt::SizeFDiagCursor;
+    case Handle::topRight:
+    case Handle::bottomLeft:
+        return Qt::SizeBDiagCursor;
+    case Handle::top:
+    case Handle::bottom:
+        return Qt::SizeVerCursor;
+    case Handle::left:
+    case Handle::right:
+        return Qt::SizeHorCursor;
+    case Handle::firstEnd:
+    case Handle::secondEnd:
+        return Qt::SizeAllCursor;
+    case Handle::none:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+} // namespace
+
+SurfaceController::SurfaceController(QWidget& surface, ToolHost& host, SelectionMarks& marks)
+    : surface_(surface)
+    , host_(host)
+    , marks_(marks) {
+    surface_.installEventFilter(this);
+    surface_.setAcceptDrops(true);
+}
+
+SurfaceController::~SurfaceController() = default;
+
+void SurfaceController::setTool(std::optional<ElementKind> kind) {
+    kind_ = kind;
+    surface_.setCursor(kind_ ? Qt::CrossCursor : Qt::ArrowCursor);
+    showPointerLater();
+}
+
+void SurfaceController::documentChanged(const DocumentChange& change) {
+    if (change.what == DocumentChange::What::everything ||
+        change.what == DocumentChange::What::currentLayout) {
+        work_.reset(); // what it worked on is not shown any more
+    }
+    picks_.documentChanged(change);
+    showPointerLater();
+}
+
+void SurfaceController::cancelWork() {
+    if (const auto work = std::move(work_)) {
+        work->cancel();
+    }
+}
+
+bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::EnabledChange) {
+        showPointerLater();
+    }
+    if (!surface_.isEnabled()) { // filters see the events of disabled widgets, too
+        return QObject::eventFilter(watched, event);
+    }
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        press(*static_cast<QMouseEvent*>(event));
+        return true;
+    case QEvent::Leave:
+        hover_.reset();
+        return false;
+    case QEvent::MouseMove:
+        move(*static_cast<QMouseEvent*>(event));
+        return false; // the readout follows it, too
+    case QEvent::MouseButtonRelease:
+        release(*static_cast<QMouseEvent*>(event));
+        return true;
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        drop(*static_cast<QDropEvent*>(event));
+        return true;
+    case QEvent::KeyPress:
+        return key(*static_cast<QKeyEvent*>(event));
+    case QEvent::ContextMenu:
+        return contextMenu(*static_cast<QContextMenuEvent*>(event));
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+void SurfaceController::press(const QMouseEvent& event) {
+    if (work_ != nullptr) {
+        if (event.button() != Qt::LeftButton) {
+            return; // another button while one is held
+        }
+        cancelWork(); // its release went elsewhere
+    }
+    surface_.setFocus(Qt::MouseFocusReason);
+    emit pressed();
+    if (event.button() == Qt::LeftButton) {
+        pressLeft(pointOf(event));
+    } else if (event.button() == Qt::RightButton) {
+        pick(pointOf(event));
+        emit menuWanted(event.globalPosition().toPoint(), host_.curNum() != 0);
+    }
+}
+
+void SurfaceController::pressLeft(SkinPoint point) {
+    if (kind_) {
+        draw(*kind_, point);
+        return;
+    }
+    const int selected = host_.curNum();
+    const Handle handle = handleAt(host_.document().element(selected), point);
+    if (selected != 0 && handle != Handle::none) {
+        if (edgesOf(handle).x == 0 && edgesOf(handle).y == 0) {
+            work_ = std::make_unique<LineEndTool>(host_, handle, point);
+        } else {
+            work_ = std::make_unique<ResizeTool>(host_, handle, point);
+        }
+        return;
+    }
+    pick(point);
+    if (const int id = host_.curNum(); id != 0) {
+        // A line is held by the end that was pressed.
+        const Handle end = handleAt(host_.document().element(id), point);
+        if (end == Handle::firstEnd || end == Handle::secondEnd) {
+            work_ = std::make_unique<LineEndTool>(host_, end, point);
+        } else {
+            work_ = std::make_unique<MoveTool>(host_, point);
+        }
+    }
+}
+
+void SurfaceController::draw(ElementKind kind, SkinPoint press) {
+    host_.selectRow(-1);
+    if (!refused(kind)) {
+        const QScopedValueRollback making(making_, true);
+        work_ = startDrawing(host_, kind, press);
+    }
+}
+
+void SurfaceController::pick(SkinPoint point) {
+    const int row = picks_.rowAt(host_.document(), point);
+    host_.selectRow(-1);
+    host_.selectRow(row);
+}
+
+// Of the menu key: the pointer asks for its menu with the press.
+bool SurfaceController::contextMenu(const QContextMenuEvent& event) {
+    if (event.reason() == QContextMenuEvent::Keyboard && work_ == nullptr) {
+        emit menuWanted(event.globalPos(), host_.curNum() != 0);
+    }
+    return true;
+}
+
+bool SurfaceController::refused(ElementKind kind) {
+    bool refuse = false;
+    emit aboutToDraw(kind, refuse);
+    return refuse;
+}
+
+void SurfaceController::move(const QMouseEvent& event) {
+    const SkinPoint point = pointOf(event);
+    hover_ = point;
+    if (work_ != nullptr && event.buttons().testFlag(Qt::LeftButton)) {
+        work_->move(point, event.modifiers().testFlag(Qt::ShiftModifier));
+    } else if (event.buttons() == Qt::NoButton) {
+        showPointer();
+    }
+}
+
+void SurfaceController::release(const QMouseEvent& event) {
+    if (event.button() == Qt::LeftButton) {
+        if (const auto work = std::move(work_)) {
+            work->release(pointOf(event));
+        }
+    }
+}
+
+void SurfaceController::drop(QDropEvent& event) {
+    const QStringList files = draggedFiles(*event.mimeData());
+    if (files.isEmpty()) {
+        return;
+    }
+    event.setDropAction(Qt::CopyAction); // a source that proposes a move would delete its file
+    event.accept();
+    if (event.type() == QEvent::Drop) {
+        // The drag is over before the dialog opens, or its source would wait for the dialog.
+        QMetaObject::invokeMethod(
+            this, [this, file = files.front()] { emit fileDropped(file); }, Qt::QueuedConnection);
+    }
+}
+
+bool SurfaceController::key(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Escape:
+        if (work_ != nullptr) {
+            cancelWork();
+        } else {
+            emit toolGivenUp();
+        }
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!kind_ || work_ != nullptr) {
+            return false;
+        }
+        host_.selectRow(-1);
+        if (!refused(*kind_)) {
+            const QScopedValueRollback making(making_, true);
+            placeInTheMiddle(host_, *kind_);
+        }
+        return true;
+    default:
+        return arrowKey(event);
+    }
+}
+
+bool SurfaceController::arrowKey(const QKeyEvent& event) {
+    std::optional<ArrowKey> arrow;
+    switch (event.key()) {
+    case Qt::Key_Left:
+        arrow = ArrowKey::Left;
+        break;
+    case Qt::Key_Up:
+        arrow = ArrowKey::Up;
+        break;
+    case Qt::Key_Right:
+        arrow = ArrowKey::Right;
+        break;
+    case Qt::Key_Down:
+        arrow = ArrowKey::Down;
+        break;
+    default:
+        return false;
+    }
+    if (marks_.isBoxShown() && work_ == nullptr) {
+        moveByKey(host_.document(), host_.curNum(), *arrow, modifiersOf(event));
+    }
+    return true; // arrows never lead the focus away from the surface
+}
+
+// Once after a run of changes. What is under the pointer may have changed without its moving.
+void SurfaceController::showPointerLater() {
+    if (hover_ && !std::exchange(pointerIsStale_, true)) {
+        QMetaObject::invokeMethod(this, &SurfaceController::showPointer, Qt::QueuedConnection);
+    }
+}
+
+void SurfaceController::showPointer() {
+    pointerIsStale_ = false;
+    if (!hover_ || work_ != nullptr) {
+        return;
+    }
+    const Qt::CursorShape shape = surface_.isEnabled() ? pointerAt(*hover_) : Qt::ArrowCursor;
+    if (surface_.cursor().shape() != shape) {
+        surface_.setCursor(shape);
+    }
+}
+
+Qt::CursorShape SurfaceController::pointerAt(SkinPoint point) {
+    if (kind_) {
+        return Qt::CrossCursor;
+    }
+    const SkinDocument& document = host_.document();
+    if (const int selected = host_.curNum(); selected != 0) {
+        const Handle handle = handleAt(document.element(selected), point);
+        if (handle != Handle::none) {
+            return pointerOf(handle);
+        }
+    }
+    const int row = picks_.rowAt(document, point);
+    return row < 0 ? Qt::ArrowCursor : Qt::SizeAllCursor;
+}
+
+} // namespace tarvel

@@ -1,0 +1,85 @@
+// Turns the pointer's and the keyboard's events on the drawing surface into work on the document.
+#pragma once
+
+#include "editing/hit_test.h"
+#include "editing/pick_index.h"
+#include "surface/canvas_tool.h"
+
+#include <QObject>
+#include <QPoint>
+
+#include <memory>
+#include <optional>
+
+class QContextMenuEvent;
+class QDropEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QWidget;
+
+namespace tarvel {
+
+class SelectionMarks;
+
+/// Watches the surface's events. Surface, host and marks are not owned and outlive it.
+class SurfaceController : public QObject {
+    Q_OBJECT
+
+  public:
+    SurfaceController(QWidget& surface, ToolHost& host, SelectionMarks& marks);
+    ~SurfaceController() override;
+
+    /// The kind that the next press draws; nothing lets presses pick.
+    void setTool(std::optional<ElementKind> kind);
+    /// To be told of every change of the document.
+    void documentChanged(const DocumentChange& change);
+    /// Whether the pointer is drawing or dragging.
+    [[nodiscard]] bool isWorking() const { return work_ != nullptr; }
+    /// Whether an element is just being made and selected.
+    [[nodiscard]] bool isMaking() const { return making_; }
+    /// Takes back what the pointer is doing.
+    void cancelWork();
+
+  signals:
+    /// A button went down: previews are to stop.
+    void pressed();
+    /// A tool's kind is about to be drawn. Answer with `refuse` set to keep it from being made.
+    void aboutToDraw(tarvel::ElementKind kind, bool& refuse);
+    /// The right button asks for a menu, or the menu key; `onElement` when one is selected.
+    void menuWanted(QPoint globalPosition, bool onElement);
+    /// Escape, with nothing going on.
+    void toolGivenUp();
+    /// A file of the host was dropped onto the surface.
+    void fileDropped(const QString& file);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void press(const QMouseEvent& event);
+    void pressLeft(SkinPoint point);
+    void pick(SkinPoint point);
+    void move(const QMouseEvent& event);
+    void release(const QMouseEvent& event);
+    void drop(QDropEvent& event);
+    bool contextMenu(const QContextMenuEvent& event);
+    bool key(const QKeyEvent& event);
+    bool arrowKey(const QKeyEvent& event);
+    void showPointer();
+    void showPointerLater();
+    void draw(ElementKind kind, SkinPoint press);
+    [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point);
+    [[nodiscard]] bool refused(ElementKind kind);
+
+    QWidget& surface_;
+    ToolHost& host_;
+    SelectionMarks& marks_;
+    PickIndex picks_;
+    std::optional<ElementKind> kind_;
+    std::unique_ptr<CanvasTool> work_;
+    bool making_ = false;
+    std::optional<SkinPoint> hover_; // where the pointer stands, while it is over the surface
+    bool pointerIsStale_ = false;
+};
+
+} // namespace tarvel

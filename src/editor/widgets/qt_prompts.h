@@ -1,0 +1,26 @@
+// Prompts by Qt's own dialogs.
+#pragma once
+
+#include "widgets/prompts.h"
+
+namespace tarvel {
+
+/// Folder and file choosers start where the last one ended, within a run.
+class QtPrompts : public Prompts {
+  public:
+    void message(QWidget* owner, const QString& text) override;
+    Answer question(QWidget* owner, const QString& text) override;
+    QString input(QWidget* owner, const QString& prompt) override;
+    QString folder(QWidget* owner, const QString& title) override;
+    QStringList files(QWidget* owner, const QString& filter, bool several) override;
+    std::optional<QColor> color(QWidget* owner, const QColor& initial) override;
+    std::optional<QFont> font(QWidget* owner, const QFont& initial) override;
+
+  private:
+    QString lastFolder_;
+};
+
+/// The filter "JPG|*.jpg|BMP|*.bmp" in Qt's form, "JPG (*.jpg);;BMP (*.bmp)".
+[[nodiscard]] QString qtFilter(const QString& filter);
+
+} // namespace tarvel

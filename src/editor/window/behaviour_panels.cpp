@@ -1,0 +1,87 @@
+// Opening, placing and closing of the behaviour panels.
+#include "window/behaviour_panels.h"
+
+#include "panels/condition_panel.h"
+#include "panels/modifier_panel.h"
+#include "panels/timer_panel.h"
+#include "window/window_gate.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace tarvel {
+
+BehaviourPanels::BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate,
+                                 Room room, const std::filesystem::path& programFolder)
+    : QObject(&room.side)
+    , gate_(gate)
+    , room_(room) {
+    QWidget* parent = room.side.parentWidget();
+    panels_ = {new ModifierPanel(document, prompts, programFolder, parent),
+               new TimerPanel(document, parent), new ConditionPanel(document, parent)};
+    for (BehaviourPanel* panel : panels_) {
+        connect(panel, &BehaviourPanel::closed, this, &BehaviourPanels::panelClosed);
+    }
+    room.side.installEventFilter(this);
+}
+
+void BehaviourPanels::cmdModifier_Click(int index, int elementId) {
+    if (elementId == 0 || isOpen()) {
+        return;
+    }
+    BehaviourPanel& panel = *panels_.at(static_cast<std::size_t>(index));
+    focusBefore_ = room_.side.window()->focusWidget();
+    gate_.disablex(panel);
+    place(panel);
+    panel.open(elementId);
+    place(panel); // what it shows may need more room
+    panel.raise();
+}
+
+bool BehaviourPanels::isOpen() const {
+    return std::any_of(panels_.begin(), panels_.end(),
+                       [](const BehaviourPanel* panel) { return !panel->isHidden(); });
+}
+
+void BehaviourPanels::ok() {
+    for (BehaviourPanel* panel : panels_) {
+        if (!panel->isHidden()) {
+            panel->ok();
+        }
+    }
+}
+
+void BehaviourPanels::place(BehaviourPanel& panel) {
+    constexpr int gap = 6;
+    const QRect side = room_.side.geometry();
+    const auto topOf = [&](const QWidget& widget) {
+        return widget.mapTo(room_.side.parentWidget(), QPoint(0, 0)).y();
+    };
+    const int bottom = topOf(room_.floor) - gap;
+    // A panel that needs more than its room reaches over what is beside it.
+    const QSize size = panel.sizeHint().expandedTo({side.width(), bottom - topOf(room_.roof)});
+    panel.setGeometry(side.right() + 1 - size.width(), std::max(0, bottom - size.height()),
+                      size.width(), size.height());
+}
+
+void BehaviourPanels::panelClosed() {
+    gate_.enableAll();
+    if (focusBefore_) {
+        focusBefore_->setFocus(Qt::OtherFocusReason);
+    }
+    emit closed();
+}
+
+bool BehaviourPanels::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Move) {
+        for (BehaviourPanel* panel : panels_) {
+            if (!panel->isHidden()) {
+                place(*panel);
+            }
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tarvel

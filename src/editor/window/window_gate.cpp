@@ -1,0 +1,58 @@
+// disablex and enableAll.
+#include "window/window_gate.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QWidget>
+
+namespace tarvel {
+
+namespace {
+
+constexpr auto alwaysUsable = "cmdStop";
+
+bool holdsUsable(const QWidget& widget) {
+    return widget.objectName() == QLatin1String(alwaysUsable) ||
+           widget.findChild<QWidget*>(QLatin1String(alwaysUsable)) != nullptr;
+}
+
+} // namespace
+
+WindowGate::WindowGate(QMainWindow& window)
+    : QObject(&window)
+    , window_(window) {}
+
+void WindowGate::disablex(const QWidget& control) {
+    enableAll();
+    closed_ = true;
+    for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
+        const bool related =
+            widget == &control || control.isAncestorOf(widget) || widget->isAncestorOf(&control);
+        // Those that were disabled for a reason of their own stay so afterwards.
+        if (!related && !holdsUsable(*widget) && widget->isEnabled()) {
+            disabled_.emplace_back(widget);
+        }
+    }
+    for (const auto& widget : disabled_) {
+        widget->setEnabled(false);
+    }
+    for (QAction* menu : window_.menuBar()->actions()) {
+        menu->setEnabled(false);
+    }
+}
+
+void WindowGate::enableAll() {
+    closed_ = false;
+    for (const auto& widget : disabled_) {
+        if (widget) {
+            widget->setEnabled(true);
+        }
+    }
+    disabled_.clear();
+    for (QAction* menu : window_.menuBar()->actions()) {
+        menu->setEnabled(true);
+    }
+}
+
+} // namespace tarvel

@@ -1,0 +1,52 @@
+// Names of information fields.
+#include "editing/information_rules.h"
+
+#include <gtest/gtest.h>
+
+namespace tarvel {
+namespace {
+
+TEST(FieldName, TurnsEveryBlankIntoAnUnderscoreAndLeavesOutWhatNoTagCanHold) {
+    struct Case {
+        std::string_view answer;
+        std::string_view name;
+    };
+    constexpr Case cases[] = {
+        {"Skin Web Page", "Skin_Web_Page"},
+        {"Homepage", "Homepage"},
+        {" both  ends ", "_both__ends_"},
+        {"R&D", "R&D"},
+        {"a/b\"c", "a/b\"c"},
+        {"<b>Size</b>", "bSize/b"},
+        {"<>", ""},
+        {"", ""},
+        {" ", "_"},
+        {"Gr\xC3\xB6\xC3\x9F"
+         "e",
+         "Gr\xC3\xB6\xC3\x9F"
+         "e"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(fieldName(c.answer), c.name) << c.answer;
+    }
+}
+
+TEST(AddField, AppendsAnEmptyField) {
+    SkinSettings settings;
+    EXPECT_TRUE(addField(settings, "Skin Web Page"));
+    EXPECT_TRUE(addField(settings, "Author")); // names may be there twice
+    const std::vector<InformationField> expected = {
+        {"Author", ""}, {"Version", ""}, {"Copyright", ""}, {"Skin_Web_Page", ""}, {"Author", ""}};
+    EXPECT_EQ(settings.information, expected);
+}
+
+TEST(AddField, AddsNothingWithoutAName) {
+    for (const std::string_view answer : {"", "<>", "><<"}) {
+        SkinSettings settings;
+        EXPECT_FALSE(addField(settings, answer));
+        EXPECT_EQ(settings, SkinSettings{}) << answer;
+    }
+}
+
+} // namespace
+} // namespace tarvel

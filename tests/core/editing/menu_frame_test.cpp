@@ -1,0 +1,229 @@
+// The item menu's settings in the frame and back.
+#include "editing/menu_frame.h"
+#include "editing/panel_texts.h"
+#include "support/document_support.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tarvel {
+namespace {
+
+TEST(MenuFrame, StartsWithTheSettingsOfANewMenu) {
+    MenuFrame frame;
+    EXPECT_EQ(frame.txtNumItems, "5");
+    EXPECT_EQ(frame.txtScrollFactor, "3");
+    showMenuSettings(MenuSettings{}, frame);
+    EXPECT_EQ(frame, MenuFrame{});
+}
+
+TEST(MenuFrame, HasItsFixedTexts) {
+    EXPECT_EQ(alignmentEntries, (std::array<std::string_view, 3>{"Left", "Right", "Center"}));
+    EXPECT_EQ(caption::chkThumbVis, "Thumbnails visible");
+    EXPECT_EQ(caption::chkSmoothScroll, "Smooth Scrolling");
+    EXPECT_EQ(caption::lblScrollFactor, "Scroll Factor");
+    EXPECT_EQ(caption::lblNumItems, "# of games shown at a time");
+    EXPECT_EQ(caption::chkSelGlow, "Glow Selected items");
+    EXPECT_EQ(caption::chkShowDesc, "Show Game Description");
+    EXPECT_EQ(caption::lblSelTitle, "Selected Title");
+    EXPECT_EQ(caption::lblUnselTitle, "Unselected Title");
+    EXPECT_EQ(caption::lblSelDesc, "Selected Description");
+    EXPECT_EQ(caption::lblUnselDesc, "Unselected Description");
+    EXPECT_EQ(caption::preview, "Preview:");
+    EXPECT_EQ(caption::alignment, "Alignment:");
+    EXPECT_EQ(caption::gameTitle, "Game Title");
+    EXPECT_EQ(caption::gameDescription, "Game Description");
+}
+
+TEST(ShowMenuSettings, FillsEveryControl) {
+    const MenuSettings settings{.thumbnailsVisible = false,
+                                .smoothScroll = false,
+                                .scrollFactor = -2,
+                                .itemsShown = 12,
+                                .glowSelected = true,
+                                .showDescription = false,
+                                .titleAlignment = "Right",
+                                .descriptionAlignment = "center",
+                                .selectedTitleColor = "255",
+                                .unselectedTitleColor = "65280",
+                                .selectedDescriptionColor = "16711680",
+                                .unselectedDescriptionColor = "1"};
+    MenuFrame frame;
+    showMenuSettings(settings, frame);
+    MenuFrame expected;
+    expected.chkThumbVis = false;
+    expected.chkSmoothScroll = false;
+    expected.chkSelGlow = true;
+    expected.chkShowDesc = false;
+    expected.txtScrollFactor = "-2";
+    expected.txtNumItems = "12";
+    expected.cmbTitleAlign = 1;
+    expected.cmbDescAlign = 2;
+    expected.colSelTitle = makeColor(255, 0, 0);
+    expected.colUnselTitle = makeColor(0, 255, 0);
+    expected.colSelDesc = makeColor(0, 0, 255);
+    expected.colUnselDesc = makeColor(1, 0, 0);
+    EXPECT_EQ(frame, expected);
+}
+
+TEST(ShowMenuSettings, ShowsEachBooleanInItsOwnBox) {
+    const MenuSettings off{.thumbnailsVisible = false,
+                           .smoothScroll = false,
+                           .glowSelected = false,
+                           .showDescription = false};
+    const auto boxes = [](const MenuSettings& settings) {
+        MenuFrame frame;
+        showMenuSettings(settings, frame);
+        return std::array{frame.chkThumbVis, frame.chkSmoothScroll, frame.chkSelGlow,
+                          frame.chkShowDesc};
+    };
+    using Boxes = std::array<bool, 4>;
+    MenuSettings settings = off;
+    settings.thumbnailsVisible = true;
+    EXPECT_EQ(boxes(settings), (Boxes{true, false, false, false}));
+    settings = off;
+    settings.smoothScroll = true;
+    EXPECT_EQ(boxes(settings), (Boxes{false, true, false, false}));
+    settings = off;
+    settings.glowSelected = true;
+    EXPECT_EQ(boxes(settings), (Boxes{false, false, true, false}));
+    settings = off;
+    settings.showDescription = true;
+    EXPECT_EQ(boxes(settings), (Boxes{false, false, false, true}));
+}
+
+TEST(ShowMenuSettings, FindsAlignmentsInAnyLetterCase) {
+    struct Case {
+        std::string text;
+        int position;
+    };
+    const Case cases[] = {{"Left", 0},   {"left", 0},    {"Right", 1}, {"RIGHT", 1}, {"Center", 2},
+                          {"center", 2}, {"Justify", 0}, {"", 0},      {"Centre", 0}};
+    for (const auto& c : cases) {
+        MenuSettings settings;
+        settings.titleAlignment = c.text;
+        settings.descriptionAlignment = c.text;
+        MenuFrame frame;
+        frame.cmbTitleAlign = 1;
+        frame.cmbDescAlign = 1;
+        showMenuSettings(settings, frame);
+        EXPECT_EQ(frame.cmbTitleAlign, c.position) << c.text;
+        EXPECT_EQ(frame.cmbDescAlign, c.position) << c.text;
+    }
+}
+
+TEST(ShowMenuSettings, ReadsColoursLeniently) {
+    struct Case {
+        std::string text;
+        ColorNumber color;
+    };
+    const Case cases[] = {{"255", 255},    {"", 0},         {"red", 0},
+                          {"12abc", 12},   {"2.5", 2},      {"16777215", 0xFFFFFF},
+                          {"16777216", 0}, {"-1", 0xFFFFFF}};
+    for (const auto& c : cases) {
+        MenuSettings settings;
+        settings.selectedTitleColor = c.text;
+        MenuFrame frame;
+        showMenuSettings(settings, frame);
+        EXPECT_EQ(frame.colSelTitle, c.color) << c.text;
+    }
+}
+
+TEST(MenuSettingsOf, ReadsNumbersWithTheZeroRule) {
+    struct Case {
+        std::string text;
+        std::int16_t number;
+    };
+    const Case cases[] = {
+        {"5", 5},     {"0", 1},       {"", 1},          {"x", 1},         {"-0", 1},
+        {"0.0", 1},   {"2.5", 2},     {"3.5", 4},       {"-3", -3},       {"0.4", 0},
+        {"0.5", 0},   {"-0.4", 0},    {"7 games", 7},   {" 8", 8},        {"&H10", 1},
+        {"1e2", 100}, {"1e9", 32767}, {"-1e9", -32768}, {"32768", 32767}, {"-2.5", -2},
+    };
+    for (const auto& c : cases) {
+        MenuFrame frame;
+        frame.txtNumItems = c.text;
+        EXPECT_EQ(menuSettingsOf(frame).itemsShown, c.number) << c.text;
+        EXPECT_EQ(menuSettingsOf(frame).scrollFactor, 3) << c.text;
+        frame = {};
+        frame.txtScrollFactor = c.text;
+        EXPECT_EQ(menuSettingsOf(frame).scrollFactor, c.number) << c.text;
+        EXPECT_EQ(menuSettingsOf(frame).itemsShown, 5) << c.text;
+    }
+}
+
+TEST(MenuSettingsOf, TakesEveryControl) {
+    MenuFrame frame;
+    frame.chkThumbVis = false;
+    frame.chkSmoothScroll = true;
+    frame.chkSelGlow = true;
+    frame.chkShowDesc = false;
+    frame.txtScrollFactor = "9";
+    frame.txtNumItems = "11";
+    frame.cmbTitleAlign = 2;
+    frame.cmbDescAlign = 0;
+    frame.colSelTitle = makeColor(255, 0, 0);
+    frame.colUnselTitle = makeColor(0, 1, 0);
+    frame.colSelDesc = makeColor(0, 0, 1);
+    frame.colUnselDesc = makeColor(255, 255, 255);
+    const MenuSettings expected{.thumbnailsVisible = false,
+                                .smoothScroll = true,
+                                .scrollFactor = 9,
+                                .itemsShown = 11,
+                                .glowSelected = true,
+                                .showDescription = false,
+                                .titleAlignment = "Center",
+                                .descriptionAlignment = "Left",
+                                .selectedTitleColor = "255",
+                                .unselectedTitleColor = "256",
+                                .selectedDescriptionColor = "65536",
+                                .unselectedDescriptionColor = "16777215"};
+    EXPECT_EQ(menuSettingsOf(frame), expected);
+}
+
+TEST(MenuSettingsOf, BringsBackWhatWasShown) {
+    const MenuSettings settings{.thumbnailsVisible = false,
+                                .smoothScroll = true,
+                                .scrollFactor = -7,
+                                .itemsShown = 1,
+                                .glowSelected = true,
+                                .showDescription = false,
+                                .titleAlignment = "Center",
+                                .descriptionAlignment = "Left",
+                                .selectedTitleColor = "1",
+                                .unselectedTitleColor = "2",
+                                .selectedDescriptionColor = "3",
+                                .unselectedDescriptionColor = "4"};
+    MenuFrame frame;
+    showMenuSettings(settings, frame);
+    EXPECT_EQ(menuSettingsOf(frame), settings);
+}
+
+TEST(AlignmentPreviews, FollowTheUsersChoicesOnly) {
+    MenuFrame frame;
+    EXPECT_EQ(frame.titlePreview, TextAlignment::left);
+    EXPECT_EQ(frame.descPreview, TextAlignment::right);
+    chooseTitleAlign(frame, 2);
+    EXPECT_EQ(frame.cmbTitleAlign, 2);
+    EXPECT_EQ(frame.titlePreview, TextAlignment::center);
+    EXPECT_EQ(frame.descPreview, TextAlignment::right);
+    chooseDescAlign(frame, 0);
+    EXPECT_EQ(frame.cmbDescAlign, 0);
+    EXPECT_EQ(frame.descPreview, TextAlignment::left);
+    EXPECT_EQ(frame.titlePreview, TextAlignment::center);
+
+    MenuSettings settings;
+    settings.titleAlignment = "Right";
+    settings.descriptionAlignment = "Right";
+    showMenuSettings(settings, frame);
+    EXPECT_EQ(frame.cmbTitleAlign, 1);
+    EXPECT_EQ(frame.titlePreview, TextAlignment::center);
+    EXPECT_EQ(frame.descPreview, TextAlignment::left);
+}
+
+} // namespace
+} // namespace tarvel

@@ -1,0 +1,351 @@
+// Paths, atomic writes, copies and the exclusive temp.xml.
+#include "files/host_files.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace tarvel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::size_t entriesOf(const fs::path& folder) {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder), fs::directory_iterator{}));
+}
+
+// No file may grow beyond a size while this lives: a full disk in small.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+// What has been done to the disk through fsync.
+struct Flushes {
+    int count = 0;
+    int failAt = 0; // the one that finds the disk full; 0 for none
+};
+Flushes flushes; // NOLINT: seen by fsync below
+
+} // namespace
+
+} // namespace tarvel
+
+// Takes the place of the system's, so that the tests see each flush and can let it fail.
+extern "C" int fsync(int descriptor) {
+    if (++tarvel::flushes.count == tarvel::flushes.failAt) {
+        errno = ENOSPC;
+        return -1;
+    }
+    return ::fdatasync(descriptor);
+}
+
+namespace tarvel {
+
+TEST(HostPath, TurnsBackslashesAndFindsOtherLetterCase) {
+    const TemporaryFolder folder;
+    const auto file = folder.file("Media/Sub/Pic.PNG", "x");
+    EXPECT_EQ(hostPath(folder.document("Media\\Sub\\Pic.PNG")), file);
+    EXPECT_EQ(hostPath(folder.document("media\\SUB\\pic.png")), file);
+    EXPECT_EQ(hostPath(folder.document("MEDIA\\new.png")), folder / "Media/new.png");
+    EXPECT_EQ(hostPath(folder.document("no\\SUB\\pic.png")), folder / "no/SUB/pic.png");
+}
+
+TEST(HostPath, PrefersTheSpellingThatExists) {
+    const TemporaryFolder folder;
+    folder.file("a.png", "small");
+    folder.file("A.PNG", "capital");
+    EXPECT_EQ(readFile(hostPath(folder.document("a.png"))), "small");
+    EXPECT_EQ(readFile(hostPath(folder.document("A.PNG"))), "capital");
+}
+
+TEST(DocumentPath, IsAbsoluteWithBackslashes) {
+    EXPECT_EQ(documentPath("/a/b c/d.png"), "\\a\\b c\\d.png");
+    EXPECT_TRUE(documentPath("d.png").starts_with('\\'));
+    EXPECT_TRUE(documentPath("d.png").ends_with("\\d.png"));
+}
+
+TEST(FileExists, IsTrueForFilesOnly) {
+    const TemporaryFolder folder;
+    folder.file("Media/a.png", "x");
+    EXPECT_TRUE(FileExists(folder.document("Media\\a.png")));
+    EXPECT_TRUE(FileExists(folder.document("MEDIA\\A.PNG")));
+    EXPECT_FALSE(FileExists(folder.document("Media")));
+    EXPECT_FALSE(FileExists(folder.document("Media\\b.png")));
+    EXPECT_FALSE(FileExists(""));
+    EXPECT_FALSE(FileExists(std::string("a\0b", 3)));
+    EXPECT_FALSE(FileExists(std::string(70000, 'x')));
+}
+
+TEST(LeadsOutside, KnowsEveryWayOut) {
+    const TemporaryFolder folder;
+    folder.file("skin/Media/a.png", "x");
+    folder.file("secret.png", "x");
+    fs::create_symlink(folder / "secret.png", folder / "skin/Media/link.png");
+    fs::create_directory_symlink(folder.path(), folder / "skin/up");
+    fs::create_symlink("a.png", folder / "skin/Media/inner.png");
+    struct Case {
+        const char* file;
+        bool outside;
+    };
+    for (const auto& [file, outside] : std::initializer_list<Case>{
+             {"Media\\a.png", false},
+             {"Media\\missing.png", false},
+             {"Media\\..\\Media\\a.png", false},
+             {"Media\\inner.png", false},
+             {"", false},
+             {"..\\secret.png", true},
+             {"Media\\..\\..\\skin\\Media\\a.png", true},
+             {"\\Media\\a.png", true},
+             {"/etc/passwd", true},
+             {"C:\\a.png", true},
+             {"c:a.png", true},
+             {"Media\\link.png", true},
+             {"MEDIA\\LINK.png", true},
+             {"up\\secret.png", true},
+         }) {
+        EXPECT_EQ(leadsOutside(folder / "skin", file), outside) << file;
+    }
+}
+
+TEST(WriteFile, ReplacesAndLeavesNothingBeside) {
+    const TemporaryFolder folder;
+    folder.file("a", "old");
+    writeFile(folder / "a", "new");
+    EXPECT_EQ(readFile(folder / "a"), "new");
+    EXPECT_EQ(entriesOf(folder.path()), 1U);
+}
+
+TEST(WriteFile, ThatFailsKeepsTheOlderFile) {
+    const TemporaryFolder folder;
+    folder.file("a", "old");
+    {
+        const FileSizeLimit limit(100);
+        EXPECT_THROW(writeFile(folder / "a", std::string(5000, 'x')), FileError);
+    }
+    EXPECT_EQ(readFile(folder / "a"), "old");
+    EXPECT_EQ(entriesOf(folder.path()), 1U);
+}
+
+TEST(WriteFile, PassesOverWhatAKilledRunLeft) {
+    const TemporaryFolder folder;
+    folder.file("from", "new");
+    std::string last; // the name of the newest file that was written beside its target
+    EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto, auto) {
+        for (const auto& entry : fs::directory_iterator(folder.path())) {
+            const std::string name = entry.path().filename().string();
+            last = name.starts_with(".tarvel-") ? name : last;
+        }
+        return true;
+    }));
+    const auto dash = last.rfind('-');
+    ASSERT_NE(dash, std::string::npos);
+    const int number = std::stoi(last.substr(dash + 1));
+    for (const int next : {1, 2, 3}) {
+        const auto name = last.substr(0, dash + 1) + std::to_string(number + next);
+        ::close(::open((folder / name).c_str(), O_CREAT | O_CLOEXEC | O_WRONLY, 0600));
+    }
+    writeFile(folder / "to", "newer");
+    EXPECT_EQ(readFile(folder / "to"), "newer");
+    EXPECT_EQ(entriesOf(folder.path()), 5U); // the left files are nobody's business
+}
+
+TEST(FolderProblem, IsAnEmptyPathOrABackslash) {
+    EXPECT_EQ(folderProblem("/a/b c"), "");
+    EXPECT_EQ(folderProblem("relative"), "");
+    EXPECT_EQ(folderProblem({}), "No folder is named");
+    EXPECT_EQ(folderProblem("/a/b\\c/d"),
+              "The path of a skin's folder cannot hold a backslash: /a/b\\c/d");
+}
+
+TEST(WriteFile, IntoAMissingFolderDescribesTheFailure) {
+    const TemporaryFolder folder;
+    try {
+        writeFile(folder / "no/a", "x");
+        FAIL() << "no error";
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.errorNumber(), ENOENT);
+        EXPECT_EQ(error.what(), "No such file or directory: " + (folder / "no/a").string());
+    }
+}
+
+TEST(ReadFile, RefusesFoldersAndPipes) {
+    const TemporaryFolder folder;
+    EXPECT_THROW((void)readFile(folder.path()), FileError);
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_THROW((void)readFile(folder / "pipe"), FileError); // and does not wait for a writer
+    EXPECT_THROW((void)readFile(folder / "missing"), FileError);
+    EXPECT_EQ(readFile(folder.file("empty", "")), "");
+}
+
+TEST(CopyFile, CopiesOverAnOlderFile) {
+    const TemporaryFolder folder;
+    const std::string content(700'001, 'c');
+    folder.file("from", content);
+    folder.file("to", "old");
+    std::vector<std::uintmax_t> steps;
+    EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto done, auto total) {
+        EXPECT_EQ(total, content.size());
+        steps.push_back(done);
+        return true;
+    }));
+    EXPECT_EQ(readFile(folder / "to"), content);
+    EXPECT_GT(steps.size(), 1U);
+    EXPECT_EQ(steps.back(), content.size());
+}
+
+TEST(CopyFile, CancelledOrFailedKeepsTheOlderFile) {
+    const TemporaryFolder folder;
+    folder.file("from", std::string(700'000, 'c'));
+    folder.file("to", "old");
+    EXPECT_FALSE(copyFile(folder / "from", folder / "to", [](auto, auto) { return false; }));
+    EXPECT_EQ(readFile(folder / "to"), "old");
+    {
+        const FileSizeLimit limit(1000);
+        EXPECT_THROW(copyFile(folder / "from", folder / "to"), FileError);
+    }
+    EXPECT_EQ(readFile(folder / "to"), "old");
+    EXPECT_EQ(entriesOf(folder.path()), 2U);
+}
+
+TEST(CopyFile, FlushesWhileItCopies) {
+    const TemporaryFolder folder;
+    folder.file("from", {});
+    fs::resize_file(folder / "from", std::uintmax_t{20} << 20);
+    flushes = {};
+    int seen = 0;
+    std::uintmax_t unflushed = 0;
+    std::uintmax_t before = 0;
+    EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto done, auto) {
+        unflushed = flushes.count > seen ? 0 : unflushed + done - before;
+        EXPECT_LE(unflushed, std::uintmax_t{16} << 20);
+        EXPECT_LE(flushes.count, seen + 1); // each is followed by a step
+        seen = flushes.count;
+        before = done;
+        return true;
+    }));
+    EXPECT_EQ(before, std::uintmax_t{20} << 20);
+    EXPECT_GE(seen, 1);
+    EXPECT_EQ(flushes.count, seen + 1); // and the whole before it takes its place
+    EXPECT_EQ(fs::file_size(folder / "to"), std::uintmax_t{20} << 20);
+}
+
+TEST(CopyFile, ThatCannotBeFlushedKeepsTheOlderFile) {
+    const TemporaryFolder folder;
+    folder.file("from", {});
+    folder.file("to", "old");
+    fs::resize_file(folder / "from", std::uintmax_t{20} << 20);
+    for (const int failAt : {1, 3}) { // within the copy, and at its end
+        flushes = {.failAt = failAt};
+        EXPECT_THROW(copyFile(folder / "from", folder / "to"), FileError);
+        EXPECT_EQ(flushes.count, failAt);
+        EXPECT_EQ(readFile(folder / "to"), "old");
+        EXPECT_EQ(entriesOf(folder.path()), 2U);
+    }
+    flushes = {};
+}
+
+TEST(CopyFile, DescribesWhyASourceCannotBeRead) {
+    const TemporaryFolder folder;
+    folder.file("file", "x");
+    const auto failure = [&](std::string_view from) -> std::string {
+        try {
+            copyFile(folder / from, folder / "to");
+        } catch (const FileError& error) {
+            return error.what();
+        }
+        return "none";
+    };
+    EXPECT_EQ(failure("file/pic.png"), "Not a directory: " + (folder / "file/pic.png").string());
+    EXPECT_EQ(failure("gone.png"), "No such file or directory: " + (folder / "gone.png").string());
+    EXPECT_FALSE(fs::exists(folder / "to"));
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "nothing is closed to root";
+    }
+    folder.file("closed/pic.png", "x");
+    fs::permissions(folder / "closed", fs::perms::none);
+    const std::string closed = failure("closed/pic.png");
+    fs::permissions(folder / "closed", fs::perms::owner_all);
+    EXPECT_EQ(closed, "Permission denied: " + (folder / "closed/pic.png").string());
+}
+
+TEST(CopyFile, NeverCopiesAFileOntoItself) {
+    const TemporaryFolder folder;
+    folder.file("a", "content");
+    fs::create_symlink("a", folder / "link");
+    fs::create_hard_link(folder / "a", folder / "hard");
+    for (const char* other : {"a", "./a", "link", "hard"}) {
+        EXPECT_TRUE(copyFile(folder / "a", folder / other)) << other;
+        EXPECT_TRUE(copyFile(folder / other, folder / "a")) << other;
+    }
+    EXPECT_EQ(readFile(folder / "a"), "content");
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+}
+
+TEST(CreateFolder, AcceptsAnExistingOne) {
+    const TemporaryFolder folder;
+    createFolder(folder / "a");
+    EXPECT_NO_THROW(createFolder(folder / "a"));
+    EXPECT_THROW(createFolder(folder / "no/a"), FileError);
+}
+
+TEST(ThroughTempFile, GivesTheTextBackAndDeletesTheFile) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(throughTempFile(folder.path(), "<a/>\n"), "<a/>\n");
+    EXPECT_EQ(entriesOf(folder.path()), 0U);
+}
+
+TEST(ThroughTempFile, PassesOverAStaleFile) {
+    const TemporaryFolder folder;
+    folder.file("temp.xml", std::string(5000, 's'));
+    EXPECT_EQ(throughTempFile(folder.path(), "<a/>"), "<a/>");
+    EXPECT_FALSE(fs::exists(folder / "temp.xml"));
+}
+
+TEST(ThroughTempFile, WaitsForAnotherHolder) {
+    const TemporaryFolder folder;
+    const auto path = folder.file("temp.xml", "of another program");
+    const int other = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(::flock(other, LOCK_EX), 0);
+    std::string content;
+    std::thread holder([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        content = readFile(path); // still as its holder left it
+        ::unlink(path.c_str());
+        ::close(other);
+    });
+    EXPECT_EQ(throughTempFile(folder.path(), "<mine/>"), "<mine/>");
+    holder.join();
+    EXPECT_EQ(content, "of another program");
+}
+
+TEST(ThroughTempFile, FailsInAMissingFolder) {
+    const TemporaryFolder folder;
+    EXPECT_THROW((void)throughTempFile(folder / "no", "x"), FileError);
+}
+
+TEST(ProgramFolder, CanBeWrittenTo) {
+    EXPECT_EQ(::access(programFolder().c_str(), W_OK), 0);
+}
+
+} // namespace tarvel
