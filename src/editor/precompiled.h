@@ -2,8 +2,21 @@
 // use.
 #pragma once
 
-#include <QtGui>     // IWYU pragma: keep
-#include <QtWidgets> // IWYU pragma: keep
+#include <QAction>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QEvent>
+#include <QGroupBox>
+#include <QImage>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QString>
+#include <QTimer>
+#include <QWidget>
 
 #include <algorithm>
 #include <array>
