@@ -57,6 +57,37 @@ SkinDocument& SkinDocument::operator=(SkinDocument&& other) { // NOLINT
     return *this;
 }
 
+void SkinDocument::beginEdit(std::string name) {
+    if (edit_.depth == 0 || !edit_.run.empty()) {
+        endRun();
+        edit_.depth = 1;
+        observers_.each([&](DocumentObserver& observer) { observer.editBegan(name); });
+    } else {
+        ++edit_.depth;
+    }
+}
+
+void SkinDocument::endEdit(bool takenBack) {
+    if (--edit_.depth == 0) {
+        edit_.run.clear();
+        observers_.each([&](DocumentObserver& observer) { observer.editEnded(takenBack); });
+    }
+}
+
+void SkinDocument::continueRun(const std::string& name) {
+    if (edit_.run == name || (edit_.depth > 0 && edit_.run.empty())) {
+        return; // it goes on, or is a part of another edit
+    }
+    beginEdit(name);
+    edit_.run = name;
+}
+
+void SkinDocument::endRun() {
+    if (!edit_.run.empty()) {
+        endEdit();
+    }
+}
+
 void SkinDocument::setCurrentLayout(int screen) {
     state_.currentLayout = screen;
     tell({DocumentChange::What::currentLayout, screen});

@@ -1,6 +1,7 @@
 // The one skin that is being edited: six screens of elements, and the skin-wide settings.
 #pragma once
 
+#include "document/document_observer.h"
 #include "document/element.h"
 #include "document/shared_table.h"
 #include "document/skin_settings.h"
@@ -16,48 +17,38 @@ inline constexpr int screenCount = 6;
 inline constexpr int skinWidth = 640;  // skin pixels
 inline constexpr int skinHeight = 480; // skin pixels
 
-/// What an observer is told. `screen` and `elementId` are -1 where they do not matter.
-struct DocumentChange {
-    enum class What {
-        everything,    ///< another document took the place of this one
-        settings,      ///< skin-wide settings
-        currentLayout, ///< another screen is shown
-        rows,          ///< rows of `screen` came, went or changed places
-        rowText,       ///< the text of the row of `elementId` on `screen`
-        element,       ///< the record of `elementId`
-        counts         ///< screenElementCount or lockCount of `screen`
-    };
-    What what = What::everything;
-    int screen = -1;
-    int elementId = -1;
-};
-
-class DocumentObserver {
-  public:
-    virtual ~DocumentObserver() = default;
-    virtual void documentChanged(const DocumentChange& change) = 0;
-};
-
 /// A regular value: copies are independent and cheap, because they share what neither changes.
 ///
 /// Every element has an id from 1 upward that is never used again; id 0 is a slot without an
 /// element. A screen's list fixes which elements it holds and their stacking order, row 0 at the
 /// back. Deleting an element takes away its row only; its record keeps its last values.
 ///
-/// The observer, if any, belongs to the object and not to the value: it is neither copied nor
-/// compared.
+/// Observers and the open edit belong to the object and not to the value: they are neither copied
+/// nor compared.
 class SkinDocument {
   public:
     SkinDocument() = default;
-    SkinDocument(const SkinDocument& other) = default;
+    SkinDocument(const SkinDocument& other)
+        : state_(other.state_) {}
     /// Leaves `other` as a new document.
     SkinDocument(SkinDocument&& other) noexcept;
     SkinDocument& operator=(const SkinDocument& other);
-    SkinDocument& operator=(SkinDocument&& other); // NOLINT: tells the observer, which may throw
+    SkinDocument& operator=(SkinDocument&& other); // NOLINT: observers may throw
     ~SkinDocument() = default;
 
-    /// Not owned; nullptr ends the notices.
-    void setObserver(DocumentObserver* observer) { observer_.target = observer; }
+    /// Tells the observer of every change while the result lives. Watching changes nothing, so
+    /// whoever reads a document may. Observers are told in the order in which they began.
+    DocumentWatch watch(DocumentObserver& observer) const { return observers_.add(observer); }
+
+    /// Changes up to the matching endEdit() are one step. Edits within an edit are parts of it.
+    /// OpenEdit does both. Ends a run before it begins.
+    void beginEdit(std::string name);
+    void endEdit(bool takenBack = false);
+    /// A run is an edit without a fixed end, such as keys pressed one after the other: it goes on
+    /// with the next call of the same name, and ends with endRun() or when another edit begins.
+    void continueRun(const std::string& name);
+    void endRun();
+    [[nodiscard]] bool isEditOpen() const { return edit_.depth > 0; }
 
     // Screens, by index 0 to 5.
     [[nodiscard]] int currentLayout() const { return state_.currentLayout; }
@@ -72,7 +63,7 @@ class SkinDocument {
     [[nodiscard]] int lastElementId() const { return state_.lastElementId; }
     /// id 0 to lastElementId(); id 0 is a slot that no element ever has.
     [[nodiscard]] const Element& element(int id) const;
-    /// Calls edit(Element&) and tells the observer; id 1 to lastElementId().
+    /// Calls edit(Element&) and tells the observers; id 1 to lastElementId().
     template <class Edit> void editElement(int id, Edit&& edit) {
         edit(state_.elements.edit(static_cast<std::size_t>(id) - 1));
         tell({DocumentChange::What::element, element(id).elementLayout, id});
@@ -93,7 +84,7 @@ class SkinDocument {
     void delItem(int row);
 
     [[nodiscard]] const SkinSettings& settings() const { return state_.settings.get(); }
-    /// Calls edit(SkinSettings&) and tells the observer.
+    /// Calls edit(SkinSettings&) and tells the observers.
     template <class Edit> void editSettings(Edit&& edit) {
         edit(state_.settings.edit());
         tell({DocumentChange::What::settings});
@@ -126,27 +117,19 @@ class SkinDocument {
         bool operator==(const State&) const = default;
     };
 
-    struct ObserverLink {
-        DocumentObserver* target = nullptr;
-
-        ObserverLink() = default;
-        ObserverLink(const ObserverLink& /*other*/) {}
-        ObserverLink(ObserverLink&& /*other*/) noexcept {}
-        // NOLINTNEXTLINE: takes nothing, so an assignment to itself is one like any other
-        ObserverLink& operator=(const ObserverLink& /*other*/) { return *this; }
-        ObserverLink& operator=(ObserverLink&& /*other*/) noexcept { return *this; }
-        ~ObserverLink() = default;
+    struct Edit {
+        int depth = 0;
+        std::string run; // the name of the open run; "" for none
     };
 
     void tell(const DocumentChange& change) const {
-        if (observer_.target != nullptr) {
-            observer_.target->documentChanged(change);
-        }
+        observers_.each([&](DocumentObserver& observer) { observer.documentChanged(change); });
     }
     [[nodiscard]] const Rows& rows(int screen) const;
 
     State state_;
-    ObserverLink observer_;
+    mutable Observers<DocumentObserver> observers_;
+    Edit edit_;
 };
 
 } // namespace tarvel

@@ -365,7 +365,7 @@ TEST(MakeElement, AppendsToTheCurrentScreen) {
 TEST(MakeElement, IsToldAsOneNewRow) {
     SkinDocument document;
     test::RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
     made(document, ElementKind::Text, "<e><Modifier/></e>", "Time");
     EXPECT_EQ(observer.notes, (Texts{"rows 1 1", "counts 1 -1"}));
 }

@@ -72,7 +72,7 @@ TEST(PlaceElement, TellsOfWhatChangedOnly) {
     SkinDocument document;
     const int id = add(document, lineAt({1, 2, 3, 4}));
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
 
     EXPECT_TRUE(placeElement(document, id, {1, 2, 3, 5}));
     EXPECT_EQ(test::placeOf(document, id), (Place{1, 2, 3, 5}));

@@ -59,11 +59,11 @@ TEST(Observer, IsToldOfEveryChange) {
     for (const auto& c : cases) {
         SkinDocument document = fourBoxes();
         RecordingObserver observer;
-        document.setObserver(&observer);
+        auto watch = document.watch(observer);
         c.change(document);
         EXPECT_EQ(observer.notes, c.notes) << c.what;
 
-        document.setObserver(nullptr);
+        watch.end();
         document.setCurrentLayout(0);
         EXPECT_EQ(observer.notes, c.notes) << c.what;
     }
@@ -85,7 +85,7 @@ TEST(Observer, SeesTheDocumentAfterTheChange) {
     };
     SkinDocument document;
     Reader reader(document);
-    document.setObserver(&reader);
+    auto watch = document.watch(reader);
     addBox(document, "A");
     document.editElement(1, [](Element& e) { e.label = "B"; });
     document.delItem(0);
@@ -96,7 +96,7 @@ TEST(Observer, SeesTheDocumentAfterTheChange) {
 TEST(Observer, BelongsToTheObjectAndNotToTheValue) {
     RecordingObserver observer;
     SkinDocument observed = fourBoxes();
-    observed.setObserver(&observer);
+    auto watch = observed.watch(observer);
 
     SkinDocument copy = observed;
     copy.setCurrentLayout(0);

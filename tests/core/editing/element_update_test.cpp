@@ -228,7 +228,7 @@ TEST(UpdateControls, ChangesTheRecordAndTheLabel) {
     image.label = "Image: before";
     const int id = add(document, image);
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
 
     EXPECT_TRUE(updateControls(document, id, fullPanel()));
     EXPECT_EQ(document.element(id).imageSource, "logo");
@@ -245,7 +245,7 @@ TEST(UpdateControls, TellsOnlyOfWhatChanged) {
     const int line = add(document, lineAt({1, 2, 3, 4}));
     document.setRowText(1, 0, "Line");
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
     PanelValues values = fullPanel();
     EXPECT_TRUE(updateControls(document, line, values));
     EXPECT_EQ(observer.notes, (Notes{"element 1 1"}));

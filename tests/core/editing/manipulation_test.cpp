@@ -119,7 +119,7 @@ TEST(MoveDrag, TellsNothingWhereThePointerStays) {
     SkinDocument document;
     const int id = add(document, boxAt({100, 50, 40, 20}));
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
     MoveDrag drag(document, id, {110, 60});
     EXPECT_FALSE(drag.moveTo(document, {110, 60}));
     EXPECT_EQ(observer.notes.size(), 0U);

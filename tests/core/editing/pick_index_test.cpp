@@ -19,8 +19,8 @@ using test::lineAt;
 struct Indexed {
     SkinDocument document;
     PickIndex index;
+    DocumentWatch watch = document.watch(index);
 
-    Indexed() { document.setObserver(&index); }
     int rowAt(SkinPoint point) { return index.rowAt(document, point); }
 };
 

@@ -85,7 +85,7 @@ TEST(EnterPosition, TellsNothingWhereNothingChanges) {
     SkinDocument document;
     const int id = add(document, boxAt({0.1F, 20, 30, 40}));
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
     const PositionTexts texts = positionTexts(document.element(id).elementControl);
     for (const auto field : {L, T, W, H}) {
         EXPECT_FALSE(enterPosition(document, id, field, texts.at(static_cast<std::size_t>(field))));

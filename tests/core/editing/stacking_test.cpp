@@ -109,7 +109,7 @@ TEST(Stacking, ActsOnTheCurrentScreen) {
 TEST(Stacking, TellsNothingWhereNothingMoves) {
     SkinDocument document = boxes(3);
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
     restack(document, 2, Front);
     restack(document, 0, Back);
     EXPECT_EQ(observer.notes, Texts{});
@@ -210,7 +210,7 @@ TEST(Locking, SaysWhetherAnythingChanged) {
 TEST(Locking, TellsOfTheTextsTheElementsAndTheCount) {
     SkinDocument document = boxes(2);
     RecordingObserver observer;
-    document.setObserver(&observer);
+    const auto watch = document.watch(observer);
     lockRows(document, 0);
     EXPECT_EQ(observer.notes, (Texts{"element 1 1", "rowText 1 1", "counts 1 -1"}));
     observer.notes.clear();

@@ -112,9 +112,9 @@ TEST_F(SkinWriterTest, CurrentLayoutFollowsTheScreenThatIsWritten) {
     struct Follower : DocumentObserver {
         explicit Follower(SkinDocument& watched)
             : document(watched) {
-            document.setObserver(this);
+            watch = document.watch(*this);
         }
-        ~Follower() override { document.setObserver(nullptr); }
+        ~Follower() override = default;
         Follower(const Follower&) = delete;
         Follower& operator=(const Follower&) = delete;
         void documentChanged(const DocumentChange& change) override {
@@ -123,6 +123,7 @@ TEST_F(SkinWriterTest, CurrentLayoutFollowsTheScreenThatIsWritten) {
             }
         }
         SkinDocument& document;
+        DocumentWatch watch;
         std::vector<int> screens;
     };
     for (const int screen : {5, 3, 0}) {

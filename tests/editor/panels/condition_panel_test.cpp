@@ -187,11 +187,11 @@ void ConditionPanelTest::tellsTheDocumentsObserver() {
     ConditionPanel panel(document_);
     test::PanelWindow window(panel);
     test::RecordingObserver observer;
-    document_.setObserver(&observer);
+    auto watch = document_.watch(observer);
     QVERIFY(window.openPanel(3));
     QVERIFY(observer.notes.empty());
     click(control<QPushButton>(panel, "cmdConditionOK"));
-    document_.setObserver(nullptr);
+    watch.end();
     QCOMPARE(observer.notes, std::vector<std::string>{"element 1 3"});
     QCOMPARE(condition(3), "None");
 }

@@ -426,12 +426,12 @@ void ModifierPanelTest::keepsFurtherModifiers() {
 
 void ModifierPanelTest::tellsTheDocumentsObserver() {
     test::RecordingObserver observer;
-    document_.setObserver(&observer);
+    auto watch = document_.watch(observer);
     QVERIFY(openFor(4));
     chooseRow(lstMods(), Tint);
     QVERIFY(observer.notes.empty());
     ok();
-    document_.setObserver(nullptr);
+    watch.end();
     QCOMPARE(observer.notes, std::vector<std::string>{"element 1 4"});
 }
 

@@ -352,13 +352,13 @@ void TimerPanelTest::storesTheBoxes() {
     QVERIFY(window.openPanel(1));
     QSignalSpy closed(&panel, &BehaviourPanel::closed);
     test::RecordingObserver observer;
-    document_.setObserver(&observer);
+    auto watch = document_.watch(observer);
     for (int slot = 0; slot < 4; ++slot) {
         typeOver(box(panel, slot), typed.at(slot));
     }
     QCOMPARE(timers(), TimerValues{});
     click(control<QPushButton>(panel, "cmdTimersOK"));
-    document_.setObserver(nullptr);
+    watch.end();
     QCOMPARE((QList<int>{timers()[0], timers()[1], timers()[2], timers()[3]}), stored);
     QCOMPARE(observer.notes, std::vector<std::string>{"element 1 1"});
     QCOMPARE(closed.count(), 1);

@@ -18,17 +18,6 @@ namespace {
 
 constexpr int patience = 20'000; // milliseconds
 
-// Passes the document's notices on to the surface.
-class Link : public DocumentObserver {
-  public:
-    explicit Link(Pic& pic)
-        : pic_(pic) {}
-    void documentChanged(const DocumentChange& change) override { pic_.documentChanged(change); }
-
-  private:
-    Pic& pic_;
-};
-
 // Notes which part of a widget is painted.
 class PaintWatcher : public QObject {
   public:
@@ -54,7 +43,6 @@ struct Surface {
         document.addElement(boxOf({100, 100, 20, 20}, green));
         document.addElement(boxOf({200, 200, 20, 20}, blue));
         pic.setDocument(&document);
-        document.setObserver(&link);
         pic.show();
     }
 
@@ -87,7 +75,6 @@ struct Surface {
     SkinDocument document;
     PictureCache pictures;
     Pic pic{pictures};
-    Link link{pic};
 };
 
 QRect around(const QRectF& rect) {
@@ -146,7 +133,6 @@ void PicTest::showsTheCurrentScreen() {
 void PicTest::showsBlackWithoutADocument() {
     Surface surface;
     QVERIFY(surface.isShown());
-    surface.document.setObserver(nullptr);
     surface.pic.setDocument(nullptr);
     Surface::settle();
     QCOMPARE(surface.look(), blackSurface());
