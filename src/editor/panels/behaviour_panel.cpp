@@ -1,6 +1,8 @@
 // The frame of a behaviour panel.
 #include "panels/behaviour_panel.h"
 
+#include "document/open_edit.h"
+#include "editing/step_names.h"
 #include "widgets/control_names.h"
 
 #include <QKeyEvent>
@@ -24,10 +26,11 @@ QColor between(const QColor& a, const QColor& b, float share) {
 
 } // namespace
 
-BehaviourPanel::BehaviourPanel(SkinDocument& document, const QString& name, const QString& heading,
-                               QWidget* parent)
+BehaviourPanel::BehaviourPanel(SkinDocument& document, std::string_view step, const QString& name,
+                               const QString& heading, QWidget* parent)
     : QFrame(parent)
     , document_(document)
+    , step_(step)
     , rows_(new QVBoxLayout(this)) {
     hide();
     setObjectName(name);
@@ -62,6 +65,7 @@ void BehaviourPanel::open(int elementId) {
 
 void BehaviourPanel::ok() {
     if (elementId_ <= document_.lastElementId()) { // the document may have been replaced
+        const OpenEdit edit(document_, stepName(step_, document_.element(elementId_)));
         document_.editElement(elementId_, [this](Element& element) { store(element); });
     }
     hide();

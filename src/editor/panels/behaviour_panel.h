@@ -7,6 +7,8 @@
 #include <QFrame>
 #include <QString>
 
+#include <string_view>
+
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -30,8 +32,9 @@ class BehaviourPanel : public QFrame {
     void closed();
 
   protected:
-    BehaviourPanel(SkinDocument& document, const QString& name, const QString& heading,
-                   QWidget* parent);
+    /// `step` is what taking the panel over does to the element, one of editing/step_names.h.
+    BehaviourPanel(SkinDocument& document, std::string_view step, const QString& name,
+                   const QString& heading, QWidget* parent);
 
     /// Fills the controls from the element.
     virtual void fill(const Element& element) = 0;
@@ -50,6 +53,7 @@ class BehaviourPanel : public QFrame {
 
   private:
     SkinDocument& document_;
+    std::string_view step_;
     int elementId_ = 0;
     QVBoxLayout* rows_;
     QPushButton* cmdOK_ = nullptr;

@@ -2,6 +2,7 @@
 #include "panels/condition_panel.h"
 
 #include "document/conditions.h"
+#include "editing/step_names.h"
 #include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 
@@ -20,8 +21,8 @@ constexpr int descriptionLines = 3; // of the longest description
 } // namespace
 
 ConditionPanel::ConditionPanel(SkinDocument& document, QWidget* parent)
-    : BehaviourPanel(document, QStringLiteral("fraModifier(2)"), QStringLiteral("CONDITION:"),
-                     parent)
+    : BehaviourPanel(document, step::condition, QStringLiteral("fraModifier(2)"),
+                     QStringLiteral("CONDITION:"), parent)
     , lstCond_(named(new QListWidget, QStringLiteral("lstCond"), tr("Conditions")))
     , lblConditionDesc_(
           named(new QLabel, QStringLiteral("lblConditionDesc"), tr("Meaning of the condition"))) {

@@ -1,7 +1,7 @@
 // The panel "ELEMENTS (Z-ORDER)": one list for each layout screen, the current one in front.
 #pragma once
 
-#include "document/skin_document.h"
+#include "document/selection.h"
 
 #include <QGroupBox>
 
@@ -13,37 +13,38 @@ class QStackedLayout;
 namespace tarvel {
 
 class ElementListModel;
+class ElementListView;
 
-/// The document is not owned and outlives the panel.
-class ElementsPanel : public QGroupBox {
+/// Shows the selection in the current screen's list, and takes what is chosen there to it. Document
+/// and selection are not owned and outlive the panel.
+class ElementsPanel : public QGroupBox, private DocumentObserver, private SelectionObserver {
     Q_OBJECT
 
   public:
-    explicit ElementsPanel(const SkinDocument& document, QWidget* parent = nullptr);
-
-    /// Brings a screen's list to the front.
-    void showScreen(int screen);
-    /// The selected row of a screen's list; -1 for none.
-    [[nodiscard]] int listIndex(int screen) const;
-    /// Selects a row, -1 for none, as a click on it would.
-    void setListIndex(int screen, int row);
-    /// Brings the lists into line with the document.
-    void documentChanged(const DocumentChange& change);
-
-    [[nodiscard]] QListView* lst(int screen) const {
-        return lst_.at(static_cast<std::size_t>(screen));
-    }
+    ElementsPanel(const SkinDocument& document, Selection& selection, QWidget* parent = nullptr);
 
   signals:
-    /// Another row, or none, is selected in the screen's list.
-    void listIndexChanged(int screen);
-    /// The right button asks for a menu; `onElement` when a row is selected.
-    void menuWanted(QPoint globalPosition, bool onElement);
+    /// The right button asks for a menu.
+    void menuWanted(QPoint globalPosition);
 
   private:
+    void documentChanged(const DocumentChange& change) override;
+    void selectionChanged() override;
+    ElementListView* makeList(int screen);
+    void lst_Click(int screen);
+    void askForMenu(const QListView& list, QPoint point);
+    [[nodiscard]] ElementListModel& model(int screen) const {
+        return *models_.at(static_cast<std::size_t>(screen));
+    }
+
+    const SkinDocument& document_;
+    Selection& selection_;
     std::array<ElementListModel*, screenCount> models_{};
-    std::array<QListView*, screenCount> lst_{};
+    std::array<ElementListView*, screenCount> lst_{};
     QStackedLayout* stack_;
+    bool following_ = false; // the lists change by the document, not by a hand
+    DocumentWatch documentWatch_;
+    SelectionWatch selectionWatch_;
 };
 
 } // namespace tarvel

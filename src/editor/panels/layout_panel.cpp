@@ -1,6 +1,7 @@
 // The screen buttons and their notes.
 #include "panels/layout_panel.h"
 
+#include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 
 #include <QGridLayout>
@@ -9,10 +10,11 @@
 
 namespace tarvel {
 
-LayoutPanel::LayoutPanel(QWidget* parent)
-    : QGroupBox(QStringLiteral("CURRENT SCREEN"), parent) {
-    setObjectName(QStringLiteral("fraLayout"));
-    setAccessibleName(QStringLiteral("Current screen"));
+LayoutPanel::LayoutPanel(const SkinDocument& document, QWidget* parent)
+    : QGroupBox(QStringLiteral("CURRENT SCREEN"), parent)
+    , document_(document)
+    , watch_(document.watch(*this)) {
+    named(this, QStringLiteral("fraLayout"), QStringLiteral("Current screen"));
     auto* grid = new QGridLayout(this);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     grid->setHorizontalSpacing(2);
@@ -37,15 +39,34 @@ LayoutPanel::LayoutPanel(QWidget* parent)
         }
         optScreen_[static_cast<std::size_t>(screen)] = button;
     }
-    setCurrent(menuScreen);
+    setCurrent();
+    setLayoutBolds();
 }
 
-void LayoutPanel::setCurrent(int screen) {
-    optScreen_.at(static_cast<std::size_t>(screen))->setChecked(true);
+void LayoutPanel::documentChanged(const DocumentChange& change) {
+    switch (change.what) {
+    case DocumentChange::What::everything:
+    case DocumentChange::What::currentLayout:
+        setCurrent();
+        setLayoutBolds();
+        break;
+    case DocumentChange::What::counts:
+        setLayoutBolds();
+        break;
+    case DocumentChange::What::settings:
+    case DocumentChange::What::rows:
+    case DocumentChange::What::rowText:
+    case DocumentChange::What::element:
+        break;
+    }
+}
+
+void LayoutPanel::setCurrent() {
+    optScreen_.at(static_cast<std::size_t>(document_.currentLayout()))->setChecked(true);
 }
 
 int LayoutPanel::current() const {
-    int checked = menuScreen;
+    int checked = document_.currentLayout();
     for (int screen = 0; screen < screenCount; ++screen) {
         if (optScreen_[static_cast<std::size_t>(screen)]->isChecked()) {
             checked = screen;
@@ -54,11 +75,11 @@ int LayoutPanel::current() const {
     return checked;
 }
 
-void LayoutPanel::setLayoutBolds(const SkinDocument& document) {
+void LayoutPanel::setLayoutBolds() {
     for (int screen = 0; screen < screenCount; ++screen) {
         QRadioButton* button = optScreen_[static_cast<std::size_t>(screen)];
         QFont font = button->font();
-        font.setBold(isLayoutBold(document, screen));
+        font.setBold(isLayoutBold(document_, screen));
         button->setFont(font);
     }
 }

@@ -11,25 +11,29 @@ class QRadioButton;
 
 namespace tarvel {
 
-class LayoutPanel : public QGroupBox {
+/// Follows the document, which is not owned and outlives the panel.
+class LayoutPanel : public QGroupBox, private DocumentObserver {
     Q_OBJECT
 
   public:
-    explicit LayoutPanel(QWidget* parent = nullptr);
+    explicit LayoutPanel(const SkinDocument& document, QWidget* parent = nullptr);
 
-    /// Checks a screen's button, without clicked().
-    void setCurrent(int screen);
     /// Index of the checked button.
     [[nodiscard]] int current() const;
     /// Draws the buttons of the screens that hold elements bold.
-    void setLayoutBolds(const SkinDocument& document);
+    void setLayoutBolds();
 
   signals:
     /// The user chose a screen.
     void screenClicked(int screen);
 
   private:
+    void documentChanged(const DocumentChange& change) override;
+    void setCurrent();
+
+    const SkinDocument& document_;
     std::array<QRadioButton*, screenCount> optScreen_{};
+    DocumentWatch watch_;
 };
 
 } // namespace tarvel

@@ -1,6 +1,7 @@
 // Lists of types and targets, and a page for each kind of values.
 #include "panels/modifier_panel.h"
 
+#include "editing/step_names.h"
 #include "panels/color_frame.h"
 #include "widgets/control_names.h"
 #include "widgets/prompts.h"
@@ -65,8 +66,8 @@ void showRows(QComboBox& list, const std::vector<std::string>& rows, int chosen)
 
 ModifierPanel::ModifierPanel(SkinDocument& document, Prompts& prompts,
                              std::filesystem::path programFolder, QWidget* parent)
-    : BehaviourPanel(document, QStringLiteral("fraModifier(0)"), QStringLiteral("MODIFIER:"),
-                     parent)
+    : BehaviourPanel(document, step::modifiers, QStringLiteral("fraModifier(0)"),
+                     QStringLiteral("MODIFIER:"), parent)
     , prompts_(prompts)
     , programFolder_(std::move(programFolder))
     , lstMods_(named(new QComboBox, QStringLiteral("lstMods"), tr("Modifier type")))

@@ -27,6 +27,7 @@ PropertyPanel::PropertyPanel(const SkinDocument& document, Prompts& prompts, Pic
                              QWidget* parent)
     : QWidget(parent)
     , document_(document)
+    , watch_(document.watch(*this))
     , fraShared_(new SharedFrame(values_, prompts))
     , fraText_(new TextFrame(values_, prompts))
     , fraImg_(new ImageFrame(values_, document, pictures))
@@ -88,6 +89,13 @@ void PropertyPanel::showKind(ElementKind kind) {
 void PropertyPanel::showNothing() {
     showFrames(PanelLayout{});
     cmdApply_->setEnabled(false);
+}
+
+void PropertyPanel::documentChanged(const DocumentChange& change) {
+    if (change.what == DocumentChange::What::everything ||
+        change.what == DocumentChange::What::settings) {
+        resourcesChanged();
+    }
 }
 
 void PropertyPanel::resourcesChanged() {

@@ -1,6 +1,7 @@
 // The property panel: shows the element that is selected, or the settings of the next one drawn.
 #pragma once
 
+#include "document/document_observer.h"
 #include "editing/panel_values.h"
 
 #include <QWidget>
@@ -20,9 +21,9 @@ class SkinDocument;
 class TextFrame;
 
 /// Keeps its values whatever is shown. Its height does not depend on the kind. The document, the
-/// prompts and the cache of pictures are not owned; the document is only read, in the calls below
-/// and when the user chooses a resource.
-class PropertyPanel : public QWidget {
+/// prompts and the cache of pictures are not owned; the document is only read, in the calls below,
+/// when its resources change and when the user chooses one.
+class PropertyPanel : public QWidget, private DocumentObserver {
     Q_OBJECT
 
   public:
@@ -51,11 +52,13 @@ class PropertyPanel : public QWidget {
     void addResourceClicked();
 
   private:
+    void documentChanged(const DocumentChange& change) override;
     void buildFrames();
     void buildRow();
     void showFrames(const PanelLayout& layout);
 
     const SkinDocument& document_;
+    DocumentWatch watch_;
     PanelValues values_;
     QStackedWidget* frames_ = nullptr;
     QWidget* nothing_ = nullptr;

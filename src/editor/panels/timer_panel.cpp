@@ -1,6 +1,7 @@
 // Boxes for timers.
 #include "panels/timer_panel.h"
 
+#include "editing/step_names.h"
 #include "widgets/control_names.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
@@ -99,8 +100,8 @@ class TimerEdit : public FieldEdit {
 } // namespace
 
 TimerPanel::TimerPanel(SkinDocument& document, QWidget* parent)
-    : BehaviourPanel(document, QStringLiteral("fraModifier(1)"), QStringLiteral("TIMERS:"),
-                     parent) {
+    : BehaviourPanel(document, step::timers, QStringLiteral("fraModifier(1)"),
+                     QStringLiteral("TIMERS:"), parent) {
     setAccessibleName(tr("Timers of the element"));
     rows().addWidget(makeBoxes());
     rows().addWidget(makeMessage());

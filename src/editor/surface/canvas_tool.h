@@ -2,6 +2,8 @@
 #pragma once
 
 #include "document/element_place.h"
+#include "document/open_edit.h"
+#include "document/selection.h"
 #include "editing/panel_values.h"
 
 #include <optional>
@@ -17,24 +19,21 @@ class ToolHost {
     ToolHost& operator=(const ToolHost&) = delete;
 
     [[nodiscard]] virtual SkinDocument& document() = 0;
-    /// Id of the selected element; 0 for none.
-    [[nodiscard]] virtual int curNum() const = 0;
-    /// Row of the selected element in the current screen's list; -1 for none.
-    [[nodiscard]] virtual int selectedRow() const = 0;
-    /// Selects a row of the current screen's list; -1 for none.
-    virtual void selectRow(int row) = 0;
+    [[nodiscard]] virtual Selection& selection() = 0;
     /// What the property panel holds.
     [[nodiscard]] virtual PanelValues panelValues() const = 0;
     /// Size of what a new element of the kind would show, where it is known.
-    [[nodiscard]] virtual std::optional<SkinSize> naturalSize(ElementKind kind) const = 0;
+    [[nodiscard]] virtual std::optional<SkinSize> naturalSize(ElementKind kind) = 0;
     /// A new element is finished, or given up: its tool is let go.
     virtual void drawingEnded() = 0;
 };
 
-/// Lives from a press of the left button to its release, or until it is cancelled.
+/// Lives from a press of the left button to its release, or until it is cancelled: one edit of the
+/// document, under the name that the class gives it.
 class CanvasTool {
   public:
-    CanvasTool() = default;
+    CanvasTool(SkinDocument& document, std::string editName)
+        : edit_(document, std::move(editName)) {}
     virtual ~CanvasTool() = default;
     CanvasTool(const CanvasTool&) = delete;
     CanvasTool& operator=(const CanvasTool&) = delete;
@@ -43,7 +42,15 @@ class CanvasTool {
     virtual void move(SkinPoint point, bool keepProportions) = 0;
     virtual void release(SkinPoint point) = 0;
     /// Takes back what was done since the press.
-    virtual void cancel() = 0;
+    void cancel() {
+        takeBack();
+        edit_.takeBack();
+    }
+
+  private:
+    virtual void takeBack() = 0;
+
+    OpenEdit edit_;
 };
 
 } // namespace tarvel

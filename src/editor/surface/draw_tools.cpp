@@ -2,6 +2,7 @@
 #include "surface/draw_tools.h"
 
 #include "editing/new_element.h"
+#include "editing/step_names.h"
 
 namespace tarvel {
 
@@ -11,14 +12,15 @@ namespace {
 int makeSelected(ToolHost& host, ElementKind kind, SkinPoint press) {
     SkinDocument& document = host.document();
     const int id = makeNewElement(document, kind, host.panelValues(), press);
-    host.selectRow(document.rowCount(document.currentLayout()) - 1);
+    host.selection().select(document.rowCount(document.currentLayout()) - 1);
     return id;
 }
 
 } // namespace
 
 DrawTool::DrawTool(ToolHost& host, ElementKind kind, SkinPoint press)
-    : host_(host)
+    : CanvasTool(host.document(), stepName(step::draw, kind))
+    , host_(host)
     , drag_(makeSelected(host, kind, press), press) {}
 
 void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
@@ -30,8 +32,8 @@ void DrawTool::release(SkinPoint point) {
     host_.drawingEnded();
 }
 
-void DrawTool::cancel() {
-    host_.selectRow(-1);
+void DrawTool::takeBack() {
+    host_.selection().clear();
     drag_.takeBack(host_.document());
     host_.drawingEnded();
 }
@@ -61,6 +63,7 @@ std::unique_ptr<DrawTool> startDrawing(ToolHost& host, ElementKind kind, SkinPoi
 }
 
 void placeInTheMiddle(ToolHost& host, ElementKind kind) {
+    const OpenEdit edit(host.document(), stepName(step::draw, kind));
     const Place place = middlePlace(kind, host.naturalSize(kind));
     const int id = makeSelected(host, kind, {place[0], place[1]});
     placeElement(host.document(), id, place);

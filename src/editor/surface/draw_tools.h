@@ -13,7 +13,6 @@ class DrawTool : public CanvasTool {
   public:
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
-    void cancel() override;
 
   protected:
     DrawTool(ToolHost& host, ElementKind kind, SkinPoint press);
@@ -23,6 +22,8 @@ class DrawTool : public CanvasTool {
     [[nodiscard]] ToolHost& host() const { return host_; }
 
   private:
+    void takeBack() override;
+
     ToolHost& host_;
     DrawDrag drag_;
 };

@@ -1,11 +1,22 @@
 // Moving and sizing.
 #include "surface/edit_tools.h"
 
+#include "editing/step_names.h"
+
 namespace tarvel {
 
+namespace {
+
+std::string nameOf(std::string_view verb, ToolHost& host) {
+    return stepName(verb, host.document().element(host.selection().curNum()));
+}
+
+} // namespace
+
 MoveTool::MoveTool(ToolHost& host, SkinPoint press)
-    : host_(host)
-    , drag_(host.document(), host.curNum(), press) {}
+    : CanvasTool(host.document(), nameOf(step::move, host))
+    , host_(host)
+    , drag_(host.document(), host.selection().curNum(), press) {}
 
 void MoveTool::move(SkinPoint point, bool /*keepProportions*/) {
     drag_.moveTo(host_.document(), point);
@@ -13,13 +24,14 @@ void MoveTool::move(SkinPoint point, bool /*keepProportions*/) {
 
 void MoveTool::release(SkinPoint /*point*/) {}
 
-void MoveTool::cancel() {
+void MoveTool::takeBack() {
     drag_.takeBack(host_.document());
 }
 
 ResizeTool::ResizeTool(ToolHost& host, Handle handle, SkinPoint press)
-    : host_(host)
-    , drag_(host.document(), host.curNum(), handle, press) {}
+    : CanvasTool(host.document(), nameOf(step::size, host))
+    , host_(host)
+    , drag_(host.document(), host.selection().curNum(), handle, press) {}
 
 void ResizeTool::move(SkinPoint point, bool keepProportions) {
     drag_.moveTo(host_.document(), point, keepProportions);
@@ -27,13 +39,14 @@ void ResizeTool::move(SkinPoint point, bool keepProportions) {
 
 void ResizeTool::release(SkinPoint /*point*/) {}
 
-void ResizeTool::cancel() {
+void ResizeTool::takeBack() {
     drag_.takeBack(host_.document());
 }
 
 LineEndTool::LineEndTool(ToolHost& host, Handle end, SkinPoint press)
-    : host_(host)
-    , drag_(host.document(), host.curNum(), end, press) {}
+    : CanvasTool(host.document(), nameOf(step::moveEnd, host))
+    , host_(host)
+    , drag_(host.document(), host.selection().curNum(), end, press) {}
 
 void LineEndTool::move(SkinPoint point, bool /*keepProportions*/) {
     drag_.moveTo(host_.document(), point);
@@ -41,7 +54,7 @@ void LineEndTool::move(SkinPoint point, bool /*keepProportions*/) {
 
 void LineEndTool::release(SkinPoint /*point*/) {}
 
-void LineEndTool::cancel() {
+void LineEndTool::takeBack() {
     drag_.takeBack(host_.document());
 }
 

@@ -12,9 +12,10 @@ class MoveTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
-    void cancel() override;
 
   private:
+    void takeBack() override;
+
     ToolHost& host_;
     MoveDrag drag_;
 };
@@ -25,9 +26,10 @@ class ResizeTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
-    void cancel() override;
 
   private:
+    void takeBack() override;
+
     ToolHost& host_;
     ResizeDrag drag_;
 };
@@ -38,9 +40,10 @@ class LineEndTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
-    void cancel() override;
 
   private:
+    void takeBack() override;
+
     ToolHost& host_;
     LineEndDrag drag_;
 };

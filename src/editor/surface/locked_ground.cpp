@@ -7,7 +7,8 @@ namespace tarvel {
 
 LockedGround::LockedGround(const SkinDocument& document, Pic& pic)
     : document_(document)
-    , pic_(pic) {
+    , pic_(pic)
+    , watch_(document.watch(*this)) {
     later_.setSingleShot(true);
     later_.setInterval(0);
     connect(&later_, &QTimer::timeout, this, &LockedGround::refresh);

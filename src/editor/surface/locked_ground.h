@@ -12,20 +12,22 @@ class Pic;
 
 /// Keeps the surface's flat ground in line with the document's locks. Owns neither; both outlive
 /// it.
-class LockedGround : public QObject {
+class LockedGround : public QObject, private DocumentObserver {
     Q_OBJECT
 
   public:
     LockedGround(const SkinDocument& document, Pic& pic);
 
-    /// To be told of every change of the document.
-    void documentChanged(const DocumentChange& change);
+    /// Pictures changed: the ground is out of date.
+    void picturesChanged() { documentChanged({DocumentChange::What::settings}); }
 
   private:
+    void documentChanged(const DocumentChange& change) override;
     void refresh();
 
     const SkinDocument& document_;
     Pic& pic_;
+    DocumentWatch watch_;
     int screen_ = -1;
     int locked_ = 0;
     QTimer later_; // gathers the changes of one command

@@ -53,7 +53,7 @@ Pic::Pic(PictureCache& pictures, QWidget* parent)
     , painter_(pictures) {
     setObjectName("Pic");
     setAccessibleName(tr("Drawing surface"));
-    setFixedSize(skinWidth, skinHeight);
+    setFixedSize(mapping_.screen().size().toSize());
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -68,6 +68,7 @@ Pic::~Pic() = default;
 
 void Pic::setDocument(const SkinDocument* document) {
     document_ = document;
+    watch_ = document == nullptr ? DocumentWatch() : document->watch(*this);
     documentChanged({DocumentChange::What::everything});
 }
 
@@ -118,7 +119,9 @@ QImage Pic::flatPicture(int endRow) {
         SurfaceView flat = view();
         flat.endRow = endRow;
         QPainter painter(&image);
-        painter_.paint(painter, *document_, document_->currentLayout(), rect(), flat);
+        painter.setTransform(mapping_.toWidget(), true);
+        painter_.paint(painter, *document_, document_->currentLayout(), mapping_.toSkin(rect()),
+                       flat);
     }
     return image;
 }
@@ -134,7 +137,7 @@ QRectF Pic::elementBounds(const Element& element) {
 }
 
 QSize Pic::sizeHint() const {
-    return {skinWidth, skinHeight};
+    return mapping_.screen().size().toSize();
 }
 
 void Pic::paintEvent(QPaintEvent* event) {
@@ -153,18 +156,20 @@ void Pic::paintEvent(QPaintEvent* event) {
 }
 
 void Pic::paintRegion(QPainter& painter, const QRegion& region) {
-    const int screen = document_->currentLayout();
+    painter.setTransform(mapping_.toWidget(), true);
+    const auto paint = [&](const QRect& part) {
+        painter_.paint(painter, *document_, document_->currentLayout(), mapping_.toSkin(part),
+                       view());
+    };
     if (region.rectCount() > largestCount || lieTogether(region)) {
-        painter_.paint(painter, *document_, screen, region.boundingRect(), view());
+        paint(region.boundingRect());
         return;
     }
-    for (const QRect& part : region) {
-        painter_.paint(painter, *document_, screen, part, view());
-    }
+    std::for_each(region.begin(), region.end(), paint);
 }
 
 void Pic::mouseMoveEvent(QMouseEvent* event) {
-    emit pointerMoved(event->position());
+    emit pointerMoved(mapping_.toSkin(event->position()));
     QWidget::mouseMoveEvent(event);
 }
 
@@ -206,7 +211,7 @@ void Pic::repaintDamage(const Damage& damage) {
 void Pic::repaintRect(const QRectF& rect) {
     const QRectF visible = rect & QRectF(0, 0, skinWidth, skinHeight);
     if (!visible.isEmpty()) {
-        update(visible.toAlignedRect());
+        update(mapping_.toWidget(visible).toAlignedRect());
     }
 }
 

@@ -5,6 +5,7 @@
 #include "surface/surface_damage.h"
 #include "surface/surface_painter.h"
 #include "surface/video_stage.h"
+#include "surface/view_mapping.h"
 
 #include <QImage>
 #include <QWidget>
@@ -15,9 +16,10 @@ namespace tarvel {
 
 class PictureCache;
 
-/// One widget pixel is one skin pixel; on finer displays everything is drawn at their resolution.
+/// mapping() tells which widget pixels are which skin pixels; on finer displays everything is drawn
+/// at their resolution.
 /// Paints from the document each time and keeps no skin data besides where things were last seen.
-class Pic : public QWidget {
+class Pic : public QWidget, private DocumentObserver {
     Q_OBJECT
 
   public:
@@ -25,11 +27,12 @@ class Pic : public QWidget {
     explicit Pic(PictureCache& pictures, QWidget* parent = nullptr);
     ~Pic() override;
 
-    /// Not owned, and outlives the surface or its next setDocument(); nullptr shows black.
+    /// Not owned, and outlives the surface or its next setDocument(); nullptr shows black. Follows
+    /// the document's changes from now on, and repaints no more than what changed.
     void setDocument(const SkinDocument* document);
 
-    /// To be told of every change of the document, after it. Repaints no more than what changed.
-    void documentChanged(const DocumentChange& change);
+    /// Where on the widget the skin is.
+    [[nodiscard]] const ViewMapping& mapping() const { return mapping_; }
 
     /// Shows `ground` stretched over the screen in place of the background picture, and only the
     /// rows from `firstRow` on.
@@ -54,7 +57,7 @@ class Pic : public QWidget {
     [[nodiscard]] QSize sizeHint() const override;
 
   signals:
-    /// The pointer is at a point, in skin pixels.
+    /// The pointer is at a point, in skin pixels and parts of them.
     void pointerMoved(QPointF point);
 
   protected:
@@ -64,6 +67,7 @@ class Pic : public QWidget {
     void hideEvent(QHideEvent* event) override;
 
   private:
+    void documentChanged(const DocumentChange& change) override;
     void elementChanged(int elementId);
     void settingsChanged();
     void repaintDamage(const Damage& damage);
@@ -75,6 +79,8 @@ class Pic : public QWidget {
 
     PictureCache& pictures_;
     const SkinDocument* document_ = nullptr;
+    DocumentWatch watch_;
+    ViewMapping mapping_;
     VideoStage videos_;
     SurfacePainter painter_;
     SurfaceDamage damage_;

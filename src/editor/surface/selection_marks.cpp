@@ -2,6 +2,7 @@
 #include "surface/selection_marks.h"
 
 #include "editing/hit_test.h"
+#include "surface/pic.h"
 #include "surface/surface_geometry.h"
 
 #include <QLabel>
@@ -23,18 +24,22 @@ void paintHandle(QPainter& painter, const QRectF& rect) {
     painter.fillRect(rect.adjusted(1, 1, -1, -1), Qt::white);
 }
 
+} // namespace
+
 // The outline of an element with its handles; a mark may reach over the edge of its element.
 class SelectionBox : public QWidget {
   public:
-    using QWidget::QWidget;
+    explicit SelectionBox(Pic& surface)
+        : QWidget(&surface)
+        , surface_(surface) {}
 
     void show(const Element& element) {
         const ElementControl& control = element.elementControl;
         // Places may be as far out as numbers go, windows may not.
-        const QRect near =
+        const QRectF skin =
             nearSurface(QRectF(control.left, control.top, std::max(control.width, 0.0F),
-                               std::max(control.height, 0.0F)))
-                .toAlignedRect();
+                               std::max(control.height, 0.0F)));
+        const QRect near = surface_.mapping().toWidget(skin).toAlignedRect();
         element_ = element;
         setGeometry(near.adjusted(-margin, -margin, margin, margin));
         update();
@@ -68,13 +73,15 @@ class SelectionBox : public QWidget {
     }
 
   private:
+    const Pic& surface_;
     Element element_;
 };
 
 class LineEndMark : public QWidget {
   public:
-    LineEndMark(QWidget* parent, int number)
-        : QWidget(parent) {
+    LineEndMark(Pic& surface, int number)
+        : QWidget(&surface)
+        , surface_(surface) {
         setObjectName(QStringLiteral("fraResize%1").arg(number));
         auto* label = new QLabel(this);
         label->setObjectName(QStringLiteral("lblResize%1").arg(number));
@@ -89,8 +96,9 @@ class LineEndMark : public QWidget {
             setVisible(false); // too far out to be seen
             return;
         }
-        move(static_cast<int>(std::lround(point.x)) - width() / 2,
-             static_cast<int>(std::lround(point.y)) - height() / 2);
+        const QPointF at = surface_.mapping().toWidget(centre);
+        move(static_cast<int>(std::lround(at.x())) - width() / 2,
+             static_cast<int>(std::lround(at.y())) - height() / 2);
         raise();
         setVisible(true);
     }
@@ -100,7 +108,12 @@ class LineEndMark : public QWidget {
         QPainter painter(this);
         paintHandle(painter, rect());
     }
+
+  private:
+    const Pic& surface_;
 };
+
+namespace {
 
 template <class Mark> Mark* prepared(Mark* mark) {
     mark->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -110,18 +123,18 @@ template <class Mark> Mark* prepared(Mark* mark) {
 
 } // namespace
 
-SelectionMarks::SelectionMarks(QWidget& surface)
+SelectionMarks::SelectionMarks(Pic& surface)
     : QObject(&surface)
-    , fraSel_(prepared(new SelectionBox(&surface)))
-    , fraResize1_(prepared(new LineEndMark(&surface, 1)))
-    , fraResize2_(prepared(new LineEndMark(&surface, 2))) {
+    , fraSel_(prepared(new SelectionBox(surface)))
+    , fraResize1_(prepared(new LineEndMark(surface, 1)))
+    , fraResize2_(prepared(new LineEndMark(surface, 2))) {
     fraSel_->setObjectName(QStringLiteral("fraSel"));
 }
 
 void SelectionMarks::setSel(const Element& element) {
     fraResize1_->setVisible(false);
     fraResize2_->setVisible(false);
-    static_cast<SelectionBox*>(fraSel_)->show(element);
+    fraSel_->show(element);
 }
 
 void SelectionMarks::setSelLine(const Element& element) {
@@ -129,10 +142,8 @@ void SelectionMarks::setSelLine(const Element& element) {
     if (element.elementLocked) {
         return; // its ends cannot be dragged
     }
-    static_cast<LineEndMark*>(fraResize1_)
-        ->showAt(handleCentre(element.elementControl, Handle::firstEnd));
-    static_cast<LineEndMark*>(fraResize2_)
-        ->showAt(handleCentre(element.elementControl, Handle::secondEnd));
+    fraResize1_->showAt(handleCentre(element.elementControl, Handle::firstEnd));
+    fraResize2_->showAt(handleCentre(element.elementControl, Handle::secondEnd));
 }
 
 void SelectionMarks::setCurrentSel(const Element& element) {

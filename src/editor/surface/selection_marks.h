@@ -7,12 +7,16 @@
 
 namespace tarvel {
 
+class LineEndMark;
+class Pic;
+class SelectionBox;
+
 /// Owns nothing; the marks are children of the surface and let the pointer through to it.
 class SelectionMarks : public QObject {
     Q_OBJECT
 
   public:
-    explicit SelectionMarks(QWidget& surface);
+    explicit SelectionMarks(Pic& surface);
 
     /// Puts the marks on an element: `fraSel` for boxes, images, texts and menus.
     void setSel(const Element& element);
@@ -25,9 +29,9 @@ class SelectionMarks : public QObject {
     [[nodiscard]] bool isBoxShown() const;
 
   private:
-    QWidget* fraSel_;
-    QWidget* fraResize1_;
-    QWidget* fraResize2_;
+    SelectionBox* fraSel_;
+    LineEndMark* fraResize1_;
+    LineEndMark* fraResize2_;
 };
 
 } // namespace tarvel

@@ -1,8 +1,10 @@
 // Presses, moves, releases and keys of the surface.
 #include "surface/surface_controller.h"
 
+#include "editing/step_names.h"
 #include "surface/draw_tools.h"
 #include "surface/edit_tools.h"
+#include "surface/pic.h"
 #include "surface/selection_marks.h"
 #include "widgets/shown_path.h"
 
@@ -12,20 +14,13 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QWidget>
 
-#include <cmath>
+#include <chrono>
 #include <utility>
 
 namespace tarvel {
 
 namespace {
-
-// The skin pixel under the pointer: on finer displays the pointer stands between them, too.
-SkinPoint pointOf(const QMouseEvent& event) {
-    return {static_cast<float>(std::floor(event.position().x())),
-            static_cast<float>(std::floor(event.position().y()))};
-}
 
 int modifiersOf(const QKeyEvent& event) {
     const auto held = [&](Qt::KeyboardModifier key, int bit) {
@@ -60,10 +55,16 @@ Qt::CursorShape pointerOf(Handle handle) {
 
 } // namespace
 
-SurfaceController::SurfaceController(QWidget& surface, ToolHost& host, SelectionMarks& marks)
+SurfaceController::SurfaceController(Pic& surface, ToolHost& host, SelectionMarks& marks)
     : surface_(surface)
     , host_(host)
-    , marks_(marks) {
+    , marks_(marks)
+    , watch_(host.document().watch(*this))
+    , picksWatch_(host.document().watch(picks_)) {
+    using namespace std::chrono_literals;
+    nudgeEnd_.setSingleShot(true);
+    nudgeEnd_.setInterval(1s);
+    connect(&nudgeEnd_, &QTimer::timeout, this, [this] { host_.document().endRun(); });
     surface_.installEventFilter(this);
     surface_.setAcceptDrops(true);
 }
@@ -81,8 +82,11 @@ void SurfaceController::documentChanged(const DocumentChange& change) {
         change.what == DocumentChange::What::currentLayout) {
         work_.reset(); // what it worked on is not shown any more
     }
-    picks_.documentChanged(change);
     showPointerLater();
+}
+
+SkinPoint SurfaceController::pointOf(const QMouseEvent& event) const {
+    return surface_.mapping().pixelAt(event.position());
 }
 
 void SurfaceController::cancelWork() {
@@ -138,7 +142,7 @@ void SurfaceController::press(const QMouseEvent& event) {
         pressLeft(pointOf(event));
     } else if (event.button() == Qt::RightButton) {
         pick(pointOf(event));
-        emit menuWanted(event.globalPosition().toPoint(), host_.curNum() != 0);
+        emit menuWanted(event.globalPosition().toPoint());
     }
 }
 
@@ -147,7 +151,7 @@ void SurfaceController::pressLeft(SkinPoint point) {
         draw(*kind_, point);
         return;
     }
-    const int selected = host_.curNum();
+    const int selected = host_.selection().curNum();
     const Handle handle = handleAt(host_.document().element(selected), point);
     if (selected != 0 && handle != Handle::none) {
         if (edgesOf(handle).x == 0 && edgesOf(handle).y == 0) {
@@ -158,7 +162,7 @@ void SurfaceController::pressLeft(SkinPoint point) {
         return;
     }
     pick(point);
-    if (const int id = host_.curNum(); id != 0) {
+    if (const int id = host_.selection().curNum(); id != 0) {
         // A line is held by the end that was pressed.
         const Handle end = handleAt(host_.document().element(id), point);
         if (end == Handle::firstEnd || end == Handle::secondEnd) {
@@ -170,7 +174,7 @@ void SurfaceController::pressLeft(SkinPoint point) {
 }
 
 void SurfaceController::draw(ElementKind kind, SkinPoint press) {
-    host_.selectRow(-1);
+    host_.selection().clear();
     if (!refused(kind)) {
         const QScopedValueRollback making(making_, true);
         work_ = startDrawing(host_, kind, press);
@@ -179,14 +183,14 @@ void SurfaceController::draw(ElementKind kind, SkinPoint press) {
 
 void SurfaceController::pick(SkinPoint point) {
     const int row = picks_.rowAt(host_.document(), point);
-    host_.selectRow(-1);
-    host_.selectRow(row);
+    host_.selection().clear();
+    host_.selection().select(row);
 }
 
 // Of the menu key: the pointer asks for its menu with the press.
 bool SurfaceController::contextMenu(const QContextMenuEvent& event) {
     if (event.reason() == QContextMenuEvent::Keyboard && work_ == nullptr) {
-        emit menuWanted(event.globalPos(), host_.curNum() != 0);
+        emit menuWanted(event.globalPos());
     }
     return true;
 }
@@ -243,7 +247,7 @@ bool SurfaceController::key(const QKeyEvent& event) {
         if (!kind_ || work_ != nullptr) {
             return false;
         }
-        host_.selectRow(-1);
+        host_.selection().clear();
         if (!refused(*kind_)) {
             const QScopedValueRollback making(making_, true);
             placeInTheMiddle(host_, *kind_);
@@ -273,9 +277,18 @@ bool SurfaceController::arrowKey(const QKeyEvent& event) {
         return false;
     }
     if (marks_.isBoxShown() && work_ == nullptr) {
-        moveByKey(host_.document(), host_.curNum(), *arrow, modifiersOf(event));
+        nudge(*arrow, modifiersOf(event));
     }
     return true; // arrows never lead the focus away from the surface
+}
+
+// Keys pressed one soon after the other are one step.
+void SurfaceController::nudge(ArrowKey key, int modifiers) {
+    SkinDocument& document = host_.document();
+    const int id = host_.selection().curNum();
+    document.continueRun(stepName(step::move, document.element(id)));
+    moveByKey(document, id, key, modifiers);
+    nudgeEnd_.start();
 }
 
 // Once after a run of changes. What is under the pointer may have changed without its moving.
@@ -301,7 +314,7 @@ Qt::CursorShape SurfaceController::pointerAt(SkinPoint point) {
         return Qt::CrossCursor;
     }
     const SkinDocument& document = host_.document();
-    if (const int selected = host_.curNum(); selected != 0) {
+    if (const int selected = host_.selection().curNum(); selected != 0) {
         const Handle handle = handleAt(document.element(selected), point);
         if (handle != Handle::none) {
             return pointerOf(handle);

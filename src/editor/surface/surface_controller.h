@@ -2,11 +2,13 @@
 #pragma once
 
 #include "editing/hit_test.h"
+#include "editing/manipulation.h"
 #include "editing/pick_index.h"
 #include "surface/canvas_tool.h"
 
 #include <QObject>
 #include <QPoint>
+#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -19,20 +21,19 @@ class QWidget;
 
 namespace tarvel {
 
+class Pic;
 class SelectionMarks;
 
 /// Watches the surface's events. Surface, host and marks are not owned and outlive it.
-class SurfaceController : public QObject {
+class SurfaceController : public QObject, private DocumentObserver {
     Q_OBJECT
 
   public:
-    SurfaceController(QWidget& surface, ToolHost& host, SelectionMarks& marks);
+    SurfaceController(Pic& surface, ToolHost& host, SelectionMarks& marks);
     ~SurfaceController() override;
 
     /// The kind that the next press draws; nothing lets presses pick.
     void setTool(std::optional<ElementKind> kind);
-    /// To be told of every change of the document.
-    void documentChanged(const DocumentChange& change);
     /// Whether the pointer is drawing or dragging.
     [[nodiscard]] bool isWorking() const { return work_ != nullptr; }
     /// Whether an element is just being made and selected.
@@ -45,8 +46,8 @@ class SurfaceController : public QObject {
     void pressed();
     /// A tool's kind is about to be drawn. Answer with `refuse` set to keep it from being made.
     void aboutToDraw(tarvel::ElementKind kind, bool& refuse);
-    /// The right button asks for a menu, or the menu key; `onElement` when one is selected.
-    void menuWanted(QPoint globalPosition, bool onElement);
+    /// The right button asks for a menu, or the menu key.
+    void menuWanted(QPoint globalPosition);
     /// Escape, with nothing going on.
     void toolGivenUp();
     /// A file of the host was dropped onto the surface.
@@ -56,6 +57,7 @@ class SurfaceController : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void documentChanged(const DocumentChange& change) override;
     void press(const QMouseEvent& event);
     void pressLeft(SkinPoint point);
     void pick(SkinPoint point);
@@ -65,16 +67,21 @@ class SurfaceController : public QObject {
     bool contextMenu(const QContextMenuEvent& event);
     bool key(const QKeyEvent& event);
     bool arrowKey(const QKeyEvent& event);
+    void nudge(ArrowKey key, int modifiers);
     void showPointer();
     void showPointerLater();
     void draw(ElementKind kind, SkinPoint press);
     [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point);
+    [[nodiscard]] SkinPoint pointOf(const QMouseEvent& event) const;
     [[nodiscard]] bool refused(ElementKind kind);
 
-    QWidget& surface_;
+    Pic& surface_;
     ToolHost& host_;
     SelectionMarks& marks_;
     PickIndex picks_;
+    DocumentWatch watch_;
+    DocumentWatch picksWatch_;
+    QTimer nudgeEnd_; // between arrow keys that are one step
     std::optional<ElementKind> kind_;
     std::unique_ptr<CanvasTool> work_;
     bool making_ = false;

@@ -1,16 +1,17 @@
 // The commands of the element's context menu: order, selection, locks, deletion.
 #pragma once
 
+#include "document/selection.h"
 #include "editing/stacking.h"
-#include "surface/canvas_tool.h"
 
 namespace tarvel {
 
-/// Works on the selected element of the host, which outlives it.
+/// Works on the selected element. Document and selection are not owned and outlive it.
 class ElementCommands {
   public:
-    explicit ElementCommands(ToolHost& host)
-        : host_(host) {}
+    ElementCommands(SkinDocument& document, Selection& selection)
+        : document_(document)
+        , selection_(selection) {}
 
     void mnuFront_Click() { restackSelected(StackingCommand::Front); }
     void mnuBack_Click() { restackSelected(StackingCommand::Back); }
@@ -25,8 +26,10 @@ class ElementCommands {
 
   private:
     void restackSelected(StackingCommand command);
+    [[nodiscard]] std::string stepWith(std::string_view what) const;
 
-    ToolHost& host_;
+    SkinDocument& document_;
+    Selection& selection_;
 };
 
 } // namespace tarvel

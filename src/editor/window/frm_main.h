@@ -1,8 +1,8 @@
-// The main window: composes the panels and keeps them in line with the document.
+// The main window: composes the panels around the one document of a run.
 #pragma once
 
-#include "document/skin_document.h"
-#include "surface/canvas_tool.h"
+#include "document/selection.h"
+#include "editing/position_fields.h"
 #include "surface/picture_cache.h"
 #include "window/element_commands.h"
 #include "window/skin_file_commands.h"
@@ -30,13 +30,15 @@ class PositionPanel;
 class Prompts;
 class PropertyPanel;
 class SelectionMarks;
+class SelectionViews;
 class SkinDialogs;
-class SurfaceController;
-class SurfaceCover;
+class ToolChoice;
 class WindowGate;
+class WindowKeys;
 
-/// Owns the one document of a run. Asks the user through `prompts`, which outlives the window.
-class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
+/// Owns the document and what is selected in it. Asks the user through `prompts`, which outlives
+/// the window.
+class FrmMain : public QMainWindow {
     Q_OBJECT
 
   public:
@@ -45,16 +47,14 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
     FrmMain(Prompts& prompts, const std::filesystem::path& programFolder);
     ~FrmMain() override;
 
-    [[nodiscard]] SkinDocument& document() override { return document_; }
+    [[nodiscard]] SkinDocument& document() { return document_; }
     /// Id of the selected element; 0 when none is selected.
-    [[nodiscard]] int curNum() const override;
+    [[nodiscard]] int curNum() const { return selection_.curNum(); }
 
     /// Shows a screen, with nothing selected.
     void optScreen_Click(int index);
     /// Makes the screen whose button is checked the current one.
     void SetCurLayout();
-    /// Marks the screens that hold elements.
-    void setLayoutBolds();
     /// Marks the behaviours that the selected element carries.
     void setBolds();
 
@@ -63,47 +63,33 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
 
   protected:
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    void documentChanged(const DocumentChange& change) override;
-
-    // What the surface's tools see.
-    [[nodiscard]] int selectedRow() const override;
-    void selectRow(int row) override;
-    [[nodiscard]] PanelValues panelValues() const override;
-    [[nodiscard]] std::optional<SkinSize> naturalSize(ElementKind kind) const override;
-    void drawingEnded() override;
-
-    void showCurrentLayout();
-    void showSelection();
-    void setCurrentSel();
-    void chooseTool(std::optional<ElementKind> kind);
-    void refuseInvalid(ElementKind kind, bool& refuse);
-    bool windowKey(QKeyEvent& event, bool pressed);
-    bool menuKey(const QKeyEvent& event, QWidget& widget);
-    void popupMenu(QPoint globalPosition, bool onElement);
-
     void build(const std::filesystem::path& programFolder);
     QWidget* buildLeftSide();
     QWidget* buildSurface();
     QWidget* buildRightSide();
-    void connectSurface();
+    QWidget* buildStopButton();
+    void buildReactions();
     void connectPanels();
     void connectMenus();
     void watchPictures();
     void slideIn();
+    void popupMenu(QPoint globalPosition);
+    void enterPosition(PositionField field, const QString& text);
+    void applyChanges();
 
     Prompts& prompts_;
     SkinDocument document_;
+    Selection selection_{document_};
     PictureCache pictures_;
     SkinFileCommands files_;
-    ElementCommands commands_{*this};
+    ElementCommands commands_{document_, selection_};
 
-    MainMenus* menus_ = nullptr;
+    std::unique_ptr<MainMenus> menus_;
     Pic* pic_ = nullptr;
     QWidget* surface_ = nullptr; // the frame around Pic
     QLabel* lblPos_ = nullptr;
@@ -114,12 +100,14 @@ class FrmMain : public QMainWindow, private DocumentObserver, private ToolHost {
     PositionPanel* fraPos_ = nullptr;
     PropertyPanel* properties_ = nullptr;
     BehaviourButtons* behaviours_ = nullptr;
+    QWidget* cmdStop_ = nullptr;
     BehaviourPanels* behaviourPanels_ = nullptr;
     PanelSlide* slide_ = nullptr;
     WindowGate* gate_ = nullptr;
     SelectionMarks* marks_ = nullptr;
-    std::unique_ptr<SurfaceController> controller_;
-    std::unique_ptr<SurfaceCover> cover_;
+    std::unique_ptr<ToolChoice> tools_;
+    std::unique_ptr<SelectionViews> views_;
+    std::unique_ptr<WindowKeys> keys_;
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;

@@ -1,5 +1,4 @@
 // What the main window consists of, and what is connected to what.
-#include "editing/element_update.h"
 #include "editing/manipulation.h"
 #include "editing/panel_texts.h"
 #include "panels/behaviour_buttons.h"
@@ -14,15 +13,18 @@
 #include "surface/picture_watch.h"
 #include "surface/selection_marks.h"
 #include "surface/surface_controller.h"
-#include "surface/surface_cover.h"
+#include "widgets/control_names.h"
 #include "widgets/focus_frame.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
 #include "window/behaviour_panels.h"
 #include "window/frm_main.h"
 #include "window/main_menus.h"
+#include "window/selection_views.h"
 #include "window/skin_dialogs.h"
+#include "window/tool_choice.h"
 #include "window/window_gate.h"
+#include "window/window_keys.h"
 
 #include <QAction>
 #include <QLabel>
@@ -30,13 +32,12 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
-#include <cmath>
+#include <initializer_list>
 
 namespace tarvel {
 
 namespace {
 
-constexpr auto stopName = "cmdStop";
 constexpr auto noteText =
     "Note: Most TV's cut off edges of the screen, so make sure you leave some "
     "extra room around your layout.";
@@ -57,7 +58,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     setWindowTitle(
         QStringLiteral(":: TARVEL %1.%2 :: by varnokelt ").arg(versionMajor).arg(versionMinor));
     setWindowIcon(QIcon(QStringLiteral(":/tarvel/tarvel.png")));
-    menus_ = new MainMenus(*this);
+    menus_ = std::make_unique<MainMenus>(*this);
     gate_ = new WindowGate(*this);
     slide_ = new PanelSlide(this);
     dialogs_ = std::make_unique<SkinDialogs>(document_, prompts_, pictures_, this);
@@ -70,12 +71,10 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     columns->addWidget(right, 1);
     columns->insertWidget(0, left);
     setCentralWidget(centre);
-    auto* floor = right->findChild<QWidget*>(QLatin1String(stopName));
     behaviourPanels_ =
         new BehaviourPanels(document_, prompts_, *gate_,
-                            {.side = *right, .roof = *fraPos_, .floor = *floor}, programFolder);
-
-    connectSurface();
+                            {.side = *right, .roof = *fraPos_, .floor = *cmdStop_}, programFolder);
+    buildReactions();
     connectPanels();
     connectMenus();
     watchPictures();
@@ -85,10 +84,6 @@ QWidget* FrmMain::buildSurface() {
     pic_ = new Pic(pictures_);
     auto* frame = new FocusFrame(*pic_);
     marks_ = new SelectionMarks(*pic_);
-    ToolHost& host = *this;
-    controller_ = std::make_unique<SurfaceController>(*pic_, host, *marks_);
-    cover_ = std::make_unique<SurfaceCover>(*pic_);
-    ground_ = std::make_unique<LockedGround>(document_, *pic_);
     return frame;
 }
 
@@ -98,9 +93,8 @@ QWidget* FrmMain::buildLeftSide() {
     column->setContentsMargins(0, 0, 0, 0);
     surface_ = sliding(buildSurface());
 
-    lblPos_ = new QLabel(QStringLiteral("X: 0 Y: 0"));
-    lblPos_->setObjectName(QStringLiteral("lblPos"));
-    lblPos_->setAccessibleName(tr("Position of the pointer"));
+    lblPos_ = named(new QLabel(qtText(initialReadout)), QStringLiteral("lblPos"),
+                    tr("Position of the pointer"));
     fraCreate_ = sliding(new CreatePanel);
     auto* note = new QLabel(QLatin1String(noteText));
     note->setObjectName(QStringLiteral("fraNote"));
@@ -120,18 +114,11 @@ QWidget* FrmMain::buildRightSide() {
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
 
-    fraLayout_ = sliding(new LayoutPanel);
-    fraElements_ = sliding(new ElementsPanel(document_));
+    fraLayout_ = sliding(new LayoutPanel(document_));
+    fraElements_ = sliding(new ElementsPanel(document_, selection_));
     fraPos_ = sliding(new PositionPanel);
     properties_ = sliding(new PropertyPanel(document_, prompts_, pictures_));
-    behaviours_ = sliding(new BehaviourButtons({menus_->entry(QStringLiteral("mnuModifier(0)")),
-                                                menus_->entry(QStringLiteral("mnuModifier(1)")),
-                                                menus_->entry(QStringLiteral("mnuModifier(2)"))}));
-    auto* cmdStop = new QPushButton(qtText(caption::cmdStop));
-    cmdStop->setObjectName(QLatin1String(stopName));
-    cmdStop->setAccessibleName(tr("Stop the videos of this screen"));
-    connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
-    connect(cmdStop, &QPushButton::clicked, properties_, &PropertyPanel::stopPreview);
+    behaviours_ = sliding(new BehaviourButtons(menus_->mnuModifier()));
     // Saving is in the menu; this button does nothing and is not shown.
     auto* cmdSave = new QPushButton(side);
     cmdSave->setObjectName(QStringLiteral("cmdSave"));
@@ -144,105 +131,107 @@ QWidget* FrmMain::buildRightSide() {
     column->addWidget(fraPos_);
     column->addWidget(behaviours_);
     column->addWidget(properties_);
-    properties_->addBeside(cmdStop);
+    cmdStop_ = buildStopButton();
+    properties_->addBeside(cmdStop_);
     side->setMinimumWidth(450);
     return side;
 }
 
-void FrmMain::connectSurface() {
-    connect(pic_, &Pic::pointerMoved, this, [this](QPointF point) {
-        lblPos_->setText(qtText(readoutText({static_cast<float>(std::floor(point.x())),
-                                             static_cast<float>(std::floor(point.y()))})));
-    });
-    connect(controller_.get(), &SurfaceController::pressed, properties_,
-            &PropertyPanel::stopPreview);
-    connect(controller_.get(), &SurfaceController::aboutToDraw, this, &FrmMain::refuseInvalid);
-    connect(controller_.get(), &SurfaceController::menuWanted, this, &FrmMain::popupMenu);
-    connect(controller_.get(), &SurfaceController::toolGivenUp, this, [this] {
-        if (fraCreate_->tool()) {
-            drawingEnded();
-        }
-    });
-    connect(controller_.get(), &SurfaceController::fileDropped, this,
-            [this](const QString& file) { dialogs_->addResource(file); });
-    connect(cover_.get(), &SurfaceCover::aboutToCover, marks_, &SelectionMarks::hideSels);
+QWidget* FrmMain::buildStopButton() {
+    auto* cmdStop = named(new QPushButton(qtText(caption::cmdStop)), QStringLiteral("cmdStop"),
+                          tr("Stop the videos of this screen"));
+    connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
+    connect(cmdStop, &QPushButton::clicked, properties_, &PropertyPanel::stopPreview);
+    return cmdStop;
+}
+
+// Whoever is told of changes is told in the order of its making: the selection first, then lists
+// and panels, tools, the marks and fields, and the ground of locked elements; the surface is last.
+void FrmMain::buildReactions() {
+    tools_ = std::make_unique<ToolChoice>(ToolChoice::Parts{.document = document_,
+                                                            .selection = selection_,
+                                                            .surface = *pic_,
+                                                            .marks = *marks_,
+                                                            .tools = *fraCreate_,
+                                                            .properties = *properties_,
+                                                            .pictures = pictures_,
+                                                            .prompts = prompts_});
+    views_ = std::make_unique<SelectionViews>(document_, selection_,
+                                              SelectionViews::Views{.marks = *marks_,
+                                                                    .position = *fraPos_,
+                                                                    .behaviours = *behaviours_,
+                                                                    .properties = *properties_,
+                                                                    .tools = *fraCreate_});
+    tools_->setViews(*views_);
+    ground_ = std::make_unique<LockedGround>(document_, *pic_);
+    keys_ = std::make_unique<WindowKeys>(
+        *this, [this] { return !gate_->isClosed(); },
+        std::vector<WindowKeys::Key>{
+            {Qt::Key_Escape, [this] { return tools_->isBusy(); }, [this] { tools_->giveUp(); }},
+            {Qt::Key_Delete, [this] { return !selection_.isEmpty(); },
+             [this] {
+                 tools_->cancelWork();
+                 commands_.mnuDelete_Click();
+             }}});
 }
 
 void FrmMain::connectPanels() {
+    connect(pic_, &Pic::pointerMoved, this,
+            [this](QPointF point) { lblPos_->setText(qtText(readoutText(pixelOf(point)))); });
+    SurfaceController& controller = tools_->controller();
+    connect(&controller, &SurfaceController::menuWanted, this, &FrmMain::popupMenu);
+    connect(&controller, &SurfaceController::fileDropped, this,
+            [this](const QString& file) { dialogs_->addResource(file); });
     connect(fraLayout_, &LayoutPanel::screenClicked, this, &FrmMain::optScreen_Click);
-    connect(fraElements_, &ElementsPanel::listIndexChanged, this, [this](int screen) {
-        if (screen != document_.currentLayout()) {
-            return;
-        }
-        // Panel and tool are of one kind. What is being drawn is selected too, and keeps its tool.
-        if (selectedRow() >= 0 && fraCreate_->tool() && !controller_->isMaking()) {
-            drawingEnded();
-        } else {
-            showSelection();
-        }
-    });
     connect(fraElements_, &ElementsPanel::menuWanted, this, &FrmMain::popupMenu);
-    connect(fraCreate_, &CreatePanel::toolChosen, this, [this](std::optional<ElementKind> kind) {
-        chooseTool(kind);
-        if (!kind) {
-            showSelection();
-        }
-    });
-    connect(fraPos_, &PositionPanel::entered, this,
-            [this](PositionField field, const QString& text) {
-                enterPosition(document_, curNum(), field, coreText(text));
-                setCurrentSel(); // what was typed may read differently
-            });
-    connect(properties_, &PropertyPanel::applyClicked, this,
-            [this] { updateControls(document_, curNum(), properties_->values()); });
+    connect(fraPos_, &PositionPanel::entered, this, &FrmMain::enterPosition);
+    connect(properties_, &PropertyPanel::applyClicked, this, &FrmMain::applyChanges);
     connect(properties_, &PropertyPanel::addResourceClicked, this,
             [this] { dialogs_->mnuResource_Click(); });
     connect(behaviours_, &BehaviourButtons::cmdModifier_Click, this,
-            [this](int index) { behaviourPanels_->cmdModifier_Click(index, curNum()); });
+            [this](int index) { behaviourPanels_->cmdModifier_Click(index, selection_.curNum()); });
     connect(behaviourPanels_, &BehaviourPanels::closed, this, &FrmMain::setBolds);
     connect(&files_, &SkinFileCommands::told, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
 }
 
 void FrmMain::connectMenus() {
-    const auto on = [this](const char* name, auto&& handler) {
-        connect(menus_->entry(QLatin1String(name)), &QAction::triggered, this, handler);
+    const auto on = [this](QAction* entry, auto&& handler) {
+        connect(entry, &QAction::triggered, this, handler);
     };
-    on("mnuSave", [this] { files_.mnuSave_Click(); });
-    on("mnuLoad", [this] { files_.mnuLoad_Click(); });
-    on("mnuView", [this] { files_.mnuView_Click(); });
-    on("mnuDelays", [this] { dialogs_->mnuDelays_Click(); });
-    on("mnuInfo", [this] { dialogs_->mnuInfo_Click(); });
-    on("mnuColors", [this] { dialogs_->mnuColors_Click(); });
-    on("mnuAudio", [this] { dialogs_->mnuAudio_Click(); });
-    on("mnuResource", [this] { dialogs_->mnuResource_Click(); });
-    on("mnuLoadBg", [this] { files_.mnuLoadBg_Click(); });
-    on("mnuUnloadBg", [this] { files_.mnuUnloadBg_Click(); });
-    on("mnuFront", [this] { commands_.mnuFront_Click(); });
-    on("mnuBack", [this] { commands_.mnuBack_Click(); });
-    on("mnuForward", [this] { commands_.mnuForward_Click(); });
-    on("mnuBackward", [this] { commands_.mnuBackward_Click(); });
-    on("mnuDeSel", [this] { commands_.mnuDeSel_Click(); });
-    on("mnuLocked", [this] { commands_.mnuLocked_Click(); });
-    on("mnuUnlock", [this] { commands_.mnuUnlock_Click(); });
-    on("mnuDelete", [this] { commands_.mnuDelete_Click(); });
+    on(menus_->mnuSave, [this] { files_.mnuSave_Click(); });
+    on(menus_->mnuLoad, [this] { files_.mnuLoad_Click(); });
+    on(menus_->mnuView, [this] { files_.mnuView_Click(); });
+    on(menus_->mnuDelays, [this] { dialogs_->mnuDelays_Click(); });
+    on(menus_->mnuInfo, [this] { dialogs_->mnuInfo_Click(); });
+    on(menus_->mnuColors, [this] { dialogs_->mnuColors_Click(); });
+    on(menus_->mnuAudio, [this] { dialogs_->mnuAudio_Click(); });
+    on(menus_->mnuResource, [this] { dialogs_->mnuResource_Click(); });
+    on(menus_->mnuLoadBg, [this] { files_.mnuLoadBg_Click(); });
+    on(menus_->mnuUnloadBg, [this] { files_.mnuUnloadBg_Click(); });
+    on(menus_->mnuFront, [this] { commands_.mnuFront_Click(); });
+    on(menus_->mnuBack, [this] { commands_.mnuBack_Click(); });
+    on(menus_->mnuForward, [this] { commands_.mnuForward_Click(); });
+    on(menus_->mnuBackward, [this] { commands_.mnuBackward_Click(); });
+    on(menus_->mnuDeSel, [this] { commands_.mnuDeSel_Click(); });
+    on(menus_->mnuLocked, [this] { commands_.mnuLocked_Click(); });
+    on(menus_->mnuUnlock, [this] { commands_.mnuUnlock_Click(); });
+    on(menus_->mnuDelete, [this] { commands_.mnuDelete_Click(); });
 }
 
 void FrmMain::watchPictures() {
     watch_ = std::make_unique<PictureWatch>(pictures_, *this);
     auto* watch = watch_.get();
     connect(&files_, &SkinFileCommands::told, watch, &PictureWatch::look); // a skin was loaded
-    connect(watch, &PictureWatch::changed, this,
-            [this] { ground_->documentChanged({DocumentChange::What::settings}); });
+    connect(watch, &PictureWatch::changed, this, [this] { ground_->picturesChanged(); });
 }
 
 void FrmMain::slideIn() {
-    for (QWidget* panel : {surface_, fraNote_, static_cast<QWidget*>(fraCreate_)}) {
+    for (QWidget* panel : std::initializer_list<QWidget*>{surface_, fraNote_, fraCreate_}) {
         slide_->movetoX(panel, true);
     }
-    for (QWidget* panel : {static_cast<QWidget*>(fraLayout_), static_cast<QWidget*>(fraElements_),
-                           static_cast<QWidget*>(fraPos_), static_cast<QWidget*>(behaviours_),
-                           static_cast<QWidget*>(properties_)}) {
+    for (QWidget* panel : std::initializer_list<QWidget*>{fraLayout_, fraElements_, fraPos_,
+                                                          behaviours_, properties_}) {
         slide_->movetoX(panel, false);
     }
     slide_->start();

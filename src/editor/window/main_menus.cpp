@@ -6,46 +6,48 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include <array>
-
 namespace tarvel {
 
-namespace {
-
-struct Entry {
+struct MainMenus::Entry {
     const char* menu;
     const char* name;
     const char* caption; // "-" is a separator
+    QAction* MainMenus::*member;
 };
 
-constexpr std::array entries = {
-    Entry{"mnuSkin", "mnuSave", "Save"},
-    Entry{"mnuSkin", "mnuLoad", "Load"},
-    Entry{"mnuSkin", "mnuView", "View XML (for testing only)"},
-    Entry{"mnuConfig", "mnuDelays", "Delays"},
-    Entry{"mnuConfig", "mnuInfo", "Skin Info"},
-    Entry{"mnuConfig", "mnuColors", "System Colors"},
-    Entry{"mnuConfig", "mnuAudio", "Audio Settings"},
-    Entry{"mnuConfig", "mnuResource", "Resource Manager"},
-    Entry{"mnuBackground", "mnuLoadBg", "Load Background"},
-    Entry{"mnuBackground", "mnuUnloadBg", "Unload Background"},
-    Entry{"mnuRight2", "mnuUnlock", "Unlock all"},
-    Entry{"mnuRight", "mnuFront", "Bring to Front"},
-    Entry{"mnuRight", "mnuBack", "Send to Back"},
-    Entry{"mnuRight", "mnuForward", "Bring Forward"},
-    Entry{"mnuRight", "mnuBackward", "Send Backward"},
-    Entry{"mnuRight", "mnuDash", "-"},
-    Entry{"mnuRight", "mnuDeSel", "Unselect"},
-    Entry{"mnuRight", "mnuLocked", "Lock"},
-    Entry{"mnuRight", "mnuDash1", "-"},
-    Entry{"mnuRight", "mnuModifier(0)", "Modifiers"},
-    Entry{"mnuRight", "mnuModifier(1)", "Timers"},
-    Entry{"mnuRight", "mnuModifier(2)", "Condition"},
-    Entry{"mnuRight", "mnuDash2", "-"},
-    Entry{"mnuRight", "mnuDelete", "Delete"},
-    Entry{"mnuOptions", "mnuCover", "Cover objects while moving (to prevent blinking)"},
-    Entry{"mnuOptions", "mnuBorders", "View safe borders (customize to your TV)"},
+struct MainMenus::Table {
+    static constexpr Entry entries[] = {
+        {"mnuSkin", "mnuSave", "Save", &MainMenus::mnuSave},
+        {"mnuSkin", "mnuLoad", "Load", &MainMenus::mnuLoad},
+        {"mnuSkin", "mnuView", "View XML (for testing only)", &MainMenus::mnuView},
+        {"mnuConfig", "mnuDelays", "Delays", &MainMenus::mnuDelays},
+        {"mnuConfig", "mnuInfo", "Skin Info", &MainMenus::mnuInfo},
+        {"mnuConfig", "mnuColors", "System Colors", &MainMenus::mnuColors},
+        {"mnuConfig", "mnuAudio", "Audio Settings", &MainMenus::mnuAudio},
+        {"mnuConfig", "mnuResource", "Resource Manager", &MainMenus::mnuResource},
+        {"mnuBackground", "mnuLoadBg", "Load Background", &MainMenus::mnuLoadBg},
+        {"mnuBackground", "mnuUnloadBg", "Unload Background", &MainMenus::mnuUnloadBg},
+        {"mnuRight2", "mnuUnlock", "Unlock all", &MainMenus::mnuUnlock},
+        {"mnuRight", "mnuFront", "Bring to Front", &MainMenus::mnuFront},
+        {"mnuRight", "mnuBack", "Send to Back", &MainMenus::mnuBack},
+        {"mnuRight", "mnuForward", "Bring Forward", &MainMenus::mnuForward},
+        {"mnuRight", "mnuBackward", "Send Backward", &MainMenus::mnuBackward},
+        {"mnuRight", "mnuDash", "-", nullptr},
+        {"mnuRight", "mnuDeSel", "Unselect", &MainMenus::mnuDeSel},
+        {"mnuRight", "mnuLocked", "Lock", &MainMenus::mnuLocked},
+        {"mnuRight", "mnuDash1", "-", nullptr},
+        {"mnuRight", "mnuModifier(0)", "Modifiers", &MainMenus::mnuModifier0_},
+        {"mnuRight", "mnuModifier(1)", "Timers", &MainMenus::mnuModifier1_},
+        {"mnuRight", "mnuModifier(2)", "Condition", &MainMenus::mnuModifier2_},
+        {"mnuRight", "mnuDash2", "-", nullptr},
+        {"mnuRight", "mnuDelete", "Delete", &MainMenus::mnuDelete},
+        {"mnuOptions", "mnuCover", "Cover objects while moving (to prevent blinking)",
+         &MainMenus::mnuCover},
+        {"mnuOptions", "mnuBorders", "View safe borders (customize to your TV)", nullptr},
+    };
 };
+
+namespace {
 
 struct BarMenu {
     const char* name;
@@ -65,41 +67,37 @@ QMenu* contextMenu(QMainWindow& window, const QString& name) {
 } // namespace
 
 MainMenus::MainMenus(QMainWindow& window)
-    : window_(window)
-    , mnuRight_(contextMenu(window, QStringLiteral("mnuRight")))
+    : mnuRight_(contextMenu(window, QStringLiteral("mnuRight")))
     , mnuRight2_(contextMenu(window, QStringLiteral("mnuRight2"))) {
     for (const auto& [name, caption] : barMenus) {
         QMenu* menu = window.menuBar()->addMenu(QLatin1String(caption));
         menu->setObjectName(QLatin1String(name));
-        fill(*menu, menu->objectName());
+        fill(window, *menu);
     }
-    fill(*mnuRight_, mnuRight_->objectName());
-    fill(*mnuRight2_, mnuRight2_->objectName());
-    entry(QStringLiteral("mnuSave"))->setShortcut(QKeySequence::Save);
-    entry(QStringLiteral("mnuLoad"))->setShortcut(QKeySequence::Open);
-    entry(QStringLiteral("mnuCover"))->setCheckable(true);
-    entry(QStringLiteral("mnuLocked"))->setCheckable(true);
+    fill(window, *mnuRight_);
+    fill(window, *mnuRight2_);
+    mnuSave->setShortcut(QKeySequence::Save);
+    mnuLoad->setShortcut(QKeySequence::Open);
+    mnuCover->setCheckable(true);
+    mnuLocked->setCheckable(true);
 }
 
-void MainMenus::fill(QMenu& menu, const QString& menuName) {
-    for (const auto& [owner, name, caption] : entries) {
-        if (menuName != QLatin1String(owner)) {
+void MainMenus::fill(QMainWindow& window, QMenu& menu) {
+    for (const auto& [owner, name, caption, member] : Table::entries) {
+        if (menu.objectName() != QLatin1String(owner)) {
             continue;
         }
-        auto* action = new QAction(QLatin1String(caption), &window_);
+        auto* action = new QAction(QLatin1String(caption), &window);
         action->setObjectName(QLatin1String(name));
         if (action->text() == QStringLiteral("-")) {
             action->setSeparator(true);
             action->setText({}); // a separator with a text is drawn as a heading
         }
         menu.addAction(action);
+        if (member != nullptr) {
+            this->*member = action;
+        }
     }
-}
-
-QAction* MainMenus::entry(const QString& name) const {
-    auto* action = window_.findChild<QAction*>(name, Qt::FindDirectChildrenOnly);
-    Q_ASSERT(action != nullptr);
-    return action;
 }
 
 } // namespace tarvel

@@ -1,8 +1,9 @@
 // The menus of the main window: every entry by its name.
 #pragma once
 
-#include <QObject>
 #include <QString>
+
+#include <array>
 
 class QAction;
 class QMainWindow;
@@ -10,24 +11,49 @@ class QMenu;
 
 namespace tarvel {
 
-/// Fills the window's menu bar and makes its two context menus. The entries are QActions that carry
-/// their names as object names and belong to the window.
+/// Fills the window's menu bar and makes its two context menus. Entries and menus carry their names
+/// as object names, and belong to the window.
 class MainMenus {
   public:
     explicit MainMenus(QMainWindow& window);
 
-    /// The entry of that name, such as "mnuSave" or "mnuModifier(0)"; it must exist.
-    [[nodiscard]] QAction* entry(const QString& name) const;
+    QAction* mnuSave = nullptr;
+    QAction* mnuLoad = nullptr;
+    QAction* mnuView = nullptr;
+    QAction* mnuDelays = nullptr;
+    QAction* mnuInfo = nullptr;
+    QAction* mnuColors = nullptr;
+    QAction* mnuAudio = nullptr;
+    QAction* mnuResource = nullptr;
+    QAction* mnuLoadBg = nullptr;
+    QAction* mnuUnloadBg = nullptr;
+    QAction* mnuUnlock = nullptr;
+    QAction* mnuFront = nullptr;
+    QAction* mnuBack = nullptr;
+    QAction* mnuForward = nullptr;
+    QAction* mnuBackward = nullptr;
+    QAction* mnuDeSel = nullptr;
+    QAction* mnuLocked = nullptr;
+    QAction* mnuDelete = nullptr;
+    QAction* mnuCover = nullptr;
 
+    /// Modifiers, timers and condition of the selected element.
+    [[nodiscard]] std::array<QAction*, 3> mnuModifier() const {
+        return {mnuModifier0_, mnuModifier1_, mnuModifier2_};
+    }
     /// Shown for a selected element.
-    [[nodiscard]] QMenu* mnuRight() const { return mnuRight_; }
+    [[nodiscard]] QMenu& mnuRight() const { return *mnuRight_; }
     /// Shown where no element is selected.
-    [[nodiscard]] QMenu* mnuRight2() const { return mnuRight2_; }
+    [[nodiscard]] QMenu& mnuRight2() const { return *mnuRight2_; }
 
   private:
-    void fill(QMenu& menu, const QString& menuName);
+    struct Entry;
+    struct Table;
+    void fill(QMainWindow& window, QMenu& menu);
 
-    QMainWindow& window_;
+    QAction* mnuModifier0_ = nullptr;
+    QAction* mnuModifier1_ = nullptr;
+    QAction* mnuModifier2_ = nullptr;
     QMenu* mnuRight_;
     QMenu* mnuRight2_;
 };

@@ -16,6 +16,7 @@ class FrmMusic;
 class FrmResources;
 class PictureCache;
 class Prompts;
+class SkinDialog;
 
 /// They are made hidden with the main window, whose children they are, and shown modally.
 class SkinDialogs {
@@ -31,6 +32,9 @@ class SkinDialogs {
     void addResource(const QString& file);
 
   private:
+    void show(SkinDialog& dialog, std::string_view step);
+
+    SkinDocument& document_;
     FrmDelays* frmDelays_;
     FrmInfo* frmInfo_;
     FrmColors* frmColors_;

@@ -3,6 +3,8 @@
 
 #include "dialogs/frm_instructions.h"
 #include "document/layout_screens.h"
+#include "document/open_edit.h"
+#include "editing/step_names.h"
 #include "files/host_files.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
@@ -81,6 +83,7 @@ void SkinFileCommands::loadFrom(const QString& folder) {
     SkinReadNotes notes;
     try {
         const WaitCursor waiting;
+        const OpenEdit edit(document_, std::string(step::loadSkin));
         notes = readSkin(document_, hostPathOf(folder));
     } catch (const std::exception& error) { // a message box tells of it; the document is as before
         prompts_.message(surroundings_.window, qtText(error.what()));
@@ -111,12 +114,14 @@ void SkinFileCommands::mnuLoadBg_Click() {
     if (files.isEmpty() || files.front().isEmpty()) {
         return;
     }
+    const OpenEdit edit(document_, std::string(step::loadBackground));
     document_.editSettings([&](SkinSettings& settings) {
         settings.background = {true, documentPath(hostPathOf(files.front()))};
     });
 }
 
 void SkinFileCommands::mnuUnloadBg_Click() {
+    const OpenEdit edit(document_, std::string(step::unloadBackground));
     document_.editSettings([](SkinSettings& settings) { settings.background.loaded = false; });
 }
 

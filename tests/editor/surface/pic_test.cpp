@@ -137,8 +137,8 @@ void PicTest::showsBlackWithoutADocument() {
     Surface::settle();
     QCOMPARE(surface.look(), blackSurface());
     surface.pic.stopAllVids();
-    surface.pic.documentChanged({DocumentChange::What::rows, 1, 1});
-    surface.pic.documentChanged({DocumentChange::What::element, 1, 1});
+    surface.document.addElement(boxOf({0, 0, 20, 20}, red)); // it is told of nothing any more
+    surface.document.editElement(1, [](Element& element) { element.elementAlpha = 5; });
     QCOMPARE(surface.pic.flatPicture(1), blackSurface());
 }
 

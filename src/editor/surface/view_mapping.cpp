@@ -1,0 +1,12 @@
+// Rounding of the view mapping.
+#include "surface/view_mapping.h"
+
+#include <cmath>
+
+namespace tarvel {
+
+SkinPoint pixelOf(QPointF skin) {
+    return {static_cast<float>(std::floor(skin.x())), static_cast<float>(std::floor(skin.y()))};
+}
+
+} // namespace tarvel

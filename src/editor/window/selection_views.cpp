@@ -1,0 +1,58 @@
+// Which view follows which change of the selected element.
+#include "window/selection_views.h"
+
+#include "document/layout_screens.h"
+#include "panels/behaviour_buttons.h"
+#include "panels/create_panel.h"
+#include "panels/position_panel.h"
+#include "panels/property_panel.h"
+#include "surface/selection_marks.h"
+
+namespace tarvel {
+
+SelectionViews::SelectionViews(const SkinDocument& document, Selection& selection,
+                               const Views& views)
+    : document_(document)
+    , selection_(selection)
+    , views_(views)
+    , documentWatch_(document.watch(*this))
+    , selectionWatch_(selection.watch(*this)) {}
+
+void SelectionViews::documentChanged(const DocumentChange& change) {
+    if (change.what == DocumentChange::What::element && change.elementId == selection_.curNum()) {
+        setCurrentSel();
+        setBolds();
+    }
+}
+
+void SelectionViews::showSelection() {
+    setCurrentSel();
+    setBolds();
+    if (!selection_.isEmpty()) {
+        views_.properties.showElement(document_.element(selection_.curNum()));
+    } else if (!views_.tools.tool()) {
+        views_.properties.showNothing();
+    }
+}
+
+void SelectionViews::setCurrentSel() {
+    if (selection_.isEmpty()) {
+        views_.marks.hideSels();
+        views_.position.clear();
+        return;
+    }
+    const Element& element = document_.element(selection_.curNum());
+    views_.marks.setCurrentSel(element);
+    if (element.elementKind == ElementKind::Line) {
+        views_.position.setPosLine(element.elementControl);
+    } else {
+        views_.position.setPos(element.elementControl);
+    }
+    views_.position.setEditable(!element.elementLocked);
+}
+
+void SelectionViews::setBolds() {
+    views_.behaviours.setBolds(behaviourMarks(document_.element(selection_.curNum())));
+}
+
+} // namespace tarvel
