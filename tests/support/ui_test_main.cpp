@@ -1,7 +1,7 @@
 // Runs one of the tests that are linked in: "PROGRAM TEST [OPTIONS OF QT TEST]".
 #include "support/ui_test.h"
+#include "window/application.h"
 
-#include <QApplication>
 #include <QTest>
 
 #include <cstdio>
@@ -31,7 +31,7 @@ int UiTestEntry::runObject(QObject* test, const QStringList& arguments) {
 
 int main(int argc, char* argv[]) {
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi, true);
-    QApplication application(argc, argv);
+    tarvel::Application application(argc, argv);
     QStringList arguments = QApplication::arguments();
     const auto& tests = tarvel::test::tests();
     const auto found = tests.find(arguments.value(1).toStdString());

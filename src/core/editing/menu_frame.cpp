@@ -66,4 +66,14 @@ void chooseDescAlign(MenuFrame& frame, int position) {
     frame.descPreview = static_cast<TextAlignment>(position);
 }
 
+const MenuSettings* lastMenuAfter(const SkinDocument& document, int elementId) {
+    for (int id = document.lastElementId(); id > elementId; --id) {
+        const Element& element = document.element(id);
+        if (element.elementKind == ElementKind::Menu) {
+            return &element.menuSettings.get();
+        }
+    }
+    return nullptr;
+}
+
 } // namespace tarvel

@@ -4,7 +4,7 @@
 // 0; a ticked box is true.
 #pragma once
 
-#include "document/element.h"
+#include "document/skin_document.h"
 
 #include <array>
 #include <string>
@@ -45,6 +45,10 @@ void showMenuSettings(const MenuSettings& settings, MenuFrame& frame);
 /// The settings that the frame shows. Numbers are read leniently, rounded with halves to even and
 /// held at the limits of 16 bits; only one that is exactly 0 becomes 1.
 [[nodiscard]] MenuSettings menuSettingsOf(const MenuFrame& frame);
+
+/// The settings of the last menu that was made after an element, as when a skin was loaded; nullptr
+/// when none was. Good until the document changes.
+[[nodiscard]] const MenuSettings* lastMenuAfter(const SkinDocument& document, int elementId);
 
 /// The user chose an entry (0 to 2) of cmbTitleAlign or cmbDescAlign.
 void chooseTitleAlign(MenuFrame& frame, int position);

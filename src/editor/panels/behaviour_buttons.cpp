@@ -43,6 +43,12 @@ BehaviourButtons::BehaviourButtons(std::array<QAction*, count> menuEntries, QWid
     }
 }
 
+void BehaviourButtons::setAvailable(bool available) {
+    for (QPushButton* button : cmdModifier_) {
+        button->setEnabled(available);
+    }
+}
+
 void BehaviourButtons::setBolds(const BehaviourMarks& marks) {
     const std::array<bool, count> bold = {marks.modifiers, marks.timers, marks.condition};
     for (std::size_t i = 0; i < bold.size(); ++i) {

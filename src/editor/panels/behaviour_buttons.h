@@ -22,6 +22,8 @@ class BehaviourButtons : public QWidget {
     explicit BehaviourButtons(std::array<QAction*, count> menuEntries, QWidget* parent = nullptr);
 
     void setBolds(const BehaviourMarks& marks);
+    /// Whether there is an element whose behaviours they could open.
+    void setAvailable(bool available);
 
   signals:
     /// A button was pressed: 0 modifiers, 1 timers, 2 condition.

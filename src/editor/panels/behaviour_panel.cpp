@@ -56,6 +56,7 @@ void BehaviourPanel::open(int elementId) {
     }
     elementId_ = elementId;
     fill(document_.element(elementId));
+    untouched_ = stored();
     show();
     raise();
     if (firstControl_ != nullptr) {
@@ -64,12 +65,36 @@ void BehaviourPanel::open(int elementId) {
 }
 
 void BehaviourPanel::ok() {
-    if (elementId_ <= document_.lastElementId()) { // the document may have been replaced
+    if (hasElement()) {
         const OpenEdit edit(document_, stepName(step_, document_.element(elementId_)));
         document_.editElement(elementId_, [this](Element& element) { store(element); });
     }
     hide();
     emit closed();
+}
+
+// The document may have been replaced.
+bool BehaviourPanel::hasElement() const {
+    return elementId_ <= document_.lastElementId();
+}
+
+Element BehaviourPanel::stored() const {
+    Element element = document_.element(elementId_);
+    store(element);
+    return element;
+}
+
+bool BehaviourPanel::isChanged() const {
+    return hasElement() && stored() != untouched_;
+}
+
+void BehaviourPanel::storeNow() {
+    before_ = document_.element(elementId_);
+    document_.editElement(elementId_, [this](Element& element) { store(element); });
+}
+
+void BehaviourPanel::takeBack() {
+    document_.editElement(elementId_, [this](Element& element) { element = before_; });
 }
 
 void BehaviourPanel::paintEvent(QPaintEvent* /*event*/) {

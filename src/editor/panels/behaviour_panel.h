@@ -26,6 +26,11 @@ class BehaviourPanel : public QFrame {
     void open(int elementId);
     /// What the OK button does: takes what the panel shows into the element and hides the panel.
     void ok();
+    /// Whether OK would store something else than right after opening.
+    [[nodiscard]] bool isChanged() const;
+    /// Takes what the panel shows into the element, and stays open; takeBack() undoes that.
+    void storeNow();
+    void takeBack();
 
   signals:
     /// The panel has stored what it shows and is hidden.
@@ -52,9 +57,14 @@ class BehaviourPanel : public QFrame {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    [[nodiscard]] bool hasElement() const;
+    [[nodiscard]] Element stored() const;
+
     SkinDocument& document_;
     std::string_view step_;
     int elementId_ = 0;
+    Element untouched_; // the element after an OK without a change
+    Element before_;    // the element before storeNow()
     QVBoxLayout* rows_;
     QPushButton* cmdOK_ = nullptr;
     QWidget* firstControl_ = nullptr;

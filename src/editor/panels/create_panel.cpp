@@ -1,6 +1,8 @@
 // Tool buttons.
 #include "panels/create_panel.h"
 
+#include "widgets/accessible_roles.h"
+
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -38,12 +40,13 @@ CreatePanel::CreatePanel(QWidget* parent)
         auto* button = new QToolButton;
         button->setObjectName(QLatin1String(tool.name));
         button->setText(QLatin1String(tool.caption));
-        button->setAccessibleName(QStringLiteral("Draw: %1").arg(button->text()));
+        button->setAccessibleName(button->text());
         button->setToolTip(QLatin1String(tool.tip));
         button->setIcon(QIcon(QStringLiteral(":/tarvel/%1.png").arg(QLatin1String(tool.icon))));
         button->setIconSize({20, 20});
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setCheckable(true);
+        beRadioButton(*button);
         button->setFocusPolicy(Qt::StrongFocus);
         connect(button, &QToolButton::clicked, this, [this, i] { clicked(i); });
         row->addWidget(button);

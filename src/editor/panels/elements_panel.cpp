@@ -75,6 +75,8 @@ ElementListView* ElementsPanel::makeList(int screen) {
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this, screen] { lst_Click(screen); });
+    // A click on the row that is selected already shows its values once more.
+    connect(list, &QListView::clicked, this, [this, screen] { lst_Click(screen); });
     list->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(list, &QListView::customContextMenuRequested, this,
             [this, list](const QPoint& point) { askForMenu(*list, point); });

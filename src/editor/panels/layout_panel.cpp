@@ -2,6 +2,7 @@
 #include "panels/layout_panel.h"
 
 #include "widgets/control_names.h"
+#include "widgets/faint_text.h"
 #include "widgets/qt_text.h"
 
 #include <QGridLayout>
@@ -34,13 +35,29 @@ LayoutPanel::LayoutPanel(const SkinDocument& document, QWidget* parent)
         grid->addWidget(button, screen, 0);
         if (!shown.note.empty()) {
             auto* note = new QLabel(qtText(shown.note));
-            note->setEnabled(false);
             grid->addWidget(note, screen, 1);
+            notes_.push_back(note);
         }
         optScreen_[static_cast<std::size_t>(screen)] = button;
     }
     setCurrent();
     setLayoutBolds();
+    colorNotes();
+}
+
+void LayoutPanel::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+        colorNotes();
+    }
+    QGroupBox::changeEvent(event);
+}
+
+void LayoutPanel::colorNotes() {
+    for (QLabel* note : notes_) {
+        QPalette colors = palette();
+        colors.setColor(QPalette::WindowText, faintText(colors));
+        note->setPalette(colors);
+    }
 }
 
 void LayoutPanel::documentChanged(const DocumentChange& change) {
@@ -62,7 +79,12 @@ void LayoutPanel::documentChanged(const DocumentChange& change) {
 }
 
 void LayoutPanel::setCurrent() {
-    optScreen_.at(static_cast<std::size_t>(document_.currentLayout()))->setChecked(true);
+    QRadioButton* current = optScreen_.at(static_cast<std::size_t>(document_.currentLayout()));
+    current->setChecked(true);
+    // Coming in by Tab leads to the one that is checked; arrow keys lead to the others.
+    for (QRadioButton* button : optScreen_) {
+        button->setFocusPolicy(button == current ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 int LayoutPanel::current() const {

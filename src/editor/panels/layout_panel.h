@@ -7,6 +7,7 @@
 
 #include <array>
 
+class QLabel;
 class QRadioButton;
 
 namespace tarvel {
@@ -27,12 +28,17 @@ class LayoutPanel : public QGroupBox, private DocumentObserver {
     /// The user chose a screen.
     void screenClicked(int screen);
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
+    void colorNotes();
     void documentChanged(const DocumentChange& change) override;
     void setCurrent();
 
     const SkinDocument& document_;
     std::array<QRadioButton*, screenCount> optScreen_{};
+    std::vector<QLabel*> notes_;
     DocumentWatch watch_;
 };
 

@@ -102,6 +102,28 @@ void PropertyPanel::resourcesChanged() {
     fraImg_->resourcesChanged();
 }
 
+void PropertyPanel::takeMenuSettings(const MenuSettings& settings) {
+    showMenuSettings(settings, values_.fraQor);
+    fraQor_->refresh();
+}
+
+void PropertyPanel::focusFault(ElementKind kind) {
+    switch (kind) {
+    case ElementKind::Image:
+        fraImg_->focusPicker();
+        break;
+    case ElementKind::Text:
+        fraText_->focusText();
+        break;
+    case ElementKind::Box:
+    case ElementKind::Line:
+        fraShared_->focusFault(kind);
+        break;
+    case ElementKind::Menu:
+        break;
+    }
+}
+
 void PropertyPanel::stopPreview() {
     fraImg_->stopPreview();
 }

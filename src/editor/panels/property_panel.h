@@ -41,6 +41,10 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     void showNothing();
     /// The skin has other resources. The one chosen stays chosen, by its name.
     void resourcesChanged();
+    /// Menus drawn from now on have these settings.
+    void takeMenuSettings(const MenuSettings& settings);
+    /// Gives the focus to the control that keeps an element of the kind from being drawn.
+    void focusFault(ElementKind kind);
     /// Stops the video of the preview until a resource is chosen or the frame is shown anew.
     void stopPreview();
 

@@ -2,7 +2,7 @@
 #include "surface/natural_size.h"
 
 #include "surface/picture_cache.h"
-#include "widgets/qt_text.h"
+#include "surface/text_cache.h"
 #include "widgets/skin_fonts.h"
 
 #include <QFontMetricsF>
@@ -14,7 +14,7 @@ namespace tarvel {
 namespace {
 
 SkinSize textSize(const PanelValues& values) {
-    const QSizeF size = QFontMetricsF(skinFont(values.cmdFont)).size(0, qtText(values.txtText));
+    const QSizeF size = QFontMetricsF(skinFont(values.cmdFont)).size(0, brokenLines(values.txtText));
     return {static_cast<float>(std::ceil(size.width()) + 1),
             static_cast<float>(std::ceil(size.height()))};
 }

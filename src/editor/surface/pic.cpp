@@ -2,6 +2,7 @@
 #include "surface/pic.h"
 
 #include "surface/picture_cache.h"
+#include "widgets/accessible_roles.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -53,6 +54,7 @@ Pic::Pic(PictureCache& pictures, QWidget* parent)
     , painter_(pictures) {
     setObjectName("Pic");
     setAccessibleName(tr("Drawing surface"));
+    beCanvas(*this);
     setFixedSize(mapping_.screen().size().toSize());
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -4,7 +4,9 @@
 #include "editing/hit_test.h"
 #include "surface/pic.h"
 #include "surface/surface_geometry.h"
+#include "widgets/qt_text.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPainter>
 
@@ -50,7 +52,8 @@ class SelectionBox : public QWidget {
   protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        const QRectF outline = QRectF(rect()).adjusted(margin, margin, -margin - 1, -margin - 1);
+        // Around the element's pixels, whose own border shows inside it.
+        const QRectF outline = QRectF(rect()).adjusted(margin - 1, margin - 1, -margin, -margin);
         // Two colours, so that the outline shows on any ground.
         painter.setPen(QPen(Qt::black, 1));
         painter.drawRect(outline);
@@ -125,6 +128,7 @@ template <class Mark> Mark* prepared(Mark* mark) {
 
 SelectionMarks::SelectionMarks(Pic& surface)
     : QObject(&surface)
+    , surface_(surface)
     , fraSel_(prepared(new SelectionBox(surface)))
     , fraResize1_(prepared(new LineEndMark(surface, 1)))
     , fraResize2_(prepared(new LineEndMark(surface, 2))) {
@@ -158,6 +162,16 @@ void SelectionMarks::hideSels() {
     fraSel_->setVisible(false);
     fraResize1_->setVisible(false);
     fraResize2_->setVisible(false);
+}
+
+void SelectionMarks::describe(const std::string& words) {
+    const QString text = qtText(words);
+    if (surface_.accessibleDescription() == text) {
+        return;
+    }
+    surface_.setAccessibleDescription(text);
+    QAccessibleEvent event(&surface_, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 bool SelectionMarks::isBoxShown() const {

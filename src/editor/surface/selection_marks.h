@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <string>
+
 namespace tarvel {
 
 class LineEndMark;
@@ -25,10 +27,13 @@ class SelectionMarks : public QObject {
     /// Whichever of the two suits the element.
     void setCurrentSel(const Element& element);
     void hideSels();
+    /// Tells those who listen to the surface what is selected, in words.
+    void describe(const std::string& words);
     /// Whether the selection box is shown, which arrow keys ask for.
     [[nodiscard]] bool isBoxShown() const;
 
   private:
+    Pic& surface_;
     SelectionBox* fraSel_;
     LineEndMark* fraResize1_;
     LineEndMark* fraResize2_;

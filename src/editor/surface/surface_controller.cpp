@@ -95,6 +95,12 @@ void SurfaceController::cancelWork() {
     }
 }
 
+void SurfaceController::endWork() {
+    if (const auto work = std::move(work_)) {
+        work->release(lastPoint_);
+    }
+}
+
 bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::EnabledChange) {
         showPointerLater();
@@ -137,12 +143,15 @@ void SurfaceController::press(const QMouseEvent& event) {
         cancelWork(); // its release went elsewhere
     }
     surface_.setFocus(Qt::MouseFocusReason);
+    lastPoint_ = pointOf(event);
     emit pressed();
     if (event.button() == Qt::LeftButton) {
         pressLeft(pointOf(event));
     } else if (event.button() == Qt::RightButton) {
         pick(pointOf(event));
         emit menuWanted(event.globalPosition().toPoint());
+    } else {
+        host_.selection().clear();
     }
 }
 
@@ -203,7 +212,7 @@ bool SurfaceController::refused(ElementKind kind) {
 
 void SurfaceController::move(const QMouseEvent& event) {
     const SkinPoint point = pointOf(event);
-    hover_ = point;
+    hover_ = lastPoint_ = point;
     if (work_ != nullptr && event.buttons().testFlag(Qt::LeftButton)) {
         work_->move(point, event.modifiers().testFlag(Qt::ShiftModifier));
     } else if (event.buttons() == Qt::NoButton) {

@@ -40,6 +40,8 @@ class SurfaceController : public QObject, private DocumentObserver {
     [[nodiscard]] bool isMaking() const { return making_; }
     /// Takes back what the pointer is doing.
     void cancelWork();
+    /// Ends what the pointer is doing where it stands, as letting the button go does.
+    void endWork();
 
   signals:
     /// A button went down: previews are to stop.
@@ -85,6 +87,7 @@ class SurfaceController : public QObject, private DocumentObserver {
     std::optional<ElementKind> kind_;
     std::unique_ptr<CanvasTool> work_;
     bool making_ = false;
+    SkinPoint lastPoint_;
     std::optional<SkinPoint> hover_; // where the pointer stands, while it is over the surface
     bool pointerIsStale_ = false;
 };

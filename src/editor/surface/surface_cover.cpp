@@ -33,6 +33,10 @@ void SurfaceCover::uncover() {
 
 void SurfaceCover::timeOver() {
     uncover();
+    hurry();
+}
+
+void SurfaceCover::hurry() {
     if (const auto then = std::exchange(then_, {})) {
         then();
     }

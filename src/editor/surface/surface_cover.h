@@ -22,6 +22,9 @@ class SurfaceCover : public QObject {
     /// the earlier `then`, so that of several tools chosen in a hurry the last one counts.
     void cover(std::function<void()> then = {});
 
+    /// Calls `then` at once, if it is still to be called. The cover stays for the rest of its time.
+    void hurry();
+
     /// Hides the cover at once; what is to happen after the time still does.
     void uncover();
 

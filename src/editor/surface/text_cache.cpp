@@ -40,6 +40,12 @@ bool isLaidOutFrom(const LaidOutText& entry, const ElementControl& control) {
 
 } // namespace
 
+QString brokenLines(std::string_view caption) {
+    QString text = qtText(caption);
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
 const LaidOutText& TextCache::laidOut(int elementId, const ElementControl& control) {
     const auto known = texts_.find(elementId);
     if (known != texts_.end() && isLaidOutFrom(known->second, control)) {
@@ -81,7 +87,9 @@ void TextCache::layOut(LaidOutText& entry, const ElementControl& control) {
     entry.text.setTextFormat(Qt::PlainText);
     entry.text.setTextOption(option);
     entry.text.setTextWidth(std::min(double{control.width}, double{largestWidth}));
-    entry.text.setText(qtText(std::string_view(entry.caption).substr(0, largestCaption)));
+    // Static texts know no line feeds.
+    entry.text.setText(brokenLines(std::string_view(entry.caption).substr(0, largestCaption))
+                           .replace(QLatin1Char('\n'), QChar::LineSeparator));
     entry.text.prepare({}, font(entry.font));
     entry.size = entry.text.size();
 }

@@ -13,6 +13,9 @@
 
 namespace tarvel {
 
+/// A caption as it is laid out and measured: each of the usual line ends breaks a line.
+[[nodiscard]] QString brokenLines(std::string_view caption);
+
 /// A caption wrapped by words within its element's width.
 struct LaidOutText {
     QStaticText text;

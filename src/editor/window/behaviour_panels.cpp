@@ -44,12 +44,14 @@ bool BehaviourPanels::isOpen() const {
                        [](const BehaviourPanel* panel) { return !panel->isHidden(); });
 }
 
-void BehaviourPanels::ok() {
+std::function<void()> BehaviourPanels::storeChanged() {
     for (BehaviourPanel* panel : panels_) {
-        if (!panel->isHidden()) {
-            panel->ok();
+        if (!panel->isHidden() && panel->isChanged()) {
+            panel->storeNow();
+            return [panel] { panel->takeBack(); };
         }
     }
+    return {};
 }
 
 void BehaviourPanels::place(BehaviourPanel& panel) {

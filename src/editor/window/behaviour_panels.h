@@ -9,6 +9,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 
 namespace tarvel {
 
@@ -41,8 +42,9 @@ class BehaviourPanels : public QObject {
     /// Opens panel 0 modifiers, 1 timers or 2 condition for an element; for id 0 nothing happens.
     void cmdModifier_Click(int index, int elementId);
     [[nodiscard]] bool isOpen() const;
-    /// Closes the open panel, if there is one, as its OK button does.
-    void ok();
+    /// Takes an open panel over that was changed since it opened, and leaves it open; a panel only
+    /// looked at stores nothing. Returns what takes that back; it may be empty.
+    [[nodiscard]] std::function<void()> storeChanged();
 
   signals:
     /// A panel was closed by its OK button.

@@ -14,6 +14,7 @@
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
 #include "window/behaviour_panels.h"
+#include "window/change_teller.h"
 #include "window/main_menus.h"
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
@@ -78,6 +79,21 @@ void FrmMain::applyChanges() {
     updateControls(document_, id, properties_->values());
 }
 
+void FrmMain::load() {
+    tools_->endWork();
+    const int before = document_.lastElementId();
+    files_.mnuLoad_Click();
+    if (const MenuSettings* last = lastMenuAfter(document_, before)) {
+        properties_->takeMenuSettings(*last);
+    }
+}
+
+void FrmMain::deleteSelected() {
+    tools_->cancelWork();
+    commands_.mnuDelete_Click();
+    pic_->setFocus(Qt::OtherFocusReason);
+}
+
 void FrmMain::popupMenu(QPoint globalPosition) {
     if (selection_.isEmpty()) {
         menus_->mnuRight2().popup(globalPosition);
@@ -101,10 +117,10 @@ bool FrmMain::Form_Unload() {
     case Prompts::Answer::Yes:
         break;
     }
-    behaviourPanels_->ok(); // what is typed in an open panel belongs to the skin
+    OpenEdit edit(document_, std::string(step::nameSkin));
+    const auto takeBack = behaviourPanels_->storeChanged(); // it belongs to the skin
     const bool named = !document_.settings().skinName.empty();
     const auto rename = [this](std::string name) {
-        const OpenEdit edit(document_, std::string(step::nameSkin));
         document_.editSettings(
             [&](SkinSettings& settings) { settings.skinName = std::move(name); });
     };
@@ -114,6 +130,9 @@ bool FrmMain::Form_Unload() {
     const bool saved = files_.mnuSave_Click();
     if (!saved && !named) {
         rename({});
+    }
+    if (!saved && takeBack) {
+        takeBack();
     }
     return saved;
 }
@@ -128,6 +147,7 @@ void FrmMain::showEvent(QShowEvent* event) {
         slidIn_ = true;
         // Once the window has its size, and with it the panels their places.
         QTimer::singleShot(0, this, &FrmMain::slideIn);
+        pic_->setFocus(Qt::OtherFocusReason);
     }
 }
 

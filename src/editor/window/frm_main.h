@@ -18,6 +18,7 @@ namespace tarvel {
 
 class BehaviourButtons;
 class BehaviourPanels;
+class ChangeTeller;
 class CreatePanel;
 class ElementsPanel;
 class LayoutPanel;
@@ -81,6 +82,8 @@ class FrmMain : public QMainWindow {
     void popupMenu(QPoint globalPosition);
     void enterPosition(PositionField field, const QString& text);
     void applyChanges();
+    void load();
+    void deleteSelected();
 
     Prompts& prompts_;
     SkinDocument document_;
@@ -108,6 +111,7 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<ToolChoice> tools_;
     std::unique_ptr<SelectionViews> views_;
     std::unique_ptr<WindowKeys> keys_;
+    std::unique_ptr<ChangeTeller> changes_;
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;

@@ -18,6 +18,7 @@
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
 #include "window/behaviour_panels.h"
+#include "window/change_teller.h"
 #include "window/frm_main.h"
 #include "window/main_menus.h"
 #include "window/selection_views.h"
@@ -93,8 +94,9 @@ QWidget* FrmMain::buildLeftSide() {
     column->setContentsMargins(0, 0, 0, 0);
     surface_ = sliding(buildSurface());
 
-    lblPos_ = named(new QLabel(qtText(initialReadout)), QStringLiteral("lblPos"),
-                    tr("Position of the pointer"));
+    lblPos_ = new QLabel(qtText(initialReadout));
+    lblPos_->setObjectName(QStringLiteral("lblPos"));
+    lblPos_->setAccessibleDescription(tr("Position of the pointer")); // its text is its name
     fraCreate_ = sliding(new CreatePanel);
     auto* note = new QLabel(QLatin1String(noteText));
     note->setObjectName(QStringLiteral("fraNote"));
@@ -139,7 +141,7 @@ QWidget* FrmMain::buildRightSide() {
 
 QWidget* FrmMain::buildStopButton() {
     auto* cmdStop = named(new QPushButton(qtText(caption::cmdStop)), QStringLiteral("cmdStop"),
-                          tr("Stop the videos of this screen"));
+                          tr("Stop Vids: stop the videos of this screen"));
     connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
     connect(cmdStop, &QPushButton::clicked, properties_, &PropertyPanel::stopPreview);
     return cmdStop;
@@ -163,16 +165,16 @@ void FrmMain::buildReactions() {
                                                                     .properties = *properties_,
                                                                     .tools = *fraCreate_});
     tools_->setViews(*views_);
+    changes_ = std::make_unique<ChangeTeller>(document_, [this](const std::string& change) {
+        statusBar()->showMessage(qtText(change));
+    });
     ground_ = std::make_unique<LockedGround>(document_, *pic_);
     keys_ = std::make_unique<WindowKeys>(
         *this, [this] { return !gate_->isClosed(); },
         std::vector<WindowKeys::Key>{
             {Qt::Key_Escape, [this] { return tools_->isBusy(); }, [this] { tools_->giveUp(); }},
             {Qt::Key_Delete, [this] { return !selection_.isEmpty(); },
-             [this] {
-                 tools_->cancelWork();
-                 commands_.mnuDelete_Click();
-             }}});
+             [this] { deleteSelected(); }}});
 }
 
 void FrmMain::connectPanels() {
@@ -200,7 +202,7 @@ void FrmMain::connectMenus() {
         connect(entry, &QAction::triggered, this, handler);
     };
     on(menus_->mnuSave, [this] { files_.mnuSave_Click(); });
-    on(menus_->mnuLoad, [this] { files_.mnuLoad_Click(); });
+    on(menus_->mnuLoad, [this] { load(); });
     on(menus_->mnuView, [this] { files_.mnuView_Click(); });
     on(menus_->mnuDelays, [this] { dialogs_->mnuDelays_Click(); });
     on(menus_->mnuInfo, [this] { dialogs_->mnuInfo_Click(); });
@@ -214,9 +216,12 @@ void FrmMain::connectMenus() {
     on(menus_->mnuForward, [this] { commands_.mnuForward_Click(); });
     on(menus_->mnuBackward, [this] { commands_.mnuBackward_Click(); });
     on(menus_->mnuDeSel, [this] { commands_.mnuDeSel_Click(); });
-    on(menus_->mnuLocked, [this] { commands_.mnuLocked_Click(); });
+    on(menus_->mnuLocked, [this] {
+        commands_.mnuLocked_Click();
+        views_->hideMarks(); // what is locked is a part of the ground now
+    });
     on(menus_->mnuUnlock, [this] { commands_.mnuUnlock_Click(); });
-    on(menus_->mnuDelete, [this] { commands_.mnuDelete_Click(); });
+    on(menus_->mnuDelete, [this] { deleteSelected(); });
 }
 
 void FrmMain::watchPictures() {

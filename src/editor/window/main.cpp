@@ -2,9 +2,9 @@
 #include "files/host_files.h"
 #include "widgets/qt_prompts.h"
 #include "widgets/qt_text.h"
+#include "window/application.h"
 #include "window/frm_main.h"
 
-#include <QApplication>
 #include <QFile>
 
 namespace {
@@ -28,13 +28,14 @@ void layCatalogue(const std::filesystem::path& folder) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
+    tarvel::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvel"));
     QApplication::setDesktopFileName(QStringLiteral("tarvel"));
     const std::filesystem::path folder = tarvel::programFolder();
     layCatalogue(folder);
     tarvel::QtPrompts prompts;
     tarvel::FrmMain window(prompts, folder);
+    application.tellFailures([&](const QString& words) { prompts.message(&window, words); });
     window.show();
     return QApplication::exec();
 }

@@ -2,6 +2,7 @@
 #include "window/selection_views.h"
 
 #include "document/layout_screens.h"
+#include "editing/element_words.h"
 #include "panels/behaviour_buttons.h"
 #include "panels/create_panel.h"
 #include "panels/position_panel.h"
@@ -25,9 +26,14 @@ void SelectionViews::documentChanged(const DocumentChange& change) {
     }
 }
 
+void SelectionViews::hideMarks() {
+    views_.marks.hideSels();
+}
+
 void SelectionViews::showSelection() {
     setCurrentSel();
     setBolds();
+    views_.behaviours.setAvailable(!selection_.isEmpty());
     if (!selection_.isEmpty()) {
         views_.properties.showElement(document_.element(selection_.curNum()));
     } else if (!views_.tools.tool()) {
@@ -38,11 +44,13 @@ void SelectionViews::showSelection() {
 void SelectionViews::setCurrentSel() {
     if (selection_.isEmpty()) {
         views_.marks.hideSels();
+        views_.marks.describe("nothing selected");
         views_.position.clear();
         return;
     }
     const Element& element = document_.element(selection_.curNum());
     views_.marks.setCurrentSel(element);
+    views_.marks.describe(elementWords(element) + ", selected");
     if (element.elementKind == ElementKind::Line) {
         views_.position.setPosLine(element.elementControl);
     } else {

@@ -27,6 +27,8 @@ class SelectionViews : private DocumentObserver, private SelectionObserver {
 
     /// All of them, from the document.
     void showSelection();
+    /// Hides the marks until the selection is made or its element changes anew.
+    void hideMarks();
     /// Marks and position fields.
     void setCurrentSel();
     /// Marks the behaviours that the selected element carries.

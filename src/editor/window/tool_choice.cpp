@@ -64,6 +64,10 @@ void ToolChoice::cancelWork() {
     controller_->cancelWork();
 }
 
+void ToolChoice::endWork() {
+    controller_->endWork();
+}
+
 void ToolChoice::drawingEnded() {
     letGo();
     views_->showSelection();
@@ -97,9 +101,13 @@ void ToolChoice::chooseTool(std::optional<ElementKind> kind) {
 }
 
 void ToolChoice::refuseInvalid(ElementKind kind, bool& refuse) {
+    cover_->hurry(); // what is drawn takes what the tool's panel shows
     for (const std::string_view text : isInvalid(kind, panelValues())) {
         parts_.prompts.message(parts_.surface.window(), qtText(text));
         refuse = true;
+    }
+    if (refuse) {
+        parts_.properties.focusFault(kind);
     }
 }
 

@@ -48,6 +48,8 @@ class ToolChoice : public QObject, private ToolHost, private SelectionObserver {
     void giveUp();
     /// Takes back what the pointer is doing.
     void cancelWork();
+    /// Ends it where it stands.
+    void endWork();
 
   private:
     // What the surface's tools see.

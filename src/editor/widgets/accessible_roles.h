@@ -1,0 +1,15 @@
+// Roles of widgets for screen readers, where Qt's own would say something else.
+#pragma once
+
+class QAbstractButton;
+class QWidget;
+
+namespace tarvel {
+
+/// The widget is a picture that is worked on, with its accessible description as its words.
+void beCanvas(QWidget& widget);
+
+/// The checkable button is one of several of which at most one is chosen.
+void beRadioButton(QAbstractButton& button);
+
+} // namespace tarvel
