@@ -57,20 +57,19 @@ void takeImage(int chosen, const std::vector<Resource>& resources, Element& elem
 }
 
 void takeBox(const PanelValues& values, ElementControl& control) {
-    control.fillStyle = values.fColor.fillStyle;
-    control.fillColor = values.fColor.color;
+    control.fillStyle = values.fill.fillStyle;
+    control.fillColor = values.fill.color;
     control.borderStyle =
-        values.lColor.fillStyle == FillStyle::solid ? BorderStyle::solid : BorderStyle::none;
-    control.borderColor = values.lColor.color;
+        values.border.fillStyle == FillStyle::solid ? BorderStyle::solid : BorderStyle::none;
+    control.borderColor = values.border.color;
 }
 
 void takeText(const PanelValues& values, Element& element) {
     ElementControl& control = element.elementControl;
-    control.caption = values.txtText;
-    control.textColor = values.fColor.color;
-    if (control.font.get() !=
-        values.cmdFont) { // elements without a choice of font share the default
-        control.font.edit() = values.cmdFont;
+    control.caption = values.text;
+    control.textColor = values.fill.color;
+    if (control.font.get() != values.font) { // elements without a choice of font share the default
+        control.font.edit() = values.font;
     }
     element.textIsConstant = !values.textIsEntry;
 }
@@ -81,7 +80,7 @@ void takePanel(const PanelValues& values, const std::vector<Resource>& resources
                Element& element) {
     switch (element.elementControl.kind) {
     case ControlKind::lin:
-        element.elementControl.borderColor = values.lColor.color;
+        element.elementControl.borderColor = values.border.color;
         break;
     case ControlKind::box:
         takeBox(values, element.elementControl);
@@ -90,15 +89,15 @@ void takePanel(const PanelValues& values, const std::vector<Resource>& resources
         takeText(values, element);
         break;
     case ControlKind::qor:
-        element.menuSettings.edit() = menuSettingsOf(values.fraQor);
+        element.menuSettings.edit() = menuSettingsOf(values.menu);
         break;
     case ControlKind::img:
     case ControlKind::vid:
     case ControlKind::png:
-        takeImage(values.lstR, resources, element);
+        takeImage(values.resource, resources, element);
         break;
     }
-    element.elementAlpha = toInt16(val(values.txtAlpha));
+    element.elementAlpha = toInt16(val(values.opacity));
 }
 
 std::string freshLabel(const Element& element) {

@@ -1,7 +1,7 @@
 // The checks, kind by kind.
 #include "editing/panel_check.h"
 
-#include "editing/panel_texts.h"
+#include "document/kinds/panel_texts.h"
 
 namespace tarvel {
 
@@ -28,13 +28,13 @@ bool isBadAlpha(std::string_view captionText) {
 
 std::vector<std::string_view> boxFaults(const PanelValues& values) {
     std::vector<std::string_view> faults;
-    if (isClear(values.lColor) && isClear(values.fColor)) {
+    if (isClear(values.border) && isClear(values.fill)) {
         faults.push_back(message::noBoxColor);
     }
-    if (isBadOpacity(values.txtAlpha)) {
+    if (isBadOpacity(values.opacity)) {
         faults.push_back(message::badOpacity);
     }
-    if (isBadAlpha(caption::lblAlpha)) {
+    if (isBadAlpha(caption::opacity)) {
         faults.push_back(message::badAlpha);
     }
     return faults;
@@ -47,13 +47,13 @@ std::vector<std::string_view> isInvalid(std::optional<ElementKind> tool,
     if (tool == ElementKind::Box) {
         return boxFaults(values);
     }
-    if (tool == ElementKind::Line && isClear(values.lColor)) {
+    if (tool == ElementKind::Line && isClear(values.border)) {
         return {message::noLineColor};
     }
-    if (tool == ElementKind::Image && values.lstR < 0) {
+    if (tool == ElementKind::Image && values.resource < 0) {
         return {message::noResource};
     }
-    if (tool == ElementKind::Text && values.txtText.empty()) {
+    if (tool == ElementKind::Text && values.text.empty()) {
         return {message::noText};
     }
     return {};

@@ -1,8 +1,9 @@
 // Element to panel.
 #include "editing/panel_values.h"
 
-#include "editing/list_index.h"
-#include "editing/panel_texts.h"
+#include "document/kinds/panel_texts.h"
+#include "editing/position_fields.h"
+#include "text/list_index.h"
 #include "text/text_case.h"
 
 namespace tarvel {
@@ -36,12 +37,12 @@ void chooseColor(Swatch& swatch, ColorNumber color) {
 }
 
 void clearBorder(PanelValues& values) {
-    values.lColor.fillStyle = FillStyle::transparent;
+    values.border.fillStyle = FillStyle::transparent;
 }
 
 void clearFill(PanelValues& values) {
-    values.fColor.fillStyle = FillStyle::transparent;
-    values.txtAlpha = "100";
+    values.fill.fillStyle = FillStyle::transparent;
+    values.opacity = "100";
 }
 
 PanelLayout editControls(ControlKind kind, PanelValues& values) {
@@ -49,35 +50,35 @@ PanelLayout editControls(ControlKind kind, PanelValues& values) {
     switch (kind) {
     case ControlKind::box:
         layout.kindFlag = ElementKind::Box;
-        layout.fraShared = layout.fraBox = true;
-        layout.borderColor = layout.fillColor = layout.cmdClearF = layout.alpha = true;
-        layout.lblBorderColor = caption::borderColor;
-        layout.lblFillColor = caption::fillColor;
+        layout.colors = layout.fillPart = true;
+        layout.borderColor = layout.fillColor = layout.clearFill = layout.opacity = true;
+        layout.borderCaption = caption::borderColor;
+        layout.fillCaption = caption::fillColor;
         break;
     case ControlKind::lin:
         layout.kindFlag = ElementKind::Line;
-        layout.fraShared = layout.borderColor = true;
-        layout.lblBorderColor = caption::lineColor;
-        values.lColor.fillStyle = FillStyle::solid;
+        layout.colors = layout.borderColor = true;
+        layout.borderCaption = caption::lineColor;
+        values.border.fillStyle = FillStyle::solid;
         break;
     case ControlKind::img:
     case ControlKind::vid:
         layout.kindFlag = ElementKind::Image;
-        layout.fraImg = true;
+        layout.resource = true;
         break;
     case ControlKind::png:
-        layout.fraImg = true;
+        layout.resource = true;
         break;
     case ControlKind::txt:
         layout.kindFlag = ElementKind::Text;
-        layout.fraShared = layout.fraBox = layout.fraText = true;
-        layout.fillColor = layout.alpha = true;
-        layout.lblFillColor = caption::fontColor;
-        chooseColor(values.fColor, whiteSwatch);
+        layout.colors = layout.fillPart = layout.text = true;
+        layout.fillColor = layout.opacity = true;
+        layout.fillCaption = caption::fontColor;
+        chooseColor(values.fill, whiteSwatch);
         break;
     case ControlKind::qor:
         layout.kindFlag = ElementKind::Menu;
-        layout.fraQor = true;
+        layout.menu = true;
         break;
     }
     return layout;
@@ -89,29 +90,29 @@ PanelLayout showEditControls(const Element& element, const std::vector<Resource>
     values.position = positionTexts(control);
     switch (control.kind) {
     case ControlKind::lin:
-        values.lColor.color = control.borderColor;
-        values.txtAlpha = numberText(int{element.elementAlpha});
+        values.border.color = control.borderColor;
+        values.opacity = numberText(int{element.elementAlpha});
         break;
     case ControlKind::box:
-        values.fColor = {control.fillStyle, control.fillColor};
-        values.lColor = {control.borderStyle == BorderStyle::none ? FillStyle::transparent
+        values.fill = {control.fillStyle, control.fillColor};
+        values.border = {control.borderStyle == BorderStyle::none ? FillStyle::transparent
                                                                   : FillStyle::solid,
                          control.borderColor};
-        values.txtAlpha = numberText(int{element.elementAlpha});
+        values.opacity = numberText(int{element.elementAlpha});
         break;
     case ControlKind::txt:
-        values.txtText = control.caption;
+        values.text = control.caption;
         values.textIsEntry = !element.textIsConstant;
-        values.fColor.color = control.textColor;
-        values.txtAlpha = numberText(int{element.elementAlpha});
+        values.fill.color = control.textColor;
+        values.opacity = numberText(int{element.elementAlpha});
         break;
     case ControlKind::qor:
-        showMenuSettings(element.menuSettings.get(), values.fraQor);
+        showMenuSettings(element.menuSettings.get(), values.menu);
         break;
     case ControlKind::img:
     case ControlKind::vid:
     case ControlKind::png:
-        values.lstR = resourceIndex(resources, element.imageSource);
+        values.resource = resourceIndex(resources, element.imageSource);
         break;
     }
     return editControls(control.kind, values);

@@ -71,7 +71,7 @@ ElementControl controlFor(const Resource& resource) {
     element.elementKind = ElementKind::Image;
     element.elementControl.kind = ControlKind::img;
     PanelValues values;
-    values.lstR = 0;
+    values.resource = 0;
     takePanel(values, {resource}, element);
     return element.elementControl;
 }

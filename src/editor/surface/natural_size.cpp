@@ -14,7 +14,7 @@ namespace tarvel {
 namespace {
 
 SkinSize textSize(const PanelValues& values) {
-    const QSizeF size = QFontMetricsF(skinFont(values.cmdFont)).size(0, qtText(values.txtText));
+    const QSizeF size = QFontMetricsF(skinFont(values.font)).size(0, qtText(values.text));
     return {static_cast<float>(std::ceil(size.width()) + 1),
             static_cast<float>(std::ceil(size.height()))};
 }
@@ -42,7 +42,7 @@ std::optional<SkinSize> naturalSize(ElementKind kind, const PanelValues& values,
     case ElementKind::Text:
         return textSize(values);
     case ElementKind::Image:
-        return pictureSize(values.lstR, settings.resources, pictures);
+        return pictureSize(values.resource, settings.resources, pictures);
     case ElementKind::Box:
     case ElementKind::Line:
     case ElementKind::Menu:

@@ -1,6 +1,6 @@
 // What the main window consists of, and what is connected to what.
+#include "document/kinds/panel_texts.h"
 #include "editing/manipulation.h"
-#include "editing/panel_texts.h"
 #include "panels/behaviour_buttons.h"
 #include "panels/create_panel.h"
 #include "panels/elements_panel.h"
@@ -138,7 +138,7 @@ QWidget* FrmMain::buildRightSide() {
 }
 
 QWidget* FrmMain::buildStopButton() {
-    auto* cmdStop = named(new QPushButton(qtText(caption::cmdStop)), QStringLiteral("cmdStop"),
+    auto* cmdStop = named(new QPushButton(qtText(caption::stopVideos)), QStringLiteral("cmdStop"),
                           tr("Stop the videos of this screen"));
     connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
     connect(cmdStop, &QPushButton::clicked, properties_, &PropertyPanel::stopPreview);
