@@ -1,5 +1,5 @@
 // Elements made by drawing: the record, row and count of each kind.
-#include "document/element_factory.h"
+#include "document/image_source.h"
 #include "editing/manipulation.h"
 #include "editing/new_element.h"
 #include "editing/panel_check.h"
