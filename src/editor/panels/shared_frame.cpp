@@ -1,6 +1,7 @@
 // Colour rows and the opacity.
 #include "panels/shared_frame.h"
 
+#include "document/element_kinds.h"
 #include "document/kinds/panel_texts.h"
 #include "widgets/click_label.h"
 #include "widgets/color_well.h"
@@ -26,6 +27,12 @@ QLabel* captionLabel(const char* name, std::string_view text) {
     auto* label = new QLabel(qtText(text));
     label->setObjectName(QLatin1String(name));
     return label;
+}
+
+// A caption as it is read out: "Line Color" as "Line color".
+QString spoken(std::string_view text) {
+    const QString all = qtText(text);
+    return all.left(1) + all.mid(1).toLower();
 }
 
 } // namespace
@@ -106,9 +113,17 @@ QBoxLayout* SharedFrame::alphaRow() {
 void SharedFrame::alignRows() {
     const QFontMetrics metrics(font());
     int captionWidth = 0;
-    for (const std::string_view text : {caption::anyBorderColor, caption::anyFillColor,
-                                        caption::lineColor, caption::fontColor, caption::opacity}) {
+    const auto makeRoom = [&](std::string_view text) {
         captionWidth = std::max(captionWidth, metrics.horizontalAdvance(qtText(text)));
+    };
+    makeRoom(caption::anyBorderColor);
+    makeRoom(caption::anyFillColor);
+    makeRoom(caption::opacity);
+    for (const KindRules* rules : elementKinds) {
+        PanelValues values;
+        const PanelLayout layout = rules->panel(rules->controls.front().kind, values);
+        makeRoom(layout.borderCaption);
+        makeRoom(layout.fillCaption);
     }
     for (QLabel* each : {border_.caption, fill_.caption, lblAlpha_}) {
         each->setMinimumWidth(captionWidth);
@@ -141,13 +156,11 @@ void SharedFrame::refresh() {
 void SharedFrame::refresh(const PanelLayout& layout) {
     if (layout.borderColor) {
         border_.caption->setText(qtText(layout.borderCaption));
-        border_.well->setAccessibleName(layout.kindFlag == ElementKind::Line ? tr("Line color")
-                                                                             : tr("Border color"));
+        border_.well->setAccessibleName(spoken(layout.borderCaption));
     }
     if (layout.fillColor) {
         fill_.caption->setText(qtText(layout.fillCaption));
-        fill_.well->setAccessibleName(layout.kindFlag == ElementKind::Text ? tr("Font color")
-                                                                           : tr("Fill color"));
+        fill_.well->setAccessibleName(spoken(layout.fillCaption));
     }
     border_.setVisible(layout.borderColor);
     fill_.setVisible(layout.fillColor);

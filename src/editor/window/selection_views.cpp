@@ -1,6 +1,7 @@
 // Which view follows which change of the selected element.
 #include "window/selection_views.h"
 
+#include "document/element_kinds.h"
 #include "document/layout_screens.h"
 #include "panels/behaviour_buttons.h"
 #include "panels/create_panel.h"
@@ -43,7 +44,7 @@ void SelectionViews::setCurrentSel() {
     }
     const Element& element = document_.element(selection_.curNum());
     views_.marks.setCurrentSel(element);
-    if (element.elementKind == ElementKind::Line) {
+    if (hasEnds(element.elementControl)) {
         views_.position.setPosLine(element.elementControl);
     } else {
         views_.position.setPos(element.elementControl);

@@ -4,7 +4,7 @@
 #include "editing/panel_check.h"
 #include "panels/create_panel.h"
 #include "panels/property_panel.h"
-#include "surface/natural_size.h"
+#include "surface/element_looks.h"
 #include "surface/pic.h"
 #include "surface/selection_marks.h"
 #include "surface/surface_controller.h"
@@ -45,7 +45,7 @@ PanelValues ToolChoice::panelValues() const {
 }
 
 std::optional<SkinSize> ToolChoice::naturalSize(ElementKind kind) {
-    return tarvel::naturalSize(kind, panelValues(), parts_.document.settings(), parts_.pictures);
+    return lookOf(kind).naturalSize(panelValues(), parts_.document.settings(), parts_.pictures);
 }
 
 bool ToolChoice::isBusy() const {
