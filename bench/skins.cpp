@@ -35,7 +35,7 @@ Element elementOf(int number) {
     control.fillStyle = FillStyle::solid;
     control.fillColor = static_cast<ColorNumber>(number) * 2654435U & 0xFFFFFFU;
     control.borderStyle = number % 2 == 0 ? BorderStyle::solid : BorderStyle::none;
-    control.textColor = white;
+    control.textColor = makeColor(255, 255, 255);
     control.caption = "Caption number " + std::to_string(number);
     element.textIsConstant = number % 5 == 1;
     element.imageSource = "picture" + std::to_string(number % 8);

@@ -4,8 +4,8 @@
 # the folder, and after DEPENDS what it may use.
 function(tarvel_add_layer name dir)
   cmake_parse_arguments(PARSE_ARGV 2 arg "QT" "" "DEPENDS;WITHOUT")
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.cpp
-                                      ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.h)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.cpp
+                                              ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.h)
   foreach(left ${arg_WITHOUT})
     list(REMOVE_ITEM sources ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/${left})
   endforeach()

@@ -1,7 +1,7 @@
 // The main window for tests, with everything that it asks answered by a script.
 #pragma once
 
-#include "document/element_factory.h"
+#include "document/element_kinds.h"
 #include "files/host_files.h"
 #include "support/scripted_prompts.h"
 #include "widgets/panel_slide.h"
@@ -26,7 +26,7 @@ inline Element boxAt(float left, float top, float width, float height, int opaci
     Element element;
     element.elementKind = ElementKind::Box;
     element.elementAlpha = static_cast<std::int16_t>(opacity);
-    element.label = boxLabel(opacity);
+    element.label = boxKind.label(element);
     ElementControl& control = element.elementControl;
     control.kind = ControlKind::box;
     control.fillStyle = FillStyle::solid;

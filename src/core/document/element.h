@@ -15,11 +15,11 @@
 
 namespace tarvel {
 
-/// Kind codes as they are kept; a code outside 1 to 5 is possible and written as a Menu element.
+/// Kind codes as they are kept. A code that no kind has is possible and counts as Menu.
 enum class ElementKind : std::int16_t { Box = 1, Line = 2, Image = 3, Text = 4, Menu = 5 };
 
 /// The control that draws an element. Images have three, chosen by the file's last three
-/// characters.
+/// characters. What is known of a kind stands in its record, see element_kinds.h.
 enum class ControlKind : std::uint8_t { box, lin, img, png, vid, txt, qor };
 
 /// "box", "lin", "img", "png", "vid", "txt" or "qor".
@@ -55,11 +55,11 @@ struct ElementControl {
     TextAlignment alignment = TextAlignment::left;
     PictureContent picture = PictureContent::file;
 
-    float left = 0; ///< every kind but lin
+    float left = 0; ///< of a rectangle
     float top = 0;
     float width = 0;
     float height = 0;
-    float X1 = 0; ///< lin only
+    float X1 = 0; ///< of what has two ends
     float Y1 = 0;
     float X2 = 0;
     float Y2 = 0;

@@ -1,10 +1,12 @@
 // Reading and writing the place of an element.
 #include "document/element_place.h"
 
+#include "document/element_kinds.h"
+
 namespace tarvel {
 
 Place placeOf(const ElementControl& control) {
-    if (control.kind == ControlKind::lin) {
+    if (hasEnds(control)) {
         return {control.X1, control.Y1, control.X2, control.Y2};
     }
     return {control.left, control.top, control.width, control.height};
@@ -12,7 +14,7 @@ Place placeOf(const ElementControl& control) {
 
 void setPlace(ElementControl& control, const Place& place) {
     const auto [a, b, c, d] = place;
-    if (control.kind == ControlKind::lin) {
+    if (hasEnds(control)) {
         control.X1 = a;
         control.Y1 = b;
         control.X2 = c;

@@ -24,7 +24,7 @@ struct SkinSize {
     bool operator==(const SkinSize&) const = default;
 };
 
-/// Left, top, width and height; of a lin: X1, Y1, X2 and Y2.
+/// Left, top, width and height; of what has two ends: X1, Y1, X2 and Y2.
 using Place = std::array<float, 4>;
 
 [[nodiscard]] Place placeOf(const ElementControl& control);

@@ -14,12 +14,6 @@ std::size_t at(int index) {
 
 } // namespace
 
-std::string_view controlName(ControlKind kind) {
-    static constexpr std::array<std::string_view, 7> names = {"box", "lin", "img", "png",
-                                                              "vid", "txt", "qor"};
-    return names[static_cast<std::size_t>(kind)];
-}
-
 void SystemColors::setBoxColor(std::string_view text, std::size_t index) {
     if (!text.empty()) {
         boxes.at(index).fillColor = getColor(text);

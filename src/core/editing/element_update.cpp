@@ -1,122 +1,21 @@
-// Applying the panel, kind by kind.
+// Applying the panel.
 #include "editing/element_update.h"
 
-#include "document/element_factory.h"
+#include "document/element_kinds.h"
 #include "editing/stacking.h"
-#include "text/text_case.h"
 
-#include <string_view>
 #include <utility>
 
 namespace tarvel {
 
-namespace {
-
-constexpr std::string_view referenceMark = "::";
-
-bool isProgramFile(std::string_view file) {
-    constexpr std::string_view ending = "xbe";
-    return file.size() >= ending.size() &&
-           equalsIgnoringCase(file.substr(file.size() - ending.size()), ending);
-}
-
-PictureContent pictureOf(const Resource& resource) {
-    if (resource.outside) {
-        return PictureContent::barred;
-    }
-    return isProgramFile(resource.content) ? PictureContent::programIcon : PictureContent::file;
-}
-
-void showResource(const Resource& resource, ElementControl& control) {
-    if (resource.isFile) {
-        control.kind = imageControl(resource.content);
-        control.file = resource.content;
-        control.picture = pictureOf(resource);
-    } else if (control.kind != ControlKind::vid) {
-        control.kind = ControlKind::img;
-        control.file.clear();
-        control.picture = PictureContent::programIcon;
-    }
-}
-
-// A source that names the resource with the mark in front keeps it.
-bool names(std::string_view source, std::string_view resource) {
-    return source.starts_with(referenceMark) &&
-           equalsIgnoringCase(source.substr(referenceMark.size()), resource);
-}
-
-void takeImage(int chosen, const std::vector<Resource>& resources, Element& element) {
-    if (chosen < 0 || static_cast<std::size_t>(chosen) >= resources.size()) {
-        return;
-    }
-    const Resource& resource = resources[static_cast<std::size_t>(chosen)];
-    if (!names(element.imageSource, resource.name)) {
-        element.imageSource = resource.name;
-    }
-    showResource(resource, element.elementControl);
-}
-
-void takeBox(const PanelValues& values, ElementControl& control) {
-    control.fillStyle = values.fColor.fillStyle;
-    control.fillColor = values.fColor.color;
-    control.borderStyle =
-        values.lColor.fillStyle == FillStyle::solid ? BorderStyle::solid : BorderStyle::none;
-    control.borderColor = values.lColor.color;
-}
-
-void takeText(const PanelValues& values, Element& element) {
-    ElementControl& control = element.elementControl;
-    control.caption = values.txtText;
-    control.textColor = values.fColor.color;
-    if (control.font.get() !=
-        values.cmdFont) { // elements without a choice of font share the default
-        control.font.edit() = values.cmdFont;
-    }
-    element.textIsConstant = !values.textIsEntry;
-}
-
-} // namespace
-
 void takePanel(const PanelValues& values, const std::vector<Resource>& resources,
                Element& element) {
-    switch (element.elementControl.kind) {
-    case ControlKind::lin:
-        element.elementControl.borderColor = values.lColor.color;
-        break;
-    case ControlKind::box:
-        takeBox(values, element.elementControl);
-        break;
-    case ControlKind::txt:
-        takeText(values, element);
-        break;
-    case ControlKind::qor:
-        element.menuSettings.edit() = menuSettingsOf(values.fraQor);
-        break;
-    case ControlKind::img:
-    case ControlKind::vid:
-    case ControlKind::png:
-        takeImage(values.lstR, resources, element);
-        break;
-    }
-    element.elementAlpha = toInt16(val(values.txtAlpha));
+    rulesOf(element.elementControl.kind).take(values, resources, element);
+    element.elementAlpha = toInt16(val(values.opacity));
 }
 
 std::string freshLabel(const Element& element) {
-    switch (element.elementControl.kind) {
-    case ControlKind::box:
-        return boxLabel(element.elementAlpha);
-    case ControlKind::lin:
-        return "Line";
-    case ControlKind::txt:
-        return textLabel(element.elementControl.caption);
-    case ControlKind::qor:
-        return "Menu";
-    case ControlKind::img:
-    case ControlKind::vid:
-    case ControlKind::png:
-        break;
-    }
-    return imageLabel(element.imageSource);
+    return rulesOf(element.elementControl.kind).label(element);
 }
 
 bool updateControls(SkinDocument& document, int elementId, const PanelValues& values) {

@@ -1,6 +1,8 @@
 // Hits on elements and handles. Sums of coordinates are formed in doubles, where they are exact.
 #include "editing/hit_test.h"
 
+#include "document/element_kinds.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -21,10 +23,6 @@ Side horizontal(const ElementControl& control) {
 
 Side vertical(const ElementControl& control) {
     return {control.top, std::max(control.height, 0.0F)};
-}
-
-bool isLine(const ElementControl& control) {
-    return control.kind == ControlKind::lin;
 }
 
 double centreAlong(const Side& side, int edge) {
@@ -71,9 +69,8 @@ bool onElementLine(float x, float y, const ElementControl& line) {
 
 bool isAt(const Element& element, SkinPoint point) {
     const ElementControl& control = element.elementControl;
-    const bool hit = element.elementKind == ElementKind::Line
-                         ? onElementLine(point.x, point.y, control)
-                         : onElement(point.x, point.y, control);
+    const bool hit = hasEnds(control) ? onElementLine(point.x, point.y, control)
+                                      : onElement(point.x, point.y, control);
     return hit && !element.elementLocked;
 }
 
@@ -120,8 +117,8 @@ bool hasHandle(const Element& element, Handle handle) {
     }
     const auto [x, y] = edgesOf(handle);
     const bool isEnd = x == 0 && y == 0;
-    if (isEnd || isLine(control)) {
-        return isEnd && isLine(control);
+    if (isEnd || hasEnds(control)) {
+        return isEnd && hasEnds(control);
     }
     return (x != 0 || control.width >= shortestSideWithMiddle) &&
            (y != 0 || control.height >= shortestSideWithMiddle);
@@ -141,7 +138,7 @@ SkinPoint handleCentre(const ElementControl& control, Handle handle) {
 
 Handle handleAt(const Element& element, SkinPoint point) {
     const ElementControl& control = element.elementControl;
-    if (isLine(control)) {
+    if (hasEnds(control)) {
         return element.elementLocked ? Handle::none : lineEndAt(control, point);
     }
     constexpr std::array<Handle, 8> order = {

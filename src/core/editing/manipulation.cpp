@@ -1,6 +1,7 @@
 // Drags, keys and default places. Sums are formed in doubles and stored as singles.
 #include "editing/manipulation.h"
 
+#include "document/element_kinds.h"
 #include "editing/stacking.h"
 #include "text/number_format.h"
 
@@ -11,18 +12,12 @@ namespace tarvel {
 
 namespace {
 
-constexpr SkinSize boxSize{120, 80};
-constexpr SkinSize imageSize{160, 120};
-constexpr SkinSize textSize{120, 16};
-constexpr SkinSize menuSize{400, 240};
-constexpr SkinSize lineWay{120, 0};
-
 Place placeIn(const SkinDocument& document, int elementId) {
     return placeOf(document.element(elementId).elementControl);
 }
 
 bool isLine(const SkinDocument& document, int elementId) {
-    return document.element(elementId).elementControl.kind == ControlKind::lin;
+    return hasEnds(document.element(elementId).elementControl);
 }
 
 float sum(float a, double b) {
@@ -67,10 +62,6 @@ void span(float& position, float& size, float start, float pointer) {
     const auto way = static_cast<float>(std::abs(difference(pointer, start)));
     position = pointer >= start ? start : pointer;
     size = way;
-}
-
-bool isKnown(const std::optional<SkinSize>& size) {
-    return size && size->width > 0 && size->height > 0;
 }
 
 } // namespace
@@ -179,28 +170,12 @@ bool ResizeDrag::takeBack(SkinDocument& document) const {
 }
 
 SkinSize defaultSize(ElementKind kind, std::optional<SkinSize> natural) {
-    switch (kind) {
-    case ElementKind::Box:
-        return boxSize;
-    case ElementKind::Line:
-        return lineWay;
-    case ElementKind::Image: {
-        const bool fits =
-            isKnown(natural) && natural->width <= skinWidth && natural->height <= skinHeight;
-        return fits ? *natural : imageSize;
-    }
-    case ElementKind::Text:
-        return isKnown(natural) ? SkinSize{std::ceil(natural->width), std::ceil(natural->height)}
-                                : textSize;
-    case ElementKind::Menu:
-        break;
-    }
-    return menuSize;
+    return rulesOf(kind).defaultSize(natural);
 }
 
 Place defaultPlace(ElementKind kind, SkinPoint at, std::optional<SkinSize> natural) {
     const SkinSize size = defaultSize(kind, natural);
-    if (kind == ElementKind::Line) {
+    if (rulesOf(kind).placeForm == PlaceForm::ends) {
         return {at.x, at.y, sum(at.x, size.width), sum(at.y, size.height)};
     }
     return {at.x, at.y, size.width, size.height};

@@ -1,6 +1,7 @@
 // A new element: template, panel, place, label, row.
 #include "editing/new_element.h"
 
+#include "document/element_kinds.h"
 #include "editing/element_update.h"
 #include "editing/manipulation.h"
 
@@ -9,19 +10,7 @@
 namespace tarvel {
 
 ControlKind newControl(ElementKind kind) {
-    switch (kind) {
-    case ElementKind::Box:
-        return ControlKind::box;
-    case ElementKind::Line:
-        return ControlKind::lin;
-    case ElementKind::Image:
-        return ControlKind::img;
-    case ElementKind::Text:
-        return ControlKind::txt;
-    case ElementKind::Menu:
-        break;
-    }
-    return ControlKind::qor;
+    return rulesOf(kind).controls.front().kind;
 }
 
 int makeNewElement(SkinDocument& document, ElementKind kind, const PanelValues& values,
@@ -31,8 +20,8 @@ int makeNewElement(SkinDocument& document, ElementKind kind, const PanelValues& 
     element.elementControl.kind = newControl(kind);
     takePanel(values, document.settings().resources, element);
     const auto [x, y] = wholePoint(press);
-    const bool isLine = kind == ElementKind::Line;
-    setPlace(element.elementControl, {x, y, isLine ? x : 0, isLine ? y : 0});
+    const bool ends = hasEnds(element.elementControl);
+    setPlace(element.elementControl, {x, y, ends ? x : 0, ends ? y : 0});
     element.label = freshLabel(element);
     return document.addElement(std::move(element));
 }

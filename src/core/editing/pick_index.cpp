@@ -1,6 +1,7 @@
 // The targets of a screen's rows in one block of memory, and the search in it.
 #include "editing/pick_index.h"
 
+#include "document/element_kinds.h"
 #include "editing/hit_test.h"
 
 #include <cmath>
@@ -102,7 +103,7 @@ void PickIndex::setTargets(int row, const Element& element) {
     if (element.elementLocked) {
         return;
     }
-    if (element.elementKind == ElementKind::Line) {
+    if (hasEnds(control)) {
         first = around(control.X1, control.Y1);
         second = around(control.X2, control.Y2);
     } else if (control.width >= 0 && control.height >= 0) {

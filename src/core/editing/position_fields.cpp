@@ -1,6 +1,9 @@
 // Position texts, and reading them back.
 #include "editing/position_fields.h"
 
+#include "document/element_kinds.h"
+#include "text/number_format.h"
+
 #include <algorithm>
 
 namespace tarvel {
@@ -8,7 +11,7 @@ namespace tarvel {
 const std::array<std::string_view, positionFields>& positionCaptions(ControlKind kind) {
     static constexpr std::array<std::string_view, positionFields> rectangle = {"L", "T", "W", "H"};
     static constexpr std::array<std::string_view, positionFields> line = {"X1", "Y1", "X2", "Y2"};
-    return kind == ControlKind::lin ? line : rectangle;
+    return rulesOf(kind).placeForm == PlaceForm::ends ? line : rectangle;
 }
 
 PositionTexts positionTexts(const ElementControl& control) {
@@ -22,8 +25,8 @@ bool enterPosition(SkinDocument& document, int elementId, PositionField field,
         return false;
     }
     const ElementControl& control = document.element(elementId).elementControl;
-    const bool isSize = control.kind != ControlKind::lin &&
-                        (field == PositionField::W || field == PositionField::H);
+    const bool isSize =
+        !hasEnds(control) && (field == PositionField::W || field == PositionField::H);
     const double number = val(text);
     Place place = placeOf(control);
     place.at(static_cast<std::size_t>(field)) = toSingle(isSize ? std::max(number, 0.0) : number);

@@ -2,27 +2,26 @@
 #pragma once
 
 #include "document/element_place.h"
+#include "document/kinds/panel_form.h"
 #include "document/skin_document.h"
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
+#include <tuple>
 
 namespace tarvel {
 
 /// The fields by the last letters of their names; as numbers, their places in a Place. Of a line
 /// they hold X1, Y1, X2 and Y2.
 enum class PositionField : std::uint8_t { L, T, W, H };
-inline constexpr std::size_t positionFields = 4;
+inline constexpr std::size_t positionFields = std::tuple_size_v<PositionTexts>;
 
 /// Captions of the fields for a kind of control.
 [[nodiscard]] const std::array<std::string_view, positionFields>&
 positionCaptions(ControlKind kind);
 
-/// The texts of txtL, txtT, txtW and txtH, by PositionField.
-using PositionTexts = std::array<std::string, positionFields>;
-
+/// The texts of the fields, by PositionField.
 [[nodiscard]] PositionTexts positionTexts(const ElementControl& control);
 
 /// Moves or sizes an element by what was typed into one of the fields, read leniently: what is no

@@ -1,6 +1,8 @@
 // Names and fragments of resources.
 #include "editing/resource_rules.h"
 
+#include "document/image_source.h"
+
 #include <algorithm>
 
 namespace tarvel {
@@ -26,10 +28,10 @@ std::string presetContent(std::string_view entry) {
 }
 
 std::string presetName(std::string_view entry) {
-    constexpr std::string_view mark = "::";
     std::string name(entry);
-    for (auto at = name.find(mark); at != std::string::npos; at = name.find(mark, at)) {
-        name.erase(at, mark.size());
+    for (auto at = name.find(referenceMark); at != std::string::npos;
+         at = name.find(referenceMark, at)) {
+        name.erase(at, referenceMark.size());
     }
     return name;
 }

@@ -1,6 +1,8 @@
 // The findings of a check, kind by kind.
 #include "skinfile/skin_check.h"
 
+#include "document/element_kinds.h"
+#include "document/image_source.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
 #include "skinfile/skin_folder.h"
@@ -88,7 +90,7 @@ class SkinCheck {
     }
 
     static bool isOffScreen(const ElementControl& control) {
-        const bool line = control.kind == ControlKind::lin;
+        const bool line = hasEnds(control);
         const float left = line ? std::min(control.X1, control.X2) : control.left;
         const float top = line ? std::min(control.Y1, control.Y2) : control.top;
         const float right = line ? std::max(control.X1, control.X2) : left + control.width;
@@ -106,12 +108,8 @@ class SkinCheck {
         std::string subject(layoutScreens[static_cast<std::size_t>(screen)].caption);
         subject.append(", element ").append(std::to_string(row + 1)).append(" (");
         subject.append(element.label).append("): ");
-        std::string_view source = element.imageSource;
-        if (source.starts_with("::")) {
-            source.remove_prefix(2);
-        }
-        if (element.elementKind == ElementKind::Image &&
-            findResource(document_, source) == nullptr) {
+        if (rulesOf(element.elementKind).namesResource &&
+            resourceOf(document_, element.imageSource) == nullptr) {
             find(subject + "its source " + inQuotes(element.imageSource) + " names no resource");
         }
         if (isOffScreen(element.elementControl)) {
@@ -145,12 +143,9 @@ class SkinCheck {
         if (getLayoutNum(lowerCased(screen)) == 0 && !equalsIgnoringCase(screen, "Title")) {
             find("The screen " + inQuotes(screen) + " is unknown: a save moves it to \"Title\"");
         }
-        constexpr std::array<std::string_view, 5> types = {"image", "box", "line", "text", "menu"};
         for (const XmlNode node : layout.children()) {
             const auto type = getAttrib(node, "Type");
-            const bool known = std::any_of(types.begin(), types.end(), [type](auto name) {
-                return equalsIgnoringCase(type, name);
-            });
+            const bool known = kindOfType(type) != nullptr;
             if (!known || !node.firstChild()) {
                 find("A save drops an element of type " + inQuotes(type) + " on " +
                      inQuotes(screen) + (known ? ": it is empty" : ": the type is unknown"));

@@ -1,6 +1,7 @@
 // The sections of a skin file into the document's settings and screens.
 #include "skinfile/skin_reader.h"
 
+#include "document/image_source.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
 #include "skinfile/screen_builder.h"
@@ -74,7 +75,7 @@ class ResourceReader {
         const std::string name(getAttrib(section, "Name"));
         // Without a File child this is the last child, which then is the fragment.
         const XmlNode file = getTag(section, "File");
-        if (file && file.tag() == "File" && !file.content().starts_with("::")) {
+        if (file && file.tag() == "File" && !isReference(file.content())) {
             addFile(name, std::string(file.content()));
         } else {
             document_.addcRes(file ? makeTag(file.tag(), file.content()) : std::string{}, name);

@@ -73,7 +73,7 @@ class FormReader {
   private:
     static constexpr std::size_t deepest = 8;
     struct Level {
-        Section section = Section::file;
+        Section section{};
         XmlTree::Index node = XmlTree::top;
     };
 
@@ -102,13 +102,13 @@ class FormReader {
     bool take(std::string_view line) {
         const Section section = levels_[depth_].section;
         if (line.empty()) {
-            return section == Section::file || section == Section::resource ||
-                   section == Section::element;
+            return section == written_.file || section == written_.resource ||
+                   section == written_.element;
         }
-        if (section == Section::element && startsModifier(line)) {
+        if (section == written_.element && startsModifier(line)) {
             return takeModifier(line);
         }
-        if (line.size() < 3 || !matchLine(line, section, match_)) {
+        if (line.size() < 3 || !written_.forms.match(line, section, match_)) {
             return false;
         }
         if (match_.form->action == LineForm::Action::close) {
@@ -195,11 +195,12 @@ class FormReader {
         }
     }
 
+    const WrittenLines& written_ = writtenLines();
     XmlTree& tree_;
     std::size_t size_;
     bool hasReferences_;
     std::size_t at_ = 0;
-    std::array<Level, deepest> levels_{};
+    std::array<Level, deepest> levels_{Level{written_.file}};
     std::size_t depth_ = 0;
     WriterLine match_; // of the line at hand
     PlainXmlReader plainXml_;
@@ -282,7 +283,8 @@ class Mender {
 
     // False within a modifier, which is XML whatever its lines look like.
     bool matches(std::string_view line, WriterLine& match) const {
-        return openModifiers_ == 0 && line.size() >= 3 && matchTextLine(line, inTagLists_, match);
+        return openModifiers_ == 0 && line.size() >= 3 &&
+               writtenLines().forms.matchText(line, inTagLists_, match);
     }
 
     [[nodiscard]] bool hasForm(std::string_view bare) const {

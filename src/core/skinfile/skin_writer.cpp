@@ -1,56 +1,15 @@
 // The fixed form of the skin file, section by section.
 #include "skinfile/skin_writer.h"
 
+#include "document/element_kinds.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
 #include "skinfile/version.h"
-#include "text/number_format.h"
 #include "text/text_case.h"
-
-#include <algorithm>
-#include <concepts>
-#include <cstdint>
 
 namespace tarvel {
 
 namespace {
-
-// A colour as "0x" AA RRGGBB with the opacity as AA.
-struct AlphaColor {
-    int opacity; // percent
-    ColorNumber color;
-};
-
-void append(std::string& line, std::string_view text) {
-    line.append(text);
-}
-
-template <class Number>
-requires std::integral<Number> || std::floating_point<Number>
-void append(std::string& line, Number number) {
-    appendNumber(line, number);
-}
-
-void append(std::string& line, const AlphaColor& value) {
-    line.append("0x");
-    appendAlpha(line, value.opacity);
-    appendRgbHex(line, value.color);
-}
-
-bool opensLevel(std::string_view line) {
-    if (line.find('<') == std::string_view::npos) {
-        return false;
-    }
-    for (auto slash = line.find('/'); slash != std::string_view::npos;
-         slash = line.find('/', slash + 1)) {
-        const bool ends = slash > 0 && line[slash - 1] == '<';
-        const bool closes = slash + 1 < line.size() && line[slash + 1] == '>';
-        if (ends || closes) {
-            return false;
-        }
-    }
-    return true;
-}
 
 std::string replaced(std::string_view text, std::string_view what, std::string_view with) {
     std::string result;
@@ -66,52 +25,14 @@ std::string replaced(std::string_view text, std::string_view what, std::string_v
     }
 }
 
-constexpr AlphaColor opaque(ColorNumber color) {
-    return {100, color};
-}
-
-// A menu colour, which is kept as decimal text.
-AlphaColor menuColor(std::string_view decimal) {
-    return opaque(static_cast<ColorNumber>(toInt32(val(decimal))));
-}
-
 ColorNumber sampleText(const SystemColors& colors, SampleText text) {
     return colors.texts[static_cast<std::size_t>(text)];
 }
 
 } // namespace
 
-void SkinWriter::writeLine(std::string_view line) {
-    if (line.starts_with("</")) {
-        xmlIndent_ = static_cast<std::int16_t>(std::max(xmlIndent_ - 1, INT16_MIN));
-    }
-    if (xmlIndent_ > 0) {
-        xmlText_.append(static_cast<std::size_t>(xmlIndent_), '\t');
-    }
-    if (opensLevel(line)) {
-        xmlIndent_ = static_cast<std::int16_t>(std::min(xmlIndent_ + 1, INT16_MAX));
-    }
-    xmlText_.append(line);
-    xmlText_.append("\r\n");
-}
-
-template <class... Pieces> void SkinWriter::line(const Pieces&... pieces) {
-    line_.clear();
-    (append(line_, pieces), ...);
-    writeLine(line_);
-}
-
-template <class Value> void SkinWriter::tagLine(std::string_view name, const Value& value) {
-    line("<", name, ">", value, "</", name, ">");
-}
-
-void SkinWriter::colorLine(std::string_view name, ColorNumber color) {
-    tagLine(name, opaque(color));
-}
-
 void SkinWriter::generateXML(SkinDocument& document) {
-    xmlText_.clear();
-    xmlIndent_ = 0;
+    clear();
     const SkinSettings settings = document.settings();
     line(R"(<Skin name=")", settings.skinName, R"(">)");
     writeInformation(settings);
@@ -212,94 +133,8 @@ void SkinWriter::writeLayout(const SkinDocument& document, int screen) {
 }
 
 void SkinWriter::writeElement(const Element& element) {
-    const ElementControl& control = element.elementControl;
-    writeOpening(element);
-    if (element.elementKind == ElementKind::Line) {
-        line(R"(<Pos X1=")", control.X1, R"(" Y1=")", control.Y1, R"(" X2=")", control.X2,
-             R"(" Y2=")", control.Y2, R"("/>)");
-        colorLine("Color", control.borderColor);
-    } else {
-        if (element.elementKind == ElementKind::Box) {
-            writeBox(element);
-        } else if (element.elementKind == ElementKind::Text) {
-            tagLine("TextColor", AlphaColor{element.elementAlpha, control.textColor});
-        } else if (element.elementKind == ElementKind::Menu) {
-            writeMenu(element.menuSettings.get());
-        }
-        line(R"(<Pos L=")", control.left, R"(" T=")", control.top, R"(" W=")", control.width,
-             R"(" H=")", control.height, R"("/>)");
-    }
+    rulesOf(element.elementKind).write(element, *this);
     writeTail(element);
-}
-
-void SkinWriter::writeOpening(const Element& element) {
-    switch (element.elementKind) {
-    case ElementKind::Line:
-        writeLine(R"(<LayoutElement Type="Line">)");
-        break;
-    case ElementKind::Box:
-        writeLine(R"(<LayoutElement Type="Box">)");
-        break;
-    case ElementKind::Image:
-        line(R"(<LayoutElement Type="Image" Source=")", element.imageSource, R"(">)");
-        writeLine(R"(<Scaling X="True" Y="True"/>)");
-        break;
-    case ElementKind::Text:
-        if (element.textIsConstant) {
-            writeLine(R"(<LayoutElement Type="Text">)");
-            tagLine("Constant", element.elementControl.caption);
-        } else {
-            line(R"(<LayoutElement Type="Text" Source=")", element.elementControl.caption, R"(">)");
-        }
-        break;
-    case ElementKind::Menu:
-    default: // whatever has no kind of its own opens like a menu
-        writeLine(R"(<LayoutElement Type="Menu" Source="QOR">)");
-    }
-}
-
-void SkinWriter::writeBox(const Element& element) {
-    const ElementControl& control = element.elementControl;
-    if (control.fillStyle == FillStyle::solid) {
-        tagLine("Color", AlphaColor{element.elementAlpha, control.fillColor});
-    }
-    if (control.borderStyle == BorderStyle::solid) {
-        colorLine("BorderColor", control.borderColor);
-    }
-}
-
-void SkinWriter::writeMenu(const MenuSettings& settings) {
-    line(R"(<Thumbnails Align="Left">)", boolText(settings.thumbnailsVisible), "</Thumbnails>");
-    writeLine(R"(<Primary Source="Title">)");
-    tagLine("OffsetY", 0);
-    tagLine("JustifyX", settings.titleAlignment);
-    writeLine("</Primary>");
-    writeLine(R"(<Secondary Source="Descr">)");
-    tagLine("OffsetY", 0);
-    tagLine("JustifyX", settings.descriptionAlignment);
-    writeLine("</Secondary>");
-    writeMenuItems(settings);
-    tagLine("NumItems", settings.itemsShown);
-    tagLine("SelPos", 0);
-    tagLine("ScrollFactor", settings.scrollFactor);
-    tagLine("SmoothScroll", boolText(settings.smoothScroll));
-    tagLine("DrawSecondary", boolText(settings.showDescription));
-}
-
-void SkinWriter::writeMenuItems(const MenuSettings& settings) {
-    writeLine("<Selection>");
-    tagLine("DoGlow", boolText(settings.glowSelected));
-    tagLine("TextColor", menuColor(settings.selectedTitleColor));
-    writeLine("<Secondary>");
-    tagLine("TextColor", menuColor(settings.selectedDescriptionColor));
-    writeLine("</Secondary>");
-    writeLine("</Selection>");
-    writeLine("<UnSelItem>");
-    tagLine("TextColor", menuColor(settings.unselectedTitleColor));
-    writeLine("<Secondary>");
-    tagLine("TextColor", menuColor(settings.unselectedDescriptionColor));
-    writeLine("</Secondary>");
-    writeLine("</UnSelItem>");
 }
 
 void SkinWriter::writeTail(const Element& element) {

@@ -1,7 +1,7 @@
 // The panel "CREATE": the tools that draw new elements.
 #pragma once
 
-#include "document/element.h"
+#include "document/element_kinds.h"
 
 #include <QGroupBox>
 
@@ -31,7 +31,7 @@ class CreatePanel : public QGroupBox {
   private:
     void clicked(std::size_t index);
 
-    std::array<QToolButton*, 5> buttons_{};
+    std::array<QToolButton*, elementKinds.size()> buttons_{}; // by kind
 };
 
 } // namespace tarvel

@@ -1,8 +1,8 @@
 // Picker and preview of resources.
 #include "panels/image_frame.h"
 
+#include "document/kinds/panel_texts.h"
 #include "document/skin_document.h"
-#include "editing/panel_texts.h"
 #include "panels/preview_area.h"
 #include "widgets/qt_text.h"
 
@@ -37,10 +37,10 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
     setAccessibleName(tr("Resource of the image"));
     auto* column = new QVBoxLayout(this);
     buildPicker();
-    auto* lblRes = captionLabel("lblRes", caption::lblRes);
+    auto* lblRes = captionLabel("lblRes", caption::chooseResource);
     lblRes->setBuddy(lstR_);
     column->addWidget(lblRes);
-    auto* cmdAddRes = new QPushButton(qtText(caption::cmdAddRes));
+    auto* cmdAddRes = new QPushButton(qtText(caption::resourceManager));
     cmdAddRes->setObjectName(QStringLiteral("cmdAddRes"));
     cmdAddRes->setAccessibleName(tr("Open the resource manager"));
     cmdAddRes->setMinimumWidth(cmdAddRes->sizeHint().width() + roomAcross);
@@ -49,7 +49,7 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
     row->addWidget(lstR_, 1);
     row->addWidget(cmdAddRes);
     column->addLayout(row);
-    column->addWidget(captionLabel("lblPreview", caption::lblPreview));
+    column->addWidget(captionLabel("lblPreview", caption::resourcePreview));
     preview_ = new PreviewArea(pictures);
     column->addWidget(preview_, 1);
     resourcesChanged();
@@ -84,14 +84,14 @@ void ImageFrame::resourcesChanged() {
     const bool wasChosen = lstR_->currentIndex() >= 0;
     fillPicker();
     // Where several have the name, the one that is where the chosen one was.
-    const bool sameRow = values_.lstR >= 0 &&
-                         static_cast<std::size_t>(values_.lstR) < resources.size() &&
-                         lstR_->itemText(values_.lstR) == name;
+    const bool sameRow = values_.resource >= 0 &&
+                         static_cast<std::size_t>(values_.resource) < resources.size() &&
+                         lstR_->itemText(values_.resource) == name;
     if (!wasChosen || !sameRow) {
-        values_.lstR =
+        values_.resource =
             wasChosen ? lstR_->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive) : -1;
     }
-    lstR_->setCurrentIndex(values_.lstR);
+    lstR_->setCurrentIndex(values_.resource);
     if (previewed_) {
         refresh();
     }
@@ -100,19 +100,19 @@ void ImageFrame::resourcesChanged() {
 const Resource* ImageFrame::chosen() const {
     const auto& resources = document_.settings().resources;
     const bool valid =
-        values_.lstR >= 0 && static_cast<std::size_t>(values_.lstR) < resources.size();
-    return valid ? &resources[static_cast<std::size_t>(values_.lstR)] : nullptr;
+        values_.resource >= 0 && static_cast<std::size_t>(values_.resource) < resources.size();
+    return valid ? &resources[static_cast<std::size_t>(values_.resource)] : nullptr;
 }
 
 void ImageFrame::lstR_Click() {
-    values_.lstR = lstR_->currentIndex();
+    values_.resource = lstR_->currentIndex();
     previewed_.reset();
     refresh();
 }
 
 void ImageFrame::refresh() {
-    if (lstR_->currentIndex() != values_.lstR) {
-        lstR_->setCurrentIndex(values_.lstR);
+    if (lstR_->currentIndex() != values_.resource) {
+        lstR_->setCurrentIndex(values_.resource);
     }
     const Resource* resource = chosen();
     const Resource shown = resource != nullptr ? *resource : Resource{};

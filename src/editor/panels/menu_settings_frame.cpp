@@ -1,7 +1,7 @@
 // Check boxes, numbers, alignments and colours of an item menu.
 #include "panels/menu_settings_frame.h"
 
-#include "editing/panel_texts.h"
+#include "document/kinds/panel_texts.h"
 #include "widgets/color_well.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
@@ -91,27 +91,29 @@ MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget
     auto* column = new QVBoxLayout(this);
     column->setSpacing(smallGap);
     column->addLayout(checksAndNumbers());
-    addGroup(*column, {.head = caption::gameTitle,
-                       .list = "cmbTitleAlign",
-                       .spoken = tr("Alignment of the titles"),
-                       .position = &MenuFrame::cmbTitleAlign,
-                       .choose = chooseTitleAlign,
-                       .preview = &MenuFrame::titlePreview,
-                       .colors = {{{"colSelTitle", "lblSelTitle", caption::lblSelTitle,
-                                    tr("Color of the selected title"), &MenuFrame::colSelTitle},
-                                   {"colUnselTitle", "lblUnselTitle", caption::lblUnselTitle,
-                                    tr("Color of the other titles"), &MenuFrame::colUnselTitle}}}});
     addGroup(*column,
-             {.head = caption::gameDescription,
-              .list = "cmbDescAlign",
-              .spoken = tr("Alignment of the descriptions"),
-              .position = &MenuFrame::cmbDescAlign,
-              .choose = chooseDescAlign,
-              .preview = &MenuFrame::descPreview,
-              .colors = {{{"colSelDesc", "lblSelDesc", caption::lblSelDesc,
-                           tr("Color of the selected description"), &MenuFrame::colSelDesc},
-                          {"colUnselDesc", "lblUnselDesc", caption::lblUnselDesc,
-                           tr("Color of the other descriptions"), &MenuFrame::colUnselDesc}}}});
+             {.head = caption::gameTitle,
+              .list = "cmbTitleAlign",
+              .spoken = tr("Alignment of the titles"),
+              .position = &MenuFrame::titleAlignment,
+              .choose = chooseTitleAlign,
+              .preview = &MenuFrame::titlePreview,
+              .colors = {{{"colSelTitle", "lblSelTitle", caption::selectedTitle,
+                           tr("Color of the selected title"), &MenuFrame::selectedTitleColor},
+                          {"colUnselTitle", "lblUnselTitle", caption::unselectedTitle,
+                           tr("Color of the other titles"), &MenuFrame::unselectedTitleColor}}}});
+    addGroup(*column, {.head = caption::gameDescription,
+                       .list = "cmbDescAlign",
+                       .spoken = tr("Alignment of the descriptions"),
+                       .position = &MenuFrame::descriptionAlignment,
+                       .choose = chooseDescAlign,
+                       .preview = &MenuFrame::descPreview,
+                       .colors = {{{"colSelDesc", "lblSelDesc", caption::selectedDescription,
+                                    tr("Color of the selected description"),
+                                    &MenuFrame::selectedDescriptionColor},
+                                   {"colUnselDesc", "lblUnselDesc", caption::unselectedDescription,
+                                    tr("Color of the other descriptions"),
+                                    &MenuFrame::unselectedDescriptionColor}}}});
     column->addStretch();
     refresh();
 }
@@ -121,11 +123,13 @@ QLayout* MenuSettingsFrame::checksAndNumbers() {
     grid->setVerticalSpacing(smallGap);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
-    grid->addWidget(addCheck("chkThumbVis", caption::chkThumbVis, &MenuFrame::chkThumbVis), 0, 0);
     grid->addWidget(
-        addCheck("chkSmoothScroll", caption::chkSmoothScroll, &MenuFrame::chkSmoothScroll), 0, 1);
-    grid->addWidget(addCheck("chkSelGlow", caption::chkSelGlow, &MenuFrame::chkSelGlow), 1, 0);
-    grid->addWidget(addCheck("chkShowDesc", caption::chkShowDesc, &MenuFrame::chkShowDesc), 1, 1);
+        addCheck("chkThumbVis", caption::thumbnailsVisible, &MenuFrame::thumbnailsVisible), 0, 0);
+    grid->addWidget(addCheck("chkSmoothScroll", caption::smoothScroll, &MenuFrame::smoothScroll), 0,
+                    1);
+    grid->addWidget(addCheck("chkSelGlow", caption::glowSelected, &MenuFrame::glowSelected), 1, 0);
+    grid->addWidget(addCheck("chkShowDesc", caption::showDescription, &MenuFrame::showDescription),
+                    1, 1);
 
     auto* row = new QHBoxLayout;
     const auto addField = [&](const char* labelName, std::string_view text, QLineEdit* edit) {
@@ -135,11 +139,11 @@ QLayout* MenuSettingsFrame::checksAndNumbers() {
         row->addWidget(label);
         row->addWidget(edit);
     };
-    addField("lblScrollFactor", caption::lblScrollFactor,
-             addNumber("txtScrollFactor", tr("Scroll factor"), &MenuFrame::txtScrollFactor));
+    addField("lblScrollFactor", caption::scrollFactor,
+             addNumber("txtScrollFactor", tr("Scroll factor"), &MenuFrame::scrollFactor));
     row->addStretch();
-    addField("lblNumItems", caption::lblNumItems,
-             addNumber("txtNumItems", tr("Number of games shown"), &MenuFrame::txtNumItems));
+    addField("lblNumItems", caption::itemsShown,
+             addNumber("txtNumItems", tr("Number of games shown"), &MenuFrame::itemsShown));
     grid->addLayout(row, 2, 0, 1, 2);
     return grid;
 }

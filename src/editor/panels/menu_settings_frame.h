@@ -1,7 +1,7 @@
 // The frame of an item menu's settings, with a preview of its texts.
 #pragma once
 
-#include "editing/menu_frame.h"
+#include "document/kinds/menu_frame.h"
 
 #include <QGroupBox>
 

@@ -1,7 +1,7 @@
 // Pictures in the size of the preview, and the choice of the right control for a resource.
 #include "panels/preview_area.h"
 
-#include "editing/element_update.h"
+#include "document/image_source.h"
 #include "panels/resource_looks.h"
 #include "panels/video_preview.h"
 #include "surface/picture_cache.h"
@@ -65,15 +65,11 @@ class FittedDecoder : public PngDecoder {
     std::string file_;
 };
 
-// The element that an image of the resource would be: it tells which control shows it, and what.
+// The control of an image of the resource.
 ElementControl controlFor(const Resource& resource) {
-    Element element;
-    element.elementKind = ElementKind::Image;
-    element.elementControl.kind = ControlKind::img;
-    PanelValues values;
-    values.lstR = 0;
-    takePanel(values, {resource}, element);
-    return element.elementControl;
+    ElementControl control;
+    tarvel::showResource(resource, control);
+    return control;
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 // Composition of the panel's frames.
 #include "panels/property_panel.h"
 
+#include "document/kinds/panel_texts.h"
 #include "document/skin_document.h"
 #include "editing/new_element.h"
-#include "editing/panel_texts.h"
 #include "panels/image_frame.h"
 #include "panels/menu_settings_frame.h"
 #include "panels/shared_frame.h"
@@ -31,7 +31,7 @@ PropertyPanel::PropertyPanel(const SkinDocument& document, Prompts& prompts, Pic
     , fraShared_(new SharedFrame(values_, prompts))
     , fraText_(new TextFrame(values_, prompts))
     , fraImg_(new ImageFrame(values_, document, pictures))
-    , fraQor_(new MenuSettingsFrame(values_.fraQor, prompts)) {
+    , fraQor_(new MenuSettingsFrame(values_.menu, prompts)) {
     setAccessibleName(tr("Properties"));
     setMinimumWidth(narrowest);
     auto* column = new QVBoxLayout(this);
@@ -64,7 +64,7 @@ void PropertyPanel::buildFrames() {
 }
 
 void PropertyPanel::buildRow() {
-    cmdApply_ = new QPushButton(qtText(caption::cmdApply));
+    cmdApply_ = new QPushButton(qtText(caption::applyChanges));
     cmdApply_->setObjectName(QStringLiteral("cmdApply"));
     cmdApply_->setAccessibleName(tr("Apply the changes to the element"));
     connect(cmdApply_, &QPushButton::clicked, this, &PropertyPanel::applyClicked);
@@ -103,24 +103,17 @@ void PropertyPanel::resourcesChanged() {
 }
 
 void PropertyPanel::takeMenuSettings(const MenuSettings& settings) {
-    showMenuSettings(settings, values_.fraQor);
+    showMenuSettings(settings, values_.menu);
     fraQor_->refresh();
 }
 
-void PropertyPanel::focusFault(ElementKind kind) {
-    switch (kind) {
-    case ElementKind::Image:
-        fraImg_->focusPicker();
-        break;
-    case ElementKind::Text:
-        fraText_->focusText();
-        break;
-    case ElementKind::Box:
-    case ElementKind::Line:
-        fraShared_->focusFault(kind);
-        break;
-    case ElementKind::Menu:
-        break;
+void PropertyPanel::focusFault(std::string_view message) {
+    const char* control = message == message::noResource   ? "lstR"
+                          : message == message::noText     ? "txtText"
+                          : message == message::badOpacity ? "txtAlpha"
+                                                           : "lColor";
+    if (auto* found = findChild<QWidget*>(QLatin1String(control))) {
+        found->setFocus(Qt::OtherFocusReason);
     }
 }
 
@@ -129,20 +122,18 @@ void PropertyPanel::stopPreview() {
 }
 
 void PropertyPanel::showFrames(const PanelLayout& layout) {
-    fraShared_->setVisible(layout.fraShared);
+    fraShared_->setVisible(layout.colors);
     fraShared_->refresh(layout);
-    fraText_->setVisible(layout.fraText);
+    fraText_->setVisible(layout.text);
     fraText_->refresh();
     fraQor_->refresh();
-    if (layout.fraImg) {
+    if (layout.resource) {
         fraImg_->refresh();
         frames_->setCurrentWidget(fraImg_);
         return;
     }
     fraImg_->leave();
-    frames_->setCurrentWidget(layout.fraQor      ? fraQor_
-                              : layout.fraShared ? colorsAndText_
-                                                 : nothing_);
+    frames_->setCurrentWidget(layout.menu ? fraQor_ : layout.colors ? colorsAndText_ : nothing_);
 }
 
 } // namespace tarvel

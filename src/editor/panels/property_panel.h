@@ -43,8 +43,8 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     void resourcesChanged();
     /// Menus drawn from now on have these settings.
     void takeMenuSettings(const MenuSettings& settings);
-    /// Gives the focus to the control that keeps an element of the kind from being drawn.
-    void focusFault(ElementKind kind);
+    /// Gives the focus to the control that a message is about, one of document/kinds/panel_texts.h.
+    void focusFault(std::string_view message);
     /// Stops the video of the preview until a resource is chosen or the frame is shown anew.
     void stopPreview();
 

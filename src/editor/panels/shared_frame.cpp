@@ -1,7 +1,8 @@
 // Colour rows and the opacity.
 #include "panels/shared_frame.h"
 
-#include "editing/panel_texts.h"
+#include "document/element_kinds.h"
+#include "document/kinds/panel_texts.h"
 #include "widgets/click_label.h"
 #include "widgets/color_well.h"
 #include "widgets/control_names.h"
@@ -28,10 +29,16 @@ QLabel* captionLabel(const char* name, std::string_view text) {
     return label;
 }
 
+// A caption as it is read out: "Line Color" as "Line color".
+QString spoken(std::string_view text) {
+    const QString all = qtText(text);
+    return all.left(1) + all.mid(1).toLower();
+}
+
 } // namespace
 
 SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
-    : QGroupBox(qtText(caption::fraShared), parent)
+    : QGroupBox(qtText(caption::shared), parent)
     , values_(values)
     , prompts_(prompts)
     , border_(borderRow())
@@ -47,14 +54,14 @@ SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     lower->addLayout(alphaRow());
     column->addWidget(fraBox_);
     alignRows();
-    connect(border_.well, &ColorWell::clicked, this, [this] { ask(values_.lColor); });
-    connect(border_.value, &ClickLabel::clicked, this, [this] { ask(values_.lColor); });
+    connect(border_.well, &ColorWell::clicked, this, [this] { ask(values_.border); });
+    connect(border_.value, &ClickLabel::clicked, this, [this] { ask(values_.border); });
     connect(border_.clear, &QPushButton::clicked, this, [this] {
         clearBorder(values_);
         refresh();
     });
-    connect(fill_.well, &ColorWell::clicked, this, [this] { ask(values_.fColor); });
-    connect(fill_.value, &ClickLabel::clicked, this, [this] { ask(values_.fColor); });
+    connect(fill_.well, &ColorWell::clicked, this, [this] { ask(values_.fill); });
+    connect(fill_.value, &ClickLabel::clicked, this, [this] { ask(values_.fill); });
     connect(fill_.clear, &QPushButton::clicked, this, [this] {
         clearFill(values_);
         refresh();
@@ -63,18 +70,18 @@ SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
 }
 
 SharedFrame::Row SharedFrame::borderRow() {
-    return {.caption = captionLabel("lblBorderColor", caption::lblBorderColor),
+    return {.caption = captionLabel("lblBorderColor", caption::anyBorderColor),
             .well = named(new ColorWell, QStringLiteral("lColor"), tr("Border color")),
             .value = named(new ClickLabel, QStringLiteral("lblL"), tr("Border color in numbers")),
-            .clear = named(new QPushButton(qtText(caption::cmdClearL)), QStringLiteral("cmdClearL"),
-                           tr("Clear the border color"))};
+            .clear = named(new QPushButton(qtText(caption::clearBorder)),
+                           QStringLiteral("cmdClearL"), tr("Clear the border color"))};
 }
 
 SharedFrame::Row SharedFrame::fillRow() {
-    return {.caption = captionLabel("lblFillColor", caption::lblFillColor),
+    return {.caption = captionLabel("lblFillColor", caption::anyFillColor),
             .well = named(new ColorWell, QStringLiteral("fColor"), tr("Fill color")),
             .value = named(new ClickLabel, QStringLiteral("lblF"), tr("Fill color in numbers")),
-            .clear = named(new QPushButton(qtText(caption::cmdClearF)), QStringLiteral("cmdClearF"),
+            .clear = named(new QPushButton(qtText(caption::clearFill)), QStringLiteral("cmdClearF"),
                            tr("Clear the fill color"))};
 }
 
@@ -90,12 +97,12 @@ void SharedFrame::addRow(QBoxLayout& column, Row& row) {
 
 QBoxLayout* SharedFrame::alphaRow() {
     auto* line = new QHBoxLayout;
-    lblAlpha_ = captionLabel("lblAlpha", caption::lblAlpha);
+    lblAlpha_ = captionLabel("lblAlpha", caption::opacity);
     txtAlpha_ = named(new FieldEdit, QStringLiteral("txtAlpha"), tr("Opacity in percent"));
     lblAlpha_->setBuddy(txtAlpha_);
     txtAlpha_->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000000")));
     connect(txtAlpha_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { values_.txtAlpha = coreText(text); });
+            [this](const QString& text) { values_.opacity = coreText(text); });
     line->addWidget(lblAlpha_);
     line->addWidget(txtAlpha_);
     line->addStretch();
@@ -106,10 +113,17 @@ QBoxLayout* SharedFrame::alphaRow() {
 void SharedFrame::alignRows() {
     const QFontMetrics metrics(font());
     int captionWidth = 0;
-    for (const std::string_view text :
-         {caption::lblBorderColor, caption::lblFillColor, caption::lineColor, caption::fontColor,
-          caption::lblAlpha}) {
+    const auto makeRoom = [&](std::string_view text) {
         captionWidth = std::max(captionWidth, metrics.horizontalAdvance(qtText(text)));
+    };
+    makeRoom(caption::anyBorderColor);
+    makeRoom(caption::anyFillColor);
+    makeRoom(caption::opacity);
+    for (const KindRules* rules : elementKinds) {
+        PanelValues values;
+        const PanelLayout layout = rules->panel(rules->controls.front().kind, values);
+        makeRoom(layout.borderCaption);
+        makeRoom(layout.fillCaption);
     }
     for (QLabel* each : {border_.caption, fill_.caption, lblAlpha_}) {
         each->setMinimumWidth(captionWidth);
@@ -131,9 +145,9 @@ void SharedFrame::ask(Swatch& swatch) {
 }
 
 void SharedFrame::refresh() {
-    border_.show(values_.lColor);
-    fill_.show(values_.fColor);
-    const QString alpha = qtText(values_.txtAlpha);
+    border_.show(values_.border);
+    fill_.show(values_.fill);
+    const QString alpha = qtText(values_.opacity);
     if (txtAlpha_->text() != alpha) {
         txtAlpha_->setText(alpha);
     }
@@ -141,21 +155,19 @@ void SharedFrame::refresh() {
 
 void SharedFrame::refresh(const PanelLayout& layout) {
     if (layout.borderColor) {
-        border_.caption->setText(qtText(layout.lblBorderColor));
-        border_.well->setAccessibleName(layout.kindFlag == ElementKind::Line ? tr("Line color")
-                                                                             : tr("Border color"));
+        border_.caption->setText(qtText(layout.borderCaption));
+        border_.well->setAccessibleName(spoken(layout.borderCaption));
     }
     if (layout.fillColor) {
-        fill_.caption->setText(qtText(layout.lblFillColor));
-        fill_.well->setAccessibleName(layout.kindFlag == ElementKind::Text ? tr("Font color")
-                                                                           : tr("Fill color"));
+        fill_.caption->setText(qtText(layout.fillCaption));
+        fill_.well->setAccessibleName(spoken(layout.fillCaption));
     }
     border_.setVisible(layout.borderColor);
     fill_.setVisible(layout.fillColor);
-    fill_.clear->setVisible(layout.cmdClearF);
-    lblAlpha_->setVisible(layout.alpha);
-    txtAlpha_->setVisible(layout.alpha);
-    fraBox_->setVisible(layout.fraBox);
+    fill_.clear->setVisible(layout.clearFill);
+    lblAlpha_->setVisible(layout.opacity);
+    txtAlpha_->setVisible(layout.opacity);
+    fraBox_->setVisible(layout.fillPart);
     refresh();
 }
 

@@ -1,7 +1,7 @@
 // Text and font.
 #include "panels/text_frame.h"
 
-#include "editing/panel_texts.h"
+#include "document/kinds/panel_texts.h"
 #include "widgets/font_button.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
@@ -23,21 +23,21 @@ constexpr int rowsOfPopup = 18;
 } // namespace
 
 TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
-    : QGroupBox(qtText(caption::fraText), parent)
+    : QGroupBox(qtText(caption::text), parent)
     , values_(values)
     , prompts_(prompts) {
     setObjectName(QStringLiteral("fraText"));
     setAccessibleName(tr("Text and font"));
     auto* column = new QVBoxLayout(this);
     buildText();
-    auto* lblText = new QLabel(qtText(caption::lblText));
+    auto* lblText = new QLabel(qtText(caption::chooseText));
     lblText->setObjectName(QStringLiteral("lblText"));
     lblText->setWordWrap(true);
     lblText->setBuddy(txtText_);
     column->addWidget(lblText);
     column->addWidget(txtText_);
     auto* row = new QHBoxLayout;
-    cmdFont_ = new FontButton(qtText(caption::cmdFont));
+    cmdFont_ = new FontButton(qtText(caption::font));
     cmdFont_->setObjectName(QStringLiteral("cmdFont"));
     cmdFont_->setAccessibleName(tr("Choose the font"));
     connect(cmdFont_, &FontButton::clicked, this, &TextFrame::cmdFont_Click);
@@ -69,18 +69,18 @@ void TextFrame::buildText() {
     txtText_->setMaxVisibleItems(rowsOfPopup);
     txtText_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     connect(txtText_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-        values_.txtText = coreText(text);
+        values_.text = coreText(text);
         values_.textIsEntry = false;
     });
     connect(txtText_, &QComboBox::activated, this, [this](int index) {
-        values_.txtText = predefinedTexts.at(static_cast<std::size_t>(index));
+        values_.text = predefinedTexts.at(static_cast<std::size_t>(index));
         values_.textIsEntry = true;
     });
 }
 
 void TextFrame::cmdFont_Click() {
-    if (const auto chosen = prompts_.font(window(), fontOf(values_.cmdFont))) {
-        values_.cmdFont = choiceOf(*chosen);
+    if (const auto chosen = prompts_.font(window(), fontOf(values_.font))) {
+        values_.font = choiceOf(*chosen);
         showFont();
     }
 }
@@ -91,7 +91,7 @@ void TextFrame::refresh() {
 }
 
 void TextFrame::showText() {
-    const QString text = qtText(values_.txtText);
+    const QString text = qtText(values_.text);
     const int entry = values_.textIsEntry
                           ? txtText_->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive)
                           : -1;
@@ -105,8 +105,8 @@ void TextFrame::showText() {
 }
 
 void TextFrame::showFont() {
-    cmdFont_->setChoice(values_.cmdFont);
-    fontName_->setText(describeFont(values_.cmdFont));
+    cmdFont_->setChoice(values_.font);
+    fontName_->setText(describeFont(values_.font));
     fontName_->setToolTip(fontName_->text());
 }
 

@@ -21,6 +21,7 @@ int makeSelected(ToolHost& host, ElementKind kind, SkinPoint press) {
 DrawTool::DrawTool(ToolHost& host, ElementKind kind, SkinPoint press)
     : CanvasTool(host.document(), stepName(step::draw, kind))
     , host_(host)
+    , kind_(kind)
     , drag_(makeSelected(host, kind, press), press) {}
 
 void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
@@ -28,7 +29,7 @@ void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
 }
 
 void DrawTool::release(SkinPoint point) {
-    drag_.finish(host_.document(), point, naturalSize());
+    drag_.finish(host_.document(), point, host_.naturalSize(kind_));
     host_.drawingEnded();
 }
 
@@ -38,28 +39,8 @@ void DrawTool::takeBack() {
     host_.drawingEnded();
 }
 
-std::optional<SkinSize> DrawImageTool::naturalSize() const {
-    return host().naturalSize(ElementKind::Image);
-}
-
-std::optional<SkinSize> DrawTextTool::naturalSize() const {
-    return host().naturalSize(ElementKind::Text);
-}
-
 std::unique_ptr<DrawTool> startDrawing(ToolHost& host, ElementKind kind, SkinPoint press) {
-    switch (kind) {
-    case ElementKind::Box:
-        return std::make_unique<DrawBoxTool>(host, press);
-    case ElementKind::Line:
-        return std::make_unique<DrawLineTool>(host, press);
-    case ElementKind::Image:
-        return std::make_unique<DrawImageTool>(host, press);
-    case ElementKind::Text:
-        return std::make_unique<DrawTextTool>(host, press);
-    case ElementKind::Menu:
-        break;
-    }
-    return std::make_unique<DrawMenuTool>(host, press);
+    return std::make_unique<DrawTool>(host, kind, press);
 }
 
 void placeInTheMiddle(ToolHost& host, ElementKind kind) {

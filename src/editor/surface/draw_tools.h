@@ -1,4 +1,4 @@
-// The tools that draw new elements, one for each kind.
+// The tool that draws new elements.
 #pragma once
 
 #include "editing/manipulation.h"
@@ -11,57 +11,17 @@ namespace tarvel {
 /// Makes an element of a kind at the press and sizes it with the pointer.
 class DrawTool : public CanvasTool {
   public:
-    void move(SkinPoint point, bool keepProportions) override;
-    void release(SkinPoint point) override;
-
-  protected:
     DrawTool(ToolHost& host, ElementKind kind, SkinPoint press);
 
-    /// Size of the element when nothing was dragged, where its content has one.
-    [[nodiscard]] virtual std::optional<SkinSize> naturalSize() const { return std::nullopt; }
-    [[nodiscard]] ToolHost& host() const { return host_; }
+    void move(SkinPoint point, bool keepProportions) override;
+    void release(SkinPoint point) override;
 
   private:
     void takeBack() override;
 
     ToolHost& host_;
+    ElementKind kind_;
     DrawDrag drag_;
-};
-
-class DrawBoxTool : public DrawTool {
-  public:
-    DrawBoxTool(ToolHost& host, SkinPoint press)
-        : DrawTool(host, ElementKind::Box, press) {}
-};
-
-class DrawLineTool : public DrawTool {
-  public:
-    DrawLineTool(ToolHost& host, SkinPoint press)
-        : DrawTool(host, ElementKind::Line, press) {}
-};
-
-class DrawImageTool : public DrawTool {
-  public:
-    DrawImageTool(ToolHost& host, SkinPoint press)
-        : DrawTool(host, ElementKind::Image, press) {}
-
-  protected:
-    [[nodiscard]] std::optional<SkinSize> naturalSize() const override;
-};
-
-class DrawTextTool : public DrawTool {
-  public:
-    DrawTextTool(ToolHost& host, SkinPoint press)
-        : DrawTool(host, ElementKind::Text, press) {}
-
-  protected:
-    [[nodiscard]] std::optional<SkinSize> naturalSize() const override;
-};
-
-class DrawMenuTool : public DrawTool {
-  public:
-    DrawMenuTool(ToolHost& host, SkinPoint press)
-        : DrawTool(host, ElementKind::Menu, press) {}
 };
 
 /// The tool of a kind, with its element made at the press point.

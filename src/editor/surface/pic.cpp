@@ -1,6 +1,7 @@
 // Painting and repainting of the drawing surface.
 #include "surface/pic.h"
 
+#include "document/element_kinds.h"
 #include "surface/picture_cache.h"
 #include "widgets/accessible_roles.h"
 
@@ -187,7 +188,7 @@ void Pic::hideEvent(QHideEvent* event) {
 
 void Pic::elementChanged(int elementId) {
     repaintDamage(damage_.elementChanged(*document_, elementId));
-    if (document_->element(elementId).elementKind == ElementKind::Image) {
+    if (rulesOf(document_->element(elementId).elementKind).namesResource) {
         catchUpLater();
     }
 }

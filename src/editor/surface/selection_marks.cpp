@@ -1,6 +1,7 @@
 // Painting and placing of the selection marks.
 #include "surface/selection_marks.h"
 
+#include "document/element_kinds.h"
 #include "editing/hit_test.h"
 #include "surface/pic.h"
 #include "surface/surface_geometry.h"
@@ -151,7 +152,7 @@ void SelectionMarks::setSelLine(const Element& element) {
 }
 
 void SelectionMarks::setCurrentSel(const Element& element) {
-    if (element.elementKind == ElementKind::Line) {
+    if (hasEnds(element.elementControl)) {
         setSelLine(element);
     } else {
         setSel(element);

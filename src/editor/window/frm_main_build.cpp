@@ -1,6 +1,6 @@
 // What the main window consists of, and what is connected to what.
+#include "document/kinds/panel_texts.h"
 #include "editing/manipulation.h"
-#include "editing/panel_texts.h"
 #include "panels/behaviour_buttons.h"
 #include "panels/create_panel.h"
 #include "panels/elements_panel.h"
@@ -140,7 +140,7 @@ QWidget* FrmMain::buildRightSide() {
 }
 
 QWidget* FrmMain::buildStopButton() {
-    auto* cmdStop = named(new QPushButton(qtText(caption::cmdStop)), QStringLiteral("cmdStop"),
+    auto* cmdStop = named(new QPushButton(qtText(caption::stopVideos)), QStringLiteral("cmdStop"),
                           tr("Stop Vids: stop the videos of this screen"));
     connect(cmdStop, &QPushButton::clicked, pic_, &Pic::stopAllVids);
     connect(cmdStop, &QPushButton::clicked, properties_, &PropertyPanel::stopPreview);
@@ -165,9 +165,8 @@ void FrmMain::buildReactions() {
                                                                     .properties = *properties_,
                                                                     .tools = *fraCreate_});
     tools_->setViews(*views_);
-    changes_ = std::make_unique<ChangeTeller>(document_, [this](const std::string& change) {
-        statusBar()->showMessage(qtText(change));
-    });
+    changes_ = std::make_unique<ChangeTeller>(
+        document_, [this](const std::string& change) { statusBar()->showMessage(qtText(change)); });
     ground_ = std::make_unique<LockedGround>(document_, *pic_);
     keys_ = std::make_unique<WindowKeys>(
         *this, [this] { return !gate_->isClosed(); },

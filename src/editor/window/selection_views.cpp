@@ -1,6 +1,7 @@
 // Which view follows which change of the selected element.
 #include "window/selection_views.h"
 
+#include "document/element_kinds.h"
 #include "document/layout_screens.h"
 #include "editing/element_words.h"
 #include "panels/behaviour_buttons.h"
@@ -51,7 +52,7 @@ void SelectionViews::setCurrentSel() {
     const Element& element = document_.element(selection_.curNum());
     views_.marks.setCurrentSel(element);
     views_.marks.describe(elementWords(element) + ", selected");
-    if (element.elementKind == ElementKind::Line) {
+    if (hasEnds(element.elementControl)) {
         views_.position.setPosLine(element.elementControl);
     } else {
         views_.position.setPos(element.elementControl);

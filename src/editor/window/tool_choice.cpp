@@ -4,7 +4,7 @@
 #include "editing/panel_check.h"
 #include "panels/create_panel.h"
 #include "panels/property_panel.h"
-#include "surface/natural_size.h"
+#include "surface/element_looks.h"
 #include "surface/pic.h"
 #include "surface/selection_marks.h"
 #include "surface/surface_controller.h"
@@ -45,7 +45,7 @@ PanelValues ToolChoice::panelValues() const {
 }
 
 std::optional<SkinSize> ToolChoice::naturalSize(ElementKind kind) {
-    return tarvel::naturalSize(kind, panelValues(), parts_.document.settings(), parts_.pictures);
+    return lookOf(kind).naturalSize(panelValues(), parts_.document.settings(), parts_.pictures);
 }
 
 bool ToolChoice::isBusy() const {
@@ -102,12 +102,13 @@ void ToolChoice::chooseTool(std::optional<ElementKind> kind) {
 
 void ToolChoice::refuseInvalid(ElementKind kind, bool& refuse) {
     cover_->hurry(); // what is drawn takes what the tool's panel shows
-    for (const std::string_view text : isInvalid(kind, panelValues())) {
+    const auto faults = isInvalid(kind, panelValues());
+    for (const std::string_view text : faults) {
         parts_.prompts.message(parts_.surface.window(), qtText(text));
-        refuse = true;
     }
-    if (refuse) {
-        parts_.properties.focusFault(kind);
+    if (!faults.empty()) {
+        refuse = true;
+        parts_.properties.focusFault(faults.front());
     }
 }
 

@@ -1,4 +1,5 @@
 // Image elements: the control and the picture that a source leads to.
+#include "document/image_source.h"
 #include "support/element_support.h"
 
 #include <gtest/gtest.h>

@@ -11,6 +11,8 @@
 namespace tarvel {
 namespace {
 
+constexpr ColorNumber white = makeColor(255, 255, 255);
+
 using test::made;
 using test::parse;
 using test::plain;
@@ -379,15 +381,6 @@ TEST(MakeElement, LeavesTheDescriptionAndOtherElementsAlone) {
     makeElement(document, 9.0, 9.0, 9.0, 9.0, ElementKind::Menu, "", description.root());
     EXPECT_EQ(description, before);
     EXPECT_EQ(document.element(1), first);
-}
-
-TEST(Labels, StartWithTheKind) {
-    EXPECT_EQ(boxLabel(100), "Box: Alpha 100");
-    EXPECT_EQ(boxLabel(0), "Box: Alpha 0");
-    EXPECT_EQ(boxLabel(-1), "Box: Alpha -1");
-    EXPECT_EQ(imageLabel("logo"), "Image: logo");
-    EXPECT_EQ(imageLabel(""), "Image: ");
-    EXPECT_EQ(textLabel("Time"), "Text: Time");
 }
 
 } // namespace

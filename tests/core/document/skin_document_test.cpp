@@ -24,6 +24,7 @@ using Texts = std::vector<std::string>;
 
 constexpr int title = 0;
 constexpr int menu = 1;
+constexpr ColorNumber white = makeColor(255, 255, 255);
 
 TEST(NewDocument, HoldsNothingAndShowsTheMenuScreen) {
     const SkinDocument document;

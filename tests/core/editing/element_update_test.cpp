@@ -34,13 +34,13 @@ const std::vector<Resource> resources = {
 
 PanelValues fullPanel() {
     PanelValues values;
-    values.lColor = {FillStyle::transparent, green};
-    values.fColor = {FillStyle::solid, red};
-    values.txtAlpha = "40";
-    values.txtText = "Hello";
-    values.cmdFont = {"Arial", 12, true, false};
-    values.lstR = 0;
-    values.fraQor.txtNumItems = "7";
+    values.border = {FillStyle::transparent, green};
+    values.fill = {FillStyle::solid, red};
+    values.opacity = "40";
+    values.text = "Hello";
+    values.font = {"Arial", 12, true, false};
+    values.resource = 0;
+    values.menu.itemsShown = "7";
     return values;
 }
 
@@ -56,8 +56,8 @@ TEST(TakePanel, ColoursABox) {
     EXPECT_EQ(box, expected);
 
     PanelValues values = fullPanel();
-    values.lColor.fillStyle = FillStyle::solid;
-    values.fColor.fillStyle = FillStyle::transparent;
+    values.border.fillStyle = FillStyle::solid;
+    values.fill.fillStyle = FillStyle::transparent;
     takePanel(values, resources, box);
     EXPECT_EQ(box.elementControl.borderStyle, BorderStyle::solid);
     EXPECT_EQ(box.elementControl.fillStyle, FillStyle::transparent);
@@ -112,7 +112,7 @@ TEST(TakePanel, RoundsTheOpacityToSixteenBits) {
     };
     for (const auto& c : cases) {
         PanelValues values = fullPanel();
-        values.txtAlpha = c.text;
+        values.opacity = c.text;
         for (Element element :
              {boxAt({}), lineAt({}), elementAt(ElementKind::Image, ControlKind::img, {}),
               elementAt(ElementKind::Text, ControlKind::txt, {}),
@@ -161,7 +161,7 @@ TEST(TakePanel, GivesAnImageTheControlThatTheFileNeeds) {
         image.elementControl.picture = c.before.picture;
         image.imageSource = "before";
         PanelValues values = fullPanel();
-        values.lstR = c.chosen;
+        values.resource = c.chosen;
         takePanel(values, resources, image);
         const ElementControl& control = image.elementControl;
         EXPECT_EQ((Shown{control.kind, control.file, control.picture}), c.after)
@@ -180,7 +180,7 @@ TEST(TakePanel, LeavesAnImageWithoutAChosenResource) {
         Element expected = image;
         expected.elementAlpha = 40;
         PanelValues values = fullPanel();
-        values.lstR = chosen;
+        values.resource = chosen;
         takePanel(values, resources, image);
         EXPECT_EQ(image, expected) << chosen;
     }
@@ -293,7 +293,7 @@ TEST(UpdateControls, TakesAnEmptyTextAsItStands) {
     text.elementControl.caption = "before";
     const int id = add(document, text);
     PanelValues values = fullPanel();
-    values.txtText = "";
+    values.text = "";
     EXPECT_TRUE(updateControls(document, id, values));
     EXPECT_EQ(document.element(id).elementControl.caption, "");
     EXPECT_EQ(document.rowText(1, 0), "Text: ");

@@ -1,5 +1,5 @@
 // Elements made by drawing: the record, row and count of each kind.
-#include "document/element_factory.h"
+#include "document/image_source.h"
 #include "editing/manipulation.h"
 #include "editing/new_element.h"
 #include "editing/panel_check.h"
@@ -37,9 +37,9 @@ SkinDocument withResources() {
 TEST(MakeNewElement, MakesABoxOfThePanelsColours) {
     SkinDocument document;
     PanelValues values;
-    values.fColor = {FillStyle::solid, red};
-    values.lColor = {FillStyle::transparent, green};
-    values.txtAlpha = "80";
+    values.fill = {FillStyle::solid, red};
+    values.border = {FillStyle::transparent, green};
+    values.opacity = "80";
     EXPECT_EQ(makeNewElement(document, ElementKind::Box, values, {10, 20}), 1);
 
     Element expected;
@@ -58,7 +58,7 @@ TEST(MakeNewElement, MakesABoxOfThePanelsColours) {
 TEST(MakeNewElement, MakesALineFromThePointToThePoint) {
     SkinDocument document;
     PanelValues values;
-    values.lColor = {FillStyle::solid, green};
+    values.border = {FillStyle::solid, green};
     const int id = makeNewElement(document, ElementKind::Line, values, {10.5F, 20.4F});
     const Element& line = document.element(id);
     EXPECT_EQ(line.elementKind, ElementKind::Line);
@@ -87,7 +87,7 @@ TEST(MakeNewElement, MakesTheControlThatTheResourceNeeds) {
     for (const auto& c : cases) {
         SkinDocument document = withResources();
         PanelValues values;
-        values.lstR = c.resource;
+        values.resource = c.resource;
         const int id = makeNewElement(document, ElementKind::Image, values, {3, 4});
         const Element& image = document.element(id);
         EXPECT_EQ(image.elementKind, ElementKind::Image);
@@ -104,7 +104,7 @@ TEST(MakeNewElement, MakesImagesLikeTheFactory) {
     for (int resource = 0; resource < 5; ++resource) {
         SkinDocument document = withResources();
         PanelValues values;
-        values.lstR = resource;
+        values.resource = resource;
         makeNewElement(document, ElementKind::Image, values, {3, 4});
         ElementControl loaded;
         attachSource(document, document.element(1).imageSource, loaded);
@@ -121,11 +121,11 @@ TEST(MakeNewElement, MakesATextOfTheTextAndTheFont) {
     for (const Case& c : {Case{true, false}, Case{false, true}}) {
         SkinDocument document;
         PanelValues values;
-        values.txtText = "Time";
+        values.text = "Time";
         values.textIsEntry = c.entry;
-        values.fColor = {FillStyle::solid, red};
-        values.cmdFont = {"Arial", 12, true, true};
-        values.txtAlpha = "50";
+        values.fill = {FillStyle::solid, red};
+        values.font = {"Arial", 12, true, true};
+        values.opacity = "50";
         const int id = makeNewElement(document, ElementKind::Text, values, {3, 4});
         const Element& text = document.element(id);
         EXPECT_EQ(text.elementKind, ElementKind::Text);
@@ -142,8 +142,8 @@ TEST(MakeNewElement, MakesATextOfTheTextAndTheFont) {
 TEST(MakeNewElement, MakesAMenuOfTheFramesSettings) {
     SkinDocument document;
     PanelValues values;
-    values.fraQor.txtNumItems = "7";
-    values.fraQor.cmbTitleAlign = 2;
+    values.menu.itemsShown = "7";
+    values.menu.titleAlignment = 2;
     const int id = makeNewElement(document, ElementKind::Menu, values, {3, 4});
     const Element& element = document.element(id);
     EXPECT_EQ(element.elementKind, ElementKind::Menu);
@@ -166,7 +166,7 @@ TEST(MakeNewElement, MakesWhatADragThenSizes) {
     for (const auto& c : cases) {
         SkinDocument document = withResources();
         PanelValues values;
-        values.lstR = 2;
+        values.resource = 2;
         const SkinPoint press{100.25F, 99.75F};
         const int id = makeNewElement(document, c.kind, values, press);
         DrawDrag drag(id, press);

@@ -1,6 +1,6 @@
 // Which values of the panel can make an element, and the messages about those that cannot.
+#include "document/kinds/panel_texts.h"
 #include "editing/panel_check.h"
-#include "editing/panel_texts.h"
 
 #include <gtest/gtest.h>
 
@@ -20,9 +20,9 @@ constexpr std::string_view badOpacity = "Select an opacity from 1-100";
 
 PanelValues boxValues(FillStyle border, FillStyle fill, std::string opacity) {
     PanelValues values;
-    values.lColor.fillStyle = border;
-    values.fColor.fillStyle = fill;
-    values.txtAlpha = std::move(opacity);
+    values.border.fillStyle = border;
+    values.fill.fillStyle = fill;
+    values.opacity = std::move(opacity);
     return values;
 }
 
@@ -59,8 +59,8 @@ TEST(IsInvalid, ChecksTheOpacityOfABox) {
 // A panel that no kind with a check can be made of.
 PanelValues hopelessValues() {
     PanelValues values = boxValues(FillStyle::transparent, FillStyle::transparent, "abc");
-    values.lstR = -1;
-    values.txtText = "";
+    values.resource = -1;
+    values.text = "";
     return values;
 }
 
@@ -84,20 +84,20 @@ TEST(IsInvalid, ChecksWhatTheOtherKindsNeed) {
 
 TEST(IsInvalid, NeverComplainsOfTheOpacitysCaption) {
     EXPECT_EQ(message::badAlpha, "Alpha value should be from 0 to 255");
-    EXPECT_EQ(val(caption::lblAlpha), 0); // what the check looks at
+    EXPECT_EQ(val(caption::opacity), 0); // what the check looks at
     const auto messages = isInvalid(ElementKind::Box, hopelessValues());
     EXPECT_EQ(messages, (Messages{noBoxColor, badOpacity}));
 }
 
 TEST(IsInvalid, LooksOnlyAtWhatTheKindNeeds) {
     PanelValues line = hopelessValues();
-    line.lColor.fillStyle = FillStyle::solid;
+    line.border.fillStyle = FillStyle::solid;
     EXPECT_EQ(isInvalid(ElementKind::Line, line), Messages{});
     PanelValues image = hopelessValues();
-    image.lstR = 0;
+    image.resource = 0;
     EXPECT_EQ(isInvalid(ElementKind::Image, image), Messages{});
     PanelValues text = hopelessValues();
-    text.txtText = "  "; // blanks are a text
+    text.text = "  "; // blanks are a text
     EXPECT_EQ(isInvalid(ElementKind::Text, text), Messages{});
 }
 

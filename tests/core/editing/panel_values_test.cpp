@@ -1,5 +1,5 @@
 // Elements shown in the panel, and the controls that belong to each kind.
-#include "editing/panel_texts.h"
+#include "document/kinds/panel_texts.h"
 #include "editing/panel_values.h"
 #include "support/place_support.h"
 
@@ -25,36 +25,36 @@ const std::vector<Resource> noResources;
 // A panel with values that no element here has.
 PanelValues oddValues() {
     PanelValues values;
-    values.lColor = {FillStyle::transparent, 11};
-    values.fColor = {FillStyle::transparent, 12};
-    values.txtAlpha = "13";
-    values.txtText = "fourteen";
-    values.cmdFont = {"Odd", 15, true, true};
-    values.lstR = 16;
-    values.fraQor.txtNumItems = "17";
+    values.border = {FillStyle::transparent, 11};
+    values.fill = {FillStyle::transparent, 12};
+    values.opacity = "13";
+    values.text = "fourteen";
+    values.font = {"Odd", 15, true, true};
+    values.resource = 16;
+    values.menu.itemsShown = "17";
     values.position = {"18", "19", "20", "21"};
     return values;
 }
 
 TEST(PanelTexts, AreFixed) {
-    EXPECT_EQ(caption::fraShared, "Shared");
-    EXPECT_EQ(caption::fraText, "Text");
-    EXPECT_EQ(caption::lblBorderColor, "Border Color:");
+    EXPECT_EQ(caption::shared, "Shared");
+    EXPECT_EQ(caption::text, "Text");
+    EXPECT_EQ(caption::anyBorderColor, "Border Color:");
     EXPECT_EQ(caption::borderColor, "Border Color");
     EXPECT_EQ(caption::lineColor, "Line Color");
-    EXPECT_EQ(caption::cmdClearL, "clear (no border)");
-    EXPECT_EQ(caption::lblFillColor, "Fill Color:");
+    EXPECT_EQ(caption::clearBorder, "clear (no border)");
+    EXPECT_EQ(caption::anyFillColor, "Fill Color:");
     EXPECT_EQ(caption::fillColor, "Fill Color");
     EXPECT_EQ(caption::fontColor, "Font Color");
-    EXPECT_EQ(caption::cmdClearF, "clear (no fill)");
-    EXPECT_EQ(caption::lblAlpha, "Opacity %");
-    EXPECT_EQ(caption::lblText, "Select predefined text below, or enter custom text:");
-    EXPECT_EQ(caption::cmdFont, "Font");
-    EXPECT_EQ(caption::lblRes, "Select Resource Below:");
-    EXPECT_EQ(caption::cmdAddRes, "Resource Manager");
-    EXPECT_EQ(caption::lblPreview, "Resource Preview");
-    EXPECT_EQ(caption::cmdApply, "Apply Changes");
-    EXPECT_EQ(caption::cmdStop, "Stop Vids");
+    EXPECT_EQ(caption::clearFill, "clear (no fill)");
+    EXPECT_EQ(caption::opacity, "Opacity %");
+    EXPECT_EQ(caption::chooseText, "Select predefined text below, or enter custom text:");
+    EXPECT_EQ(caption::font, "Font");
+    EXPECT_EQ(caption::chooseResource, "Select Resource Below:");
+    EXPECT_EQ(caption::resourceManager, "Resource Manager");
+    EXPECT_EQ(caption::resourcePreview, "Resource Preview");
+    EXPECT_EQ(caption::applyChanges, "Apply Changes");
+    EXPECT_EQ(caption::stopVideos, "Stop Vids");
 }
 
 TEST(PredefinedTexts, AreTheFieldsOfTheDashboardInOrder) {
@@ -118,30 +118,30 @@ TEST(PredefinedTexts, AreTheFieldsOfTheDashboardInOrder) {
 
 TEST(PanelValues, StartAsDesigned) {
     const PanelValues values;
-    EXPECT_EQ(values.txtAlpha, "100");
-    EXPECT_EQ(values.cmdFont.family, "Tahoma");
-    EXPECT_EQ(values.lstR, -1);
-    EXPECT_EQ(values.txtText, "");
+    EXPECT_EQ(values.opacity, "100");
+    EXPECT_EQ(values.font.family, "Tahoma");
+    EXPECT_EQ(values.resource, -1);
+    EXPECT_EQ(values.text, "");
     EXPECT_FALSE(values.textIsEntry);
-    EXPECT_EQ(values.fraQor, MenuFrame{});
+    EXPECT_EQ(values.menu, MenuFrame{});
 }
 
 TEST(Swatches, TakeChosenColoursAndAreCleared) {
     PanelValues values;
-    values.lColor.fillStyle = FillStyle::transparent;
-    values.txtAlpha = "40";
-    chooseColor(values.lColor, red);
-    EXPECT_EQ(values.lColor, (Swatch{FillStyle::solid, red}));
-    chooseColor(values.fColor, green);
-    EXPECT_EQ(values.fColor, (Swatch{FillStyle::solid, green}));
+    values.border.fillStyle = FillStyle::transparent;
+    values.opacity = "40";
+    chooseColor(values.border, red);
+    EXPECT_EQ(values.border, (Swatch{FillStyle::solid, red}));
+    chooseColor(values.fill, green);
+    EXPECT_EQ(values.fill, (Swatch{FillStyle::solid, green}));
 
     clearBorder(values);
-    EXPECT_EQ(values.lColor, (Swatch{FillStyle::transparent, red}));
-    EXPECT_EQ(values.txtAlpha, "40");
-    EXPECT_EQ(values.fColor, (Swatch{FillStyle::solid, green}));
+    EXPECT_EQ(values.border, (Swatch{FillStyle::transparent, red}));
+    EXPECT_EQ(values.opacity, "40");
+    EXPECT_EQ(values.fill, (Swatch{FillStyle::solid, green}));
     clearFill(values);
-    EXPECT_EQ(values.fColor, (Swatch{FillStyle::transparent, green}));
-    EXPECT_EQ(values.txtAlpha, "100");
+    EXPECT_EQ(values.fill, (Swatch{FillStyle::transparent, green}));
+    EXPECT_EQ(values.opacity, "100");
 }
 
 TEST(EditControls, ShowsWhatBelongsToTheKind) {
@@ -152,43 +152,43 @@ TEST(EditControls, ShowsWhatBelongsToTheKind) {
     const Case cases[] = {
         {ControlKind::box,
          {.kindFlag = ElementKind::Box,
-          .fraShared = true,
-          .fraBox = true,
+          .colors = true,
+          .fillPart = true,
           .borderColor = true,
           .fillColor = true,
-          .cmdClearF = true,
-          .alpha = true,
-          .lblBorderColor = "Border Color",
-          .lblFillColor = "Fill Color"}},
+          .clearFill = true,
+          .opacity = true,
+          .borderCaption = "Border Color",
+          .fillCaption = "Fill Color"}},
         {ControlKind::lin,
          {.kindFlag = ElementKind::Line,
-          .fraShared = true,
+          .colors = true,
           .borderColor = true,
-          .lblBorderColor = "Line Color",
-          .lblFillColor = {}}},
+          .borderCaption = "Line Color",
+          .fillCaption = {}}},
         {ControlKind::img,
          {.kindFlag = ElementKind::Image,
-          .fraImg = true,
-          .lblBorderColor = {},
-          .lblFillColor = {}}},
+          .resource = true,
+          .borderCaption = {},
+          .fillCaption = {}}},
         {ControlKind::vid,
          {.kindFlag = ElementKind::Image,
-          .fraImg = true,
-          .lblBorderColor = {},
-          .lblFillColor = {}}},
+          .resource = true,
+          .borderCaption = {},
+          .fillCaption = {}}},
         {ControlKind::png,
-         {.kindFlag = {}, .fraImg = true, .lblBorderColor = {}, .lblFillColor = {}}},
+         {.kindFlag = {}, .resource = true, .borderCaption = {}, .fillCaption = {}}},
         {ControlKind::txt,
          {.kindFlag = ElementKind::Text,
-          .fraShared = true,
-          .fraBox = true,
-          .fraText = true,
+          .colors = true,
+          .fillPart = true,
+          .text = true,
           .fillColor = true,
-          .alpha = true,
-          .lblBorderColor = {},
-          .lblFillColor = "Font Color"}},
+          .opacity = true,
+          .borderCaption = {},
+          .fillCaption = "Font Color"}},
         {ControlKind::qor,
-         {.kindFlag = ElementKind::Menu, .fraQor = true, .lblBorderColor = {}, .lblFillColor = {}}},
+         {.kindFlag = ElementKind::Menu, .menu = true, .borderCaption = {}, .fillCaption = {}}},
     };
     for (const auto& c : cases) {
         PanelValues values;
@@ -205,13 +205,13 @@ TEST(EditControls, MakesALinesSwatchSolidAndATextsWhite) {
     }
     PanelValues line = oddValues();
     PanelValues expected = line;
-    expected.lColor.fillStyle = FillStyle::solid;
+    expected.border.fillStyle = FillStyle::solid;
     editControls(ControlKind::lin, line);
     EXPECT_EQ(line, expected);
 
     PanelValues text = oddValues();
     expected = text;
-    expected.fColor = {FillStyle::solid, white};
+    expected.fill = {FillStyle::solid, white};
     editControls(ControlKind::txt, text);
     EXPECT_EQ(text, expected);
 }
@@ -232,9 +232,9 @@ TEST(ShowEditControls, ShowsABox) {
         box.elementAlpha = 37;
         PanelValues values = oddValues();
         PanelValues expected = values;
-        expected.fColor = {c.fill, red};
-        expected.lColor = {c.borderSwatch, green};
-        expected.txtAlpha = "37";
+        expected.fill = {c.fill, red};
+        expected.border = {c.borderSwatch, green};
+        expected.opacity = "37";
         expected.position = {"1", "2", "3", "4"};
         EXPECT_EQ(showEditControls(box, noResources, values).kindFlag, ElementKind::Box);
         EXPECT_EQ(values, expected);
@@ -247,8 +247,8 @@ TEST(ShowEditControls, ShowsALine) {
     line.elementAlpha = -5;
     PanelValues values = oddValues();
     PanelValues expected = values;
-    expected.lColor = {FillStyle::solid, red};
-    expected.txtAlpha = "-5";
+    expected.border = {FillStyle::solid, red};
+    expected.opacity = "-5";
     expected.position = {"1", "2", "3", "4"};
     EXPECT_EQ(showEditControls(line, noResources, values).kindFlag, ElementKind::Line);
     EXPECT_EQ(values, expected);
@@ -265,10 +265,10 @@ TEST(ShowEditControls, ShowsATextWithAWhiteSwatchAndWithoutItsFont) {
         PanelValues values = oddValues();
         values.textIsEntry = constant;
         PanelValues expected = values;
-        expected.txtText = "Time";
+        expected.text = "Time";
         expected.textIsEntry = !constant;
-        expected.fColor = {FillStyle::solid, white};
-        expected.txtAlpha = "37";
+        expected.fill = {FillStyle::solid, white};
+        expected.opacity = "37";
         expected.position = {"1", "2", "3", "4"};
         EXPECT_EQ(showEditControls(text, noResources, values).kindFlag, ElementKind::Text);
         EXPECT_EQ(values, expected);
@@ -282,8 +282,8 @@ TEST(ShowEditControls, ShowsAMenu) {
     menu.elementAlpha = 37;
     PanelValues values = oddValues();
     PanelValues expected = values;
-    expected.fraQor.txtNumItems = "9";
-    expected.fraQor.cmbTitleAlign = 2;
+    expected.menu.itemsShown = "9";
+    expected.menu.titleAlignment = 2;
     expected.position = {"1", "2", "3", "4"};
     EXPECT_EQ(showEditControls(menu, noResources, values).kindFlag, ElementKind::Menu);
     EXPECT_EQ(values, expected);
@@ -306,7 +306,7 @@ TEST(ShowEditControls, ChoosesTheResourceOfAnImage) {
             image.imageSource = c.source;
             PanelValues values = oddValues();
             PanelValues expected = values;
-            expected.lstR = c.chosen;
+            expected.resource = c.chosen;
             expected.position = {"1", "2", "3", "4"};
             showEditControls(image, resources, values);
             EXPECT_EQ(values, expected) << c.source;
@@ -314,7 +314,7 @@ TEST(ShowEditControls, ChoosesTheResourceOfAnImage) {
     }
     PanelValues values = oddValues();
     showEditControls(elementAt(ElementKind::Image, ControlKind::img, {}), noResources, values);
-    EXPECT_EQ(values.lstR, -1);
+    EXPECT_EQ(values.resource, -1);
 }
 
 } // namespace

@@ -134,9 +134,9 @@ TEST_F(SkinReaderTest, IdsRowsAndCountsOfTwoScreens) {
     EXPECT_EQ(document_.itemData(1, 0), 1);
     EXPECT_EQ(document_.itemData(1, 1), 2);
     EXPECT_EQ(document_.itemData(0, 0), 3);
-    EXPECT_EQ(document_.rowText(1, 0), boxLabel(50));
-    EXPECT_EQ(document_.rowText(1, 1), boxLabel(100));
-    EXPECT_EQ(document_.rowText(0, 0), textLabel("IP"));
+    EXPECT_EQ(document_.rowText(1, 0), "Box: Alpha 50");
+    EXPECT_EQ(document_.rowText(1, 1), "Box: Alpha 100");
+    EXPECT_EQ(document_.rowText(0, 0), "Text: IP");
     EXPECT_EQ(document_.screenElementCount(1), 2);
     EXPECT_EQ(document_.screenElementCount(0), 1);
 }

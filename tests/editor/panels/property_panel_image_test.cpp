@@ -119,7 +119,7 @@ void PropertyPanelImageTest::listShowsTheNamesOfTheResources() {
     const auto& lstR = shown.find<QComboBox>("lstR");
     QCOMPARE(entries(lstR), (QStringList{"Sky", "Logo", "Film", "Preset"}));
     QCOMPARE(lstR.currentIndex(), -1);
-    QCOMPARE(shown.panel.values().lstR, -1);
+    QCOMPARE(shown.panel.values().resource, -1);
     addFile(shown.document, "Clock", media("clock.png"));
     shown.panel.resourcesChanged();
     QCOMPARE(lstR.count(), 5);
@@ -132,20 +132,20 @@ void PropertyPanelImageTest::withoutResourcesThereIsNothingToChoose() {
     shown.panel.showElement(imageNamed("gone"));
     const auto& lstR = shown.find<QComboBox>("lstR");
     QVERIFY(!lstR.isEnabled());
-    QCOMPARE(shown.panel.values().lstR, -1);
+    QCOMPARE(shown.panel.values().resource, -1);
     shown.document = skin();
     shown.panel.resourcesChanged();
     QVERIFY(lstR.isEnabled());
-    QCOMPARE(shown.panel.values().lstR, -1);
+    QCOMPARE(shown.panel.values().resource, -1);
 }
 
 void PropertyPanelImageTest::chosenResourceIsItsPosition() {
     ShownPanel shown(skin());
     shown.panel.showKind(ElementKind::Image);
     chooseEntry(shown.find<QComboBox>("lstR"), 1);
-    QCOMPARE(shown.panel.values().lstR, 1);
+    QCOMPARE(shown.panel.values().resource, 1);
     chooseInPopup(shown.find<QComboBox>("lstR"), 3);
-    QCOMPARE(shown.panel.values().lstR, 3);
+    QCOMPARE(shown.panel.values().resource, 3);
 }
 
 void PropertyPanelImageTest::elementChoosesItsResource_data() {
@@ -164,7 +164,7 @@ void PropertyPanelImageTest::elementChoosesItsResource() {
     shown.panel.showElement(imageNamed("Film"));
     shown.panel.showElement(imageNamed(source.constData()));
     QCOMPARE(shown.find<QComboBox>("lstR").currentIndex(), position);
-    QCOMPARE(shown.panel.values().lstR, position);
+    QCOMPARE(shown.panel.values().resource, position);
 }
 
 void PropertyPanelImageTest::chosenResourceStaysByItsName() {
@@ -173,7 +173,7 @@ void PropertyPanelImageTest::chosenResourceStaysByItsName() {
     shown.document.editSettings(
         [](SkinSettings& settings) { settings.resources.erase(settings.resources.begin()); });
     shown.panel.resourcesChanged();
-    QCOMPARE(shown.panel.values().lstR, 0);
+    QCOMPARE(shown.panel.values().resource, 0);
     QCOMPARE(shown.find<QComboBox>("lstR").currentText(), "Logo");
     QCOMPARE(shownPreview(shown), "imgPng");
 }
@@ -183,10 +183,10 @@ void PropertyPanelImageTest::resourcesOfTheSameNameStayByTheirPlace() {
     addFile(document, "Sky", media("violet.jpg"));
     ShownPanel shown(document);
     shown.panel.showElement(imageNamed("Sky"));
-    QCOMPARE(shown.panel.values().lstR, 4);
+    QCOMPARE(shown.panel.values().resource, 4);
     addFile(shown.document, "Last", media("clock.png"));
     shown.panel.resourcesChanged();
-    QCOMPARE(shown.panel.values().lstR, 4);
+    QCOMPARE(shown.panel.values().resource, 4);
 }
 
 void PropertyPanelImageTest::takenAwayResourceIsNoLongerChosen() {
@@ -195,7 +195,7 @@ void PropertyPanelImageTest::takenAwayResourceIsNoLongerChosen() {
     shown.document.editSettings(
         [](SkinSettings& settings) { settings.resources.erase(settings.resources.begin()); });
     shown.panel.resourcesChanged();
-    QCOMPARE(shown.panel.values().lstR, -1);
+    QCOMPARE(shown.panel.values().resource, -1);
     QCOMPARE(shown.find<QComboBox>("lstR").currentIndex(), -1);
 }
 
@@ -412,7 +412,7 @@ void PropertyPanelImageTest::videoPlaysOnlyInSight() {
     QVERIFY(vidPreview.isPlaying());
     shown.panel.showNothing();
     QVERIFY(!vidPreview.isPlaying());
-    QCOMPARE(shown.panel.values().lstR, 2);
+    QCOMPARE(shown.panel.values().resource, 2);
 }
 
 void PropertyPanelImageTest::missingVideoSaysSo() {

@@ -19,7 +19,7 @@ Element menuElement(const MenuSettings& settings) {
 }
 
 MenuSettings settingsIn(const ShownPanel& shown) {
-    return menuSettingsOf(shown.panel.values().fraQor);
+    return menuSettingsOf(shown.panel.values().menu);
 }
 
 QColor textColor(const QLabel& label) {

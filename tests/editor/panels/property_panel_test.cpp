@@ -241,14 +241,14 @@ void PropertyPanelTest::lineIsShownSolid() {
     line.elementAlpha = 35;
     shown.panel.showElement(line);
     QCOMPARE(shown.find<ColorWell>("lColor").swatch(), (Swatch{FillStyle::solid, red}));
-    QCOMPARE(shown.panel.values().txtAlpha, "35");
+    QCOMPARE(shown.panel.values().opacity, "35");
 }
 
 void PropertyPanelTest::textShowsAWhiteSwatch() {
     ShownPanel shown;
     shown.panel.showElement(textElement("Time", false));
     QCOMPARE(shown.find<ColorWell>("fColor").swatch(), (Swatch{FillStyle::solid, white}));
-    QCOMPARE(shown.panel.values().fColor, (Swatch{FillStyle::solid, white}));
+    QCOMPARE(shown.panel.values().fill, (Swatch{FillStyle::solid, white}));
 }
 
 void PropertyPanelTest::colorIsChosen_data() {
@@ -270,10 +270,10 @@ void PropertyPanelTest::colorIsChosen() {
     const Swatch chosen{FillStyle::solid, makeColor(1, 2, 3)};
     const Swatch otherBorder{FillStyle::solid, blue};
     const Swatch otherFill{FillStyle::solid, red};
-    QCOMPARE(shown.panel.values().lColor, border ? chosen : otherBorder);
-    QCOMPARE(shown.panel.values().fColor, border ? otherFill : chosen);
-    QCOMPARE(shown.find<ColorWell>("lColor").swatch(), shown.panel.values().lColor);
-    QCOMPARE(shown.find<ColorWell>("fColor").swatch(), shown.panel.values().fColor);
+    QCOMPARE(shown.panel.values().border, border ? chosen : otherBorder);
+    QCOMPARE(shown.panel.values().fill, border ? otherFill : chosen);
+    QCOMPARE(shown.find<ColorWell>("lColor").swatch(), shown.panel.values().border);
+    QCOMPARE(shown.find<ColorWell>("fColor").swatch(), shown.panel.values().fill);
     QCOMPARE(shown.prompts.initialColors, QList{border ? QColor(Qt::blue) : QColor(Qt::red)});
     QCOMPARE(shown.prompts.lastOwner, &shown.panel);
 }
@@ -292,8 +292,8 @@ void PropertyPanelTest::colorIsChosenByKeys() {
     shown.prompts.colors << QColor(Qt::red) << QColor(Qt::blue);
     QTest::keyClick(&shown.find<ColorWell>("lColor"), key);
     QTest::keyClick(&shown.find<ColorWell>("fColor"), key);
-    QCOMPARE(shown.panel.values().lColor, (Swatch{FillStyle::solid, red}));
-    QCOMPARE(shown.panel.values().fColor, (Swatch{FillStyle::solid, blue}));
+    QCOMPARE(shown.panel.values().border, (Swatch{FillStyle::solid, red}));
+    QCOMPARE(shown.panel.values().fill, (Swatch{FillStyle::solid, blue}));
 }
 
 void PropertyPanelTest::cancelledColorChangesNothing() {
@@ -319,19 +319,19 @@ void PropertyPanelTest::borderIsCleared() {
     shown.panel.showKind(ElementKind::Box);
     typeOver(shown.find<QLineEdit>("txtAlpha"), "30");
     click(shown.find<QPushButton>("cmdClearL"));
-    QCOMPARE(shown.panel.values().lColor.fillStyle, FillStyle::transparent);
+    QCOMPARE(shown.panel.values().border.fillStyle, FillStyle::transparent);
     QCOMPARE(shown.find<ColorWell>("lColor").swatch().fillStyle, FillStyle::transparent);
     QCOMPARE(shown.find<QLabel>("lblL").text(), "none");
-    QCOMPARE(shown.panel.values().txtAlpha, "30");
+    QCOMPARE(shown.panel.values().opacity, "30");
 }
 
 void PropertyPanelTest::fillIsClearedWithItsOpacity() {
     ShownPanel shown;
     shown.panel.showElement(boxElement());
     click(shown.find<QPushButton>("cmdClearF"));
-    QCOMPARE(shown.panel.values().fColor.fillStyle, FillStyle::transparent);
+    QCOMPARE(shown.panel.values().fill.fillStyle, FillStyle::transparent);
     QCOMPARE(shown.find<ColorWell>("fColor").swatch().fillStyle, FillStyle::transparent);
-    QCOMPARE(shown.panel.values().txtAlpha, "100");
+    QCOMPARE(shown.panel.values().opacity, "100");
     QCOMPARE(shown.find<QLineEdit>("txtAlpha").text(), "100");
 }
 
@@ -341,7 +341,7 @@ void PropertyPanelTest::chosenColorMakesAClearSwatchSolid() {
     click(shown.find<QPushButton>("cmdClearL"));
     shown.prompts.colors << QColor(Qt::red);
     click(shown.find<ColorWell>("lColor"));
-    QCOMPARE(shown.panel.values().lColor, (Swatch{FillStyle::solid, red}));
+    QCOMPARE(shown.panel.values().border, (Swatch{FillStyle::solid, red}));
 }
 
 void PropertyPanelTest::wellsShowTheirColor() {
@@ -364,10 +364,10 @@ void PropertyPanelTest::opacityTakesAnyText() {
     auto& txtAlpha = shown.find<QLineEdit>("txtAlpha");
     for (const char* text : {"0", "", "abc", "-5", "101", "50%", "1e400"}) {
         typeOver(txtAlpha, QString::fromLatin1(text));
-        QCOMPARE(shown.panel.values().txtAlpha, text);
+        QCOMPARE(shown.panel.values().opacity, text);
     }
     QTest::keyClick(&txtAlpha, Qt::Key_Tab);
-    QCOMPARE(shown.panel.values().txtAlpha, "1e400");
+    QCOMPARE(shown.panel.values().opacity, "1e400");
     QVERIFY(shown.prompts.messages.isEmpty());
 }
 

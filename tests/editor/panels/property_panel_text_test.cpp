@@ -41,10 +41,10 @@ void PropertyPanelTextTest::typedTextIsNoEntry() {
     QVERIFY(shown.panel.values().textIsEntry);
     auto& edit = *shown.find<QComboBox>("txtText").lineEdit();
     typeOver(edit, "My skin");
-    QCOMPARE(shown.panel.values().txtText, "My skin");
+    QCOMPARE(shown.panel.values().text, "My skin");
     QVERIFY(!shown.panel.values().textIsEntry);
     typeOver(edit, "");
-    QCOMPARE(shown.panel.values().txtText, "");
+    QCOMPARE(shown.panel.values().text, "");
 }
 
 // Neither completed nor taken for the entry that it happens to spell.
@@ -57,7 +57,7 @@ void PropertyPanelTextTest::typedTextStaysAsItIs() {
         QTest::keyClick(txtText.lineEdit(), Qt::Key_Return);
         QTest::keyClick(txtText.lineEdit(), Qt::Key_Tab);
         QCOMPARE(txtText.currentText(), QString::fromLatin1(text));
-        QCOMPARE(shown.panel.values().txtText, text);
+        QCOMPARE(shown.panel.values().text, text);
         QVERIFY(!shown.panel.values().textIsEntry);
         QCOMPARE(txtText.count(), 54);
     }
@@ -69,7 +69,7 @@ void PropertyPanelTextTest::chosenEntryIsOne() {
     auto& txtText = shown.find<QComboBox>("txtText");
     chooseEntry(txtText, 2);
     QCOMPARE(txtText.currentText(), "CGTitle");
-    QCOMPARE(shown.panel.values().txtText, "CGTitle");
+    QCOMPARE(shown.panel.values().text, "CGTitle");
     QVERIFY(shown.panel.values().textIsEntry);
 }
 
@@ -78,12 +78,12 @@ void PropertyPanelTextTest::entryIsOneAgainAfterTyping() {
     shown.panel.showKind(ElementKind::Text);
     auto& txtText = shown.find<QComboBox>("txtText");
     chooseInPopup(txtText, 18);
-    QCOMPARE(shown.panel.values().txtText, "Time");
+    QCOMPARE(shown.panel.values().text, "Time");
     typeOver(*txtText.lineEdit(), "Timer");
     QVERIFY(!shown.panel.values().textIsEntry);
     chooseInPopup(txtText, 18);
     QCOMPARE(txtText.currentText(), "Time");
-    QCOMPARE(shown.panel.values().txtText, "Time");
+    QCOMPARE(shown.panel.values().text, "Time");
     QVERIFY(shown.panel.values().textIsEntry);
 }
 
@@ -118,7 +118,7 @@ void PropertyPanelTextTest::fontIsCopiedWithoutItsSlant() {
     shown.prompts.fonts << chosen;
     click(cmdFont);
     QCOMPARE(
-        shown.panel.values().cmdFont,
+        shown.panel.values().font,
         (FontChoice{.family = "DejaVu Serif", .size = 20.5F, .bold = true, .underline = true}));
     QCOMPARE(cmdFont.font().family(), "DejaVu Serif");
     QCOMPARE(cmdFont.font().pointSizeF(), 20.5);
@@ -150,7 +150,7 @@ void PropertyPanelTextTest::fontIsNotReadBack() {
     Element text = textElement("Time", false);
     text.elementControl.font.edit() = {.family = "DejaVu Sans", .size = 30, .bold = true};
     shown.panel.showElement(text);
-    QCOMPARE(shown.panel.values().cmdFont, FontChoice());
+    QCOMPARE(shown.panel.values().font, FontChoice());
     QCOMPARE(shown.find<QPushButton>("cmdFont").font().family(), "Tahoma");
 }
 

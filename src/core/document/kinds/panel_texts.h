@@ -1,7 +1,8 @@
-// The fixed texts of the property panel: captions by the names of their controls, messages, and the
-// fields of the dashboard that a Text element can show.
+// The fixed texts of the property panel: captions, messages, and the fields of the dashboard that a
+// Text element can show.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -9,36 +10,37 @@ namespace tarvel {
 
 namespace caption {
 
-inline constexpr std::string_view fraShared = "Shared";
-inline constexpr std::string_view fraText = "Text";
-inline constexpr std::string_view lblBorderColor = "Border Color:"; ///< until a kind is chosen
+inline constexpr std::string_view shared = "Shared";
+inline constexpr std::string_view text = "Text";
+inline constexpr std::string_view anyBorderColor = "Border Color:"; ///< until a kind is chosen
 inline constexpr std::string_view borderColor = "Border Color";
 inline constexpr std::string_view lineColor = "Line Color";
-inline constexpr std::string_view cmdClearL = "clear (no border)";
-inline constexpr std::string_view lblFillColor = "Fill Color:"; ///< until a kind is chosen
+inline constexpr std::string_view clearBorder = "clear (no border)";
+inline constexpr std::string_view anyFillColor = "Fill Color:"; ///< until a kind is chosen
 inline constexpr std::string_view fillColor = "Fill Color";
 inline constexpr std::string_view fontColor = "Font Color";
-inline constexpr std::string_view cmdClearF = "clear (no fill)";
-inline constexpr std::string_view lblAlpha = "Opacity %";
-inline constexpr std::string_view lblText = "Select predefined text below, or enter custom text:";
-inline constexpr std::string_view cmdFont = "Font";
-inline constexpr std::string_view lblRes = "Select Resource Below:";
-inline constexpr std::string_view cmdAddRes = "Resource Manager";
-inline constexpr std::string_view lblPreview = "Resource Preview";
-inline constexpr std::string_view cmdApply = "Apply Changes";
-inline constexpr std::string_view cmdStop = "Stop Vids";
+inline constexpr std::string_view clearFill = "clear (no fill)";
+inline constexpr std::string_view opacity = "Opacity %";
+inline constexpr std::string_view chooseText =
+    "Select predefined text below, or enter custom text:";
+inline constexpr std::string_view font = "Font";
+inline constexpr std::string_view chooseResource = "Select Resource Below:";
+inline constexpr std::string_view resourceManager = "Resource Manager";
+inline constexpr std::string_view resourcePreview = "Resource Preview";
+inline constexpr std::string_view applyChanges = "Apply Changes";
+inline constexpr std::string_view stopVideos = "Stop Vids";
 
 // The frame of the item menu.
-inline constexpr std::string_view chkThumbVis = "Thumbnails visible";
-inline constexpr std::string_view chkSmoothScroll = "Smooth Scrolling";
-inline constexpr std::string_view lblScrollFactor = "Scroll Factor";
-inline constexpr std::string_view lblNumItems = "# of games shown at a time";
-inline constexpr std::string_view chkSelGlow = "Glow Selected items";
-inline constexpr std::string_view chkShowDesc = "Show Game Description";
-inline constexpr std::string_view lblSelTitle = "Selected Title";
-inline constexpr std::string_view lblUnselTitle = "Unselected Title";
-inline constexpr std::string_view lblSelDesc = "Selected Description";
-inline constexpr std::string_view lblUnselDesc = "Unselected Description";
+inline constexpr std::string_view thumbnailsVisible = "Thumbnails visible";
+inline constexpr std::string_view smoothScroll = "Smooth Scrolling";
+inline constexpr std::string_view scrollFactor = "Scroll Factor";
+inline constexpr std::string_view itemsShown = "# of games shown at a time";
+inline constexpr std::string_view glowSelected = "Glow Selected items";
+inline constexpr std::string_view showDescription = "Show Game Description";
+inline constexpr std::string_view selectedTitle = "Selected Title";
+inline constexpr std::string_view unselectedTitle = "Unselected Title";
+inline constexpr std::string_view selectedDescription = "Selected Description";
+inline constexpr std::string_view unselectedDescription = "Unselected Description";
 inline constexpr std::string_view preview = "Preview:";
 inline constexpr std::string_view alignment = "Alignment:";
 inline constexpr std::string_view gameTitle = "Game Title";
@@ -57,7 +59,7 @@ inline constexpr std::string_view noText = "Enter some text";
 
 } // namespace message
 
-/// The entries of txtText, in their order. The spelling is the dashboard's, odd ones included.
+/// The texts to choose from, in their order. The spelling is the dashboard's, odd ones included.
 inline constexpr std::array<std::string_view, 54> predefinedTexts = {"DiscTitle",
                                                                      "DiscSubTitle",
                                                                      "CGTitle",
@@ -112,5 +114,10 @@ inline constexpr std::array<std::string_view, 54> predefinedTexts = {"DiscTitle"
                                                                      "FlashID",
                                                                      "NewsFeed",
                                                                      "LaunchMode"};
+
+/// Whether the text is an entry of the list, in its very spelling.
+[[nodiscard]] constexpr bool isPredefinedText(std::string_view text) {
+    return std::find(predefinedTexts.begin(), predefinedTexts.end(), text) != predefinedTexts.end();
+}
 
 } // namespace tarvel

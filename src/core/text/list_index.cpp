@@ -1,5 +1,5 @@
 // List look-up.
-#include "editing/list_index.h"
+#include "text/list_index.h"
 
 #include "text/text_case.h"
 

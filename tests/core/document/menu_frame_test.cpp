@@ -1,6 +1,6 @@
 // The item menu's settings in the frame and back.
-#include "editing/menu_frame.h"
-#include "editing/panel_texts.h"
+#include "document/kinds/menu_frame.h"
+#include "document/kinds/panel_texts.h"
 #include "support/document_support.h"
 
 #include <gtest/gtest.h>
@@ -15,24 +15,24 @@ namespace {
 
 TEST(MenuFrame, StartsWithTheSettingsOfANewMenu) {
     MenuFrame frame;
-    EXPECT_EQ(frame.txtNumItems, "5");
-    EXPECT_EQ(frame.txtScrollFactor, "3");
+    EXPECT_EQ(frame.itemsShown, "5");
+    EXPECT_EQ(frame.scrollFactor, "3");
     showMenuSettings(MenuSettings{}, frame);
     EXPECT_EQ(frame, MenuFrame{});
 }
 
 TEST(MenuFrame, HasItsFixedTexts) {
     EXPECT_EQ(alignmentEntries, (std::array<std::string_view, 3>{"Left", "Right", "Center"}));
-    EXPECT_EQ(caption::chkThumbVis, "Thumbnails visible");
-    EXPECT_EQ(caption::chkSmoothScroll, "Smooth Scrolling");
-    EXPECT_EQ(caption::lblScrollFactor, "Scroll Factor");
-    EXPECT_EQ(caption::lblNumItems, "# of games shown at a time");
-    EXPECT_EQ(caption::chkSelGlow, "Glow Selected items");
-    EXPECT_EQ(caption::chkShowDesc, "Show Game Description");
-    EXPECT_EQ(caption::lblSelTitle, "Selected Title");
-    EXPECT_EQ(caption::lblUnselTitle, "Unselected Title");
-    EXPECT_EQ(caption::lblSelDesc, "Selected Description");
-    EXPECT_EQ(caption::lblUnselDesc, "Unselected Description");
+    EXPECT_EQ(caption::thumbnailsVisible, "Thumbnails visible");
+    EXPECT_EQ(caption::smoothScroll, "Smooth Scrolling");
+    EXPECT_EQ(caption::scrollFactor, "Scroll Factor");
+    EXPECT_EQ(caption::itemsShown, "# of games shown at a time");
+    EXPECT_EQ(caption::glowSelected, "Glow Selected items");
+    EXPECT_EQ(caption::showDescription, "Show Game Description");
+    EXPECT_EQ(caption::selectedTitle, "Selected Title");
+    EXPECT_EQ(caption::unselectedTitle, "Unselected Title");
+    EXPECT_EQ(caption::selectedDescription, "Selected Description");
+    EXPECT_EQ(caption::unselectedDescription, "Unselected Description");
     EXPECT_EQ(caption::preview, "Preview:");
     EXPECT_EQ(caption::alignment, "Alignment:");
     EXPECT_EQ(caption::gameTitle, "Game Title");
@@ -55,18 +55,18 @@ TEST(ShowMenuSettings, FillsEveryControl) {
     MenuFrame frame;
     showMenuSettings(settings, frame);
     MenuFrame expected;
-    expected.chkThumbVis = false;
-    expected.chkSmoothScroll = false;
-    expected.chkSelGlow = true;
-    expected.chkShowDesc = false;
-    expected.txtScrollFactor = "-2";
-    expected.txtNumItems = "12";
-    expected.cmbTitleAlign = 1;
-    expected.cmbDescAlign = 2;
-    expected.colSelTitle = makeColor(255, 0, 0);
-    expected.colUnselTitle = makeColor(0, 255, 0);
-    expected.colSelDesc = makeColor(0, 0, 255);
-    expected.colUnselDesc = makeColor(1, 0, 0);
+    expected.thumbnailsVisible = false;
+    expected.smoothScroll = false;
+    expected.glowSelected = true;
+    expected.showDescription = false;
+    expected.scrollFactor = "-2";
+    expected.itemsShown = "12";
+    expected.titleAlignment = 1;
+    expected.descriptionAlignment = 2;
+    expected.selectedTitleColor = makeColor(255, 0, 0);
+    expected.unselectedTitleColor = makeColor(0, 255, 0);
+    expected.selectedDescriptionColor = makeColor(0, 0, 255);
+    expected.unselectedDescriptionColor = makeColor(1, 0, 0);
     EXPECT_EQ(frame, expected);
 }
 
@@ -78,8 +78,8 @@ TEST(ShowMenuSettings, ShowsEachBooleanInItsOwnBox) {
     const auto boxes = [](const MenuSettings& settings) {
         MenuFrame frame;
         showMenuSettings(settings, frame);
-        return std::array{frame.chkThumbVis, frame.chkSmoothScroll, frame.chkSelGlow,
-                          frame.chkShowDesc};
+        return std::array{frame.thumbnailsVisible, frame.smoothScroll, frame.glowSelected,
+                          frame.showDescription};
     };
     using Boxes = std::array<bool, 4>;
     MenuSettings settings = off;
@@ -108,11 +108,11 @@ TEST(ShowMenuSettings, FindsAlignmentsInAnyLetterCase) {
         settings.titleAlignment = c.text;
         settings.descriptionAlignment = c.text;
         MenuFrame frame;
-        frame.cmbTitleAlign = 1;
-        frame.cmbDescAlign = 1;
+        frame.titleAlignment = 1;
+        frame.descriptionAlignment = 1;
         showMenuSettings(settings, frame);
-        EXPECT_EQ(frame.cmbTitleAlign, c.position) << c.text;
-        EXPECT_EQ(frame.cmbDescAlign, c.position) << c.text;
+        EXPECT_EQ(frame.titleAlignment, c.position) << c.text;
+        EXPECT_EQ(frame.descriptionAlignment, c.position) << c.text;
     }
 }
 
@@ -129,7 +129,7 @@ TEST(ShowMenuSettings, ReadsColoursLeniently) {
         settings.selectedTitleColor = c.text;
         MenuFrame frame;
         showMenuSettings(settings, frame);
-        EXPECT_EQ(frame.colSelTitle, c.color) << c.text;
+        EXPECT_EQ(frame.selectedTitleColor, c.color) << c.text;
     }
 }
 
@@ -146,11 +146,11 @@ TEST(MenuSettingsOf, ReadsNumbersWithTheZeroRule) {
     };
     for (const auto& c : cases) {
         MenuFrame frame;
-        frame.txtNumItems = c.text;
+        frame.itemsShown = c.text;
         EXPECT_EQ(menuSettingsOf(frame).itemsShown, c.number) << c.text;
         EXPECT_EQ(menuSettingsOf(frame).scrollFactor, 3) << c.text;
         frame = {};
-        frame.txtScrollFactor = c.text;
+        frame.scrollFactor = c.text;
         EXPECT_EQ(menuSettingsOf(frame).scrollFactor, c.number) << c.text;
         EXPECT_EQ(menuSettingsOf(frame).itemsShown, 5) << c.text;
     }
@@ -158,18 +158,18 @@ TEST(MenuSettingsOf, ReadsNumbersWithTheZeroRule) {
 
 TEST(MenuSettingsOf, TakesEveryControl) {
     MenuFrame frame;
-    frame.chkThumbVis = false;
-    frame.chkSmoothScroll = true;
-    frame.chkSelGlow = true;
-    frame.chkShowDesc = false;
-    frame.txtScrollFactor = "9";
-    frame.txtNumItems = "11";
-    frame.cmbTitleAlign = 2;
-    frame.cmbDescAlign = 0;
-    frame.colSelTitle = makeColor(255, 0, 0);
-    frame.colUnselTitle = makeColor(0, 1, 0);
-    frame.colSelDesc = makeColor(0, 0, 1);
-    frame.colUnselDesc = makeColor(255, 255, 255);
+    frame.thumbnailsVisible = false;
+    frame.smoothScroll = true;
+    frame.glowSelected = true;
+    frame.showDescription = false;
+    frame.scrollFactor = "9";
+    frame.itemsShown = "11";
+    frame.titleAlignment = 2;
+    frame.descriptionAlignment = 0;
+    frame.selectedTitleColor = makeColor(255, 0, 0);
+    frame.unselectedTitleColor = makeColor(0, 1, 0);
+    frame.selectedDescriptionColor = makeColor(0, 0, 1);
+    frame.unselectedDescriptionColor = makeColor(255, 255, 255);
     const MenuSettings expected{.thumbnailsVisible = false,
                                 .smoothScroll = true,
                                 .scrollFactor = 9,
@@ -208,11 +208,11 @@ TEST(AlignmentPreviews, FollowTheUsersChoicesOnly) {
     EXPECT_EQ(frame.titlePreview, TextAlignment::left);
     EXPECT_EQ(frame.descPreview, TextAlignment::right);
     chooseTitleAlign(frame, 2);
-    EXPECT_EQ(frame.cmbTitleAlign, 2);
+    EXPECT_EQ(frame.titleAlignment, 2);
     EXPECT_EQ(frame.titlePreview, TextAlignment::center);
     EXPECT_EQ(frame.descPreview, TextAlignment::right);
     chooseDescAlign(frame, 0);
-    EXPECT_EQ(frame.cmbDescAlign, 0);
+    EXPECT_EQ(frame.descriptionAlignment, 0);
     EXPECT_EQ(frame.descPreview, TextAlignment::left);
     EXPECT_EQ(frame.titlePreview, TextAlignment::center);
 
@@ -220,7 +220,7 @@ TEST(AlignmentPreviews, FollowTheUsersChoicesOnly) {
     settings.titleAlignment = "Right";
     settings.descriptionAlignment = "Right";
     showMenuSettings(settings, frame);
-    EXPECT_EQ(frame.cmbTitleAlign, 1);
+    EXPECT_EQ(frame.titleAlignment, 1);
     EXPECT_EQ(frame.titlePreview, TextAlignment::center);
     EXPECT_EQ(frame.descPreview, TextAlignment::left);
 }

@@ -15,24 +15,23 @@ namespace tarvel {
 /// The entries of both alignment choosers; the position is the TextAlignment.
 inline constexpr std::array<std::string_view, 3> alignmentEntries = {"Left", "Right", "Center"};
 
-/// What the controls of fraQor hold, by their names; at first the settings of a new menu.
+/// An item menu's settings as they are typed and chosen; at first those of a new menu.
 struct MenuFrame {
-    bool chkThumbVis = true;
-    bool chkSmoothScroll = true;
-    bool chkSelGlow = false;
-    bool chkShowDesc = true;
-    std::string txtScrollFactor = "3";
-    std::string txtNumItems = "5";
-    int cmbTitleAlign = 0; ///< position in alignmentEntries
-    int cmbDescAlign = 1;
-    // Backgrounds of the colour boxes, and text colours of the preview labels that belong to them.
-    ColorNumber colSelTitle = makeColor(255, 255, 255);
-    ColorNumber colUnselTitle = makeColor(255, 255, 255);
-    ColorNumber colSelDesc = makeColor(255, 255, 255);
-    ColorNumber colUnselDesc = makeColor(255, 255, 255);
-    /// Of the previews lblSelTitle and lblUnselTitle. Follows only the user's choices.
+    bool thumbnailsVisible = true;
+    bool smoothScroll = true;
+    bool glowSelected = false;
+    bool showDescription = true;
+    std::string scrollFactor = "3";
+    std::string itemsShown = "5";
+    int titleAlignment = 0; ///< position in alignmentEntries
+    int descriptionAlignment = 1;
+    ColorNumber selectedTitleColor = makeColor(255, 255, 255);
+    ColorNumber unselectedTitleColor = makeColor(255, 255, 255);
+    ColorNumber selectedDescriptionColor = makeColor(255, 255, 255);
+    ColorNumber unselectedDescriptionColor = makeColor(255, 255, 255);
+    /// Of both previews of titles. Follows only the user's choices.
     TextAlignment titlePreview = TextAlignment::left;
-    /// Of the previews lblSelDesc and lblUnselDesc. Follows only the user's choices.
+    /// Of both previews of descriptions. Follows only the user's choices.
     TextAlignment descPreview = TextAlignment::right;
 
     bool operator==(const MenuFrame&) const = default;
@@ -46,11 +45,7 @@ void showMenuSettings(const MenuSettings& settings, MenuFrame& frame);
 /// held at the limits of 16 bits; only one that is exactly 0 becomes 1.
 [[nodiscard]] MenuSettings menuSettingsOf(const MenuFrame& frame);
 
-/// The settings of the last menu that was made after an element, as when a skin was loaded; nullptr
-/// when none was. Good until the document changes.
-[[nodiscard]] const MenuSettings* lastMenuAfter(const SkinDocument& document, int elementId);
-
-/// The user chose an entry (0 to 2) of cmbTitleAlign or cmbDescAlign.
+/// The user chose an entry (0 to 2) for the titles or the descriptions.
 void chooseTitleAlign(MenuFrame& frame, int position);
 void chooseDescAlign(MenuFrame& frame, int position);
 

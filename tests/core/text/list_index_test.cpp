@@ -1,5 +1,5 @@
 // Look-up in lists of choices.
-#include "editing/list_index.h"
+#include "text/list_index.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,28 @@
+// Menu: a picture of a list of games.
+#include "surface/element_looks.h"
+#include "surface/surface_pass.h"
+
+namespace tarvel {
+
+namespace {
+
+constexpr std::string_view gameListPicture = ":/tarvel/gamelist.png";
+
+void paint(SurfacePass& pass, int /*id*/, const Element& element) {
+    const QRectF rect = controlRect(element.elementControl);
+    if (!pass.targetOf(rect).isEmpty()) {
+        pass.paintStretched(rect, gameListPicture);
+    }
+}
+
+} // namespace
+
+const KindLook menuLook = {.tool = {.name = "optQor",
+                                    .caption = "Game List (QOR Menu)",
+                                    .icon = "tool-menu",
+                                    .tip = "Place the list of games"},
+                           .paint = paint,
+                           .bounds = rectangleBounds,
+                           .naturalSize = noNaturalSize};
+
+} // namespace tarvel
