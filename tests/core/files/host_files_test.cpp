@@ -339,6 +339,15 @@ TEST(ThroughTempFile, WaitsForAnotherHolder) {
     EXPECT_EQ(content, "of another program");
 }
 
+TEST(ThroughTempFile, FollowsNoLink) {
+    const TemporaryFolder folder;
+    const auto other = folder.file("other", "of somebody else");
+    fs::create_symlink(other, folder / "temp.xml");
+    EXPECT_THROW((void)throughTempFile(folder.path(), "<a/>"), FileError);
+    EXPECT_EQ(readFile(other), "of somebody else");
+    EXPECT_TRUE(fs::is_symlink(folder / "temp.xml"));
+}
+
 TEST(ThroughTempFile, FailsInAMissingFolder) {
     const TemporaryFolder folder;
     EXPECT_THROW((void)throughTempFile(folder / "no", "x"), FileError);
