@@ -312,7 +312,8 @@ void PicTest::videoGoesWhenItsElementShowsSomethingElse() {
     const auto players = [&] { return surface.pic.videos().findChildren<QMediaPlayer*>().size(); };
     QCOMPARE(players(), 1);
     surface.document.editElement(id, [&](Element& element) {
-        element = imageOf(ControlKind::img, {300, 300, 160, 120}, media.filePath("aurora.jpg"));
+        element.elementControl.kind = ControlKind::img;
+        element.elementControl.file = documentPath(media.filePath("aurora.jpg").toStdString());
     });
     QTRY_COMPARE_WITH_TIMEOUT(players(), 0, patience);
 }

@@ -18,14 +18,6 @@ QImage lookOf(Editor& editor) {
     return image;
 }
 
-// Lets the ground be made, which waits for the end of a command.
-void settle() {
-    for (int turn = 0; turn < 5; ++turn) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
-
 // What a surface without any flat ground shows.
 QImage afresh(Editor& editor) {
     PictureCache pictures;
@@ -190,7 +182,7 @@ void StackingMenuTest::groundFollowsWhatIsInIt() {
     editor.selectRow(1, 0);
     editor.entry("mnuLocked")->trigger();
     editor.entry("mnuDeSel")->trigger();
-    settle();
+    settle(); // the ground waits for the end of a command
     QCOMPARE(lookOf(editor), afresh(editor));
     const QImage before = lookOf(editor);
     change(editor);
