@@ -1,6 +1,8 @@
 // Working a dialog in a test as a user does: by mouse and keys, controls found by name.
 #pragma once
 
+#include "support/settle.h"
+
 #include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
@@ -41,7 +43,7 @@ inline bool close(QWidget& window) {
         !QTest::qWaitFor([&] { return QApplication::activeWindow() != &window; })) {
         return false;
     }
-    QTest::qWait(50); // text boxes look at the focus once more a turn later
+    settle(); // text boxes look at the focus once more a turn later
     return true;
 }
 

@@ -10,9 +10,6 @@
 
 namespace tarvel::test {
 
-/// Until an animation is over, in milliseconds.
-inline constexpr int settled = Easing::duration + 150;
-
 /// The four options, and no files.
 inline MusicSettings musicOptions(bool yes, bool global, bool custom, bool random) {
     MusicSettings settings;

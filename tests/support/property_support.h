@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QStyleHints>
 
 #include <string>
 #include <utility>
@@ -88,13 +89,18 @@ inline void chooseEntry(QComboBox& list, int row) {
 
 /// Chooses a row in the opened list of a drop-down list, where it may be the current one already.
 inline void chooseInPopup(QComboBox& list, int row) {
+    // A click within the time of a double click after opening is no choice.
+    QStyleHints& hints = *QGuiApplication::styleHints();
+    const int before = hints.mouseDoubleClickInterval();
+    hints.setMouseDoubleClickInterval(0);
     list.showPopup();
+    settle();
+    hints.setMouseDoubleClickInterval(before);
     QAbstractItemView* view = list.view();
     const QModelIndex index = list.model()->index(row, 0);
     view->scrollTo(index);
     const QPoint point = view->visualRect(index).center();
     QTest::mouseMove(view->viewport(), point);
-    QTest::qWait(QApplication::doubleClickInterval()); // a click right after opening is no choice
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, point);
 }
 

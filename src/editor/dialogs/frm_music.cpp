@@ -67,7 +67,7 @@ FrmMusic::FrmMusic(SkinDocument& document, Prompts& prompts, QWidget* parent,
                        QStringLiteral("chkRandom"), tr("Play music in random order")))
     , cmdOK_(makeOk())
     , player_(std::move(player))
-    , easing_(30, 0.2) { // 3 twips
+    , easing_(30, 0.2, this) { // 3 twips
     QFont bold = caption_->font();
     bold.setBold(true);
     caption_->setFont(bold);

@@ -11,7 +11,7 @@ namespace tarvel {
 
 PanelSlide::PanelSlide(QObject* parent)
     : QObject(parent)
-    , easing_(15, 3) {
+    , easing_(15, 3, this) {
     connect(&easing_, &Easing::finished, this, &PanelSlide::finished);
 }
 

@@ -143,6 +143,9 @@ TEST(MakeText, TakesColorAndOpacityFromTheSameText) {
         {"<e><TextColor><COLOR>0xFF000000</COLOR><color>0x80FF0000</color></TextColor></e>", red,
          50},
         {"<e><TextColor>0x20123456</TextColor><TextColor>0x80FF0000</TextColor></e>", red, 50},
+        {"<e><TextColor><Color>0x80FF0000</Color></TextColor>"
+         "<TextColor><Color>0x20123456</Color></TextColor></e>",
+         red, 50},
         {"<e><TextColor>0x80FF0000<Other/></TextColor></e>", red, 50},
         {"<e/>", white, 100},
         {"<e><TextColor/></e>", white, 100},

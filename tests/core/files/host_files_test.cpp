@@ -7,6 +7,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
@@ -328,15 +329,28 @@ TEST(ThroughTempFile, WaitsForAnotherHolder) {
     const int other = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
     ASSERT_EQ(::flock(other, LOCK_EX), 0);
     std::string content;
+    const int opened = ::inotify_init1(IN_CLOEXEC);
+    ASSERT_GE(::inotify_add_watch(opened, path.c_str(), IN_OPEN), 0);
     std::thread holder([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-        content = readFile(path); // still as its holder left it
+        char event[4096];
+        EXPECT_GT(::read(opened, event, sizeof event), 0); // the other one has come
+        content = readFile(path);                          // still as its holder left it
         ::unlink(path.c_str());
         ::close(other);
+        ::close(opened);
     });
     EXPECT_EQ(throughTempFile(folder.path(), "<mine/>"), "<mine/>");
     holder.join();
     EXPECT_EQ(content, "of another program");
+}
+
+TEST(ThroughTempFile, FollowsNoLink) {
+    const TemporaryFolder folder;
+    const auto other = folder.file("other", "of somebody else");
+    fs::create_symlink(other, folder / "temp.xml");
+    EXPECT_THROW((void)throughTempFile(folder.path(), "<a/>"), FileError);
+    EXPECT_EQ(readFile(other), "of somebody else");
+    EXPECT_TRUE(fs::is_symlink(folder / "temp.xml"));
 }
 
 TEST(ThroughTempFile, FailsInAMissingFolder) {

@@ -98,6 +98,13 @@ TEST_F(SkinFolderTest, IntoItsOwnFolderNothingIsCopiedOntoItself) {
     EXPECT_EQ(content("Media/pic.png"), "picture");
 }
 
+TEST_F(SkinFolderTest, WhatIsMissingInItsOwnFolderIsNoProblem) {
+    document_.addRes("gone", folder_.document("out\\Media\\gone.png"));
+    addMusic(folder_.document("out\\Music\\gone.wma"));
+    EXPECT_TRUE(save().succeeded());
+    EXPECT_EQ(problems_, std::vector<std::string>{});
+}
+
 TEST_F(SkinFolderTest, MusicAndBackgroundAreNotCopiedOntoThemselves) {
     folder_.file("out/Media/back.jpg", "background");
     folder_.file("out/Music/song.wma", "song");

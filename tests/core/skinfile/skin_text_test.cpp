@@ -217,6 +217,21 @@ TEST(SkinText, LinesOfModifiersStayXmlWhereOthersAreMended) {
     EXPECT_EQ(element.child(2).content(), "a &amp; b < c");
 }
 
+TEST(SkinText, AModifierReachesToTheEndOfItsElement) {
+    const std::string text = "<Skin name=\"n\">\n<Layout Screen=\"Menu\">\n"
+                             "<LayoutElement Type=\"Box\">\n"
+                             "<Modifier Type=\"a > b\"/>\n"
+                             "</LayoutElement>\n"
+                             "<LayoutElement Type=\"Text\">\n"
+                             "<Constant>a < b</Constant>\n</LayoutElement>\n</Layout>\n</Skin>\n";
+    SkinTextNotes notes;
+    const XmlTree tree = readSkinText(text, notes);
+    EXPECT_EQ(notes.mendedLines, std::vector<int>{7});
+    const XmlNode layout = tree.root().child(0);
+    EXPECT_EQ(layout.child(0).child(0).attributeValue(0), "a > b");
+    EXPECT_EQ(layout.child(1).child(0).content(), "a < b");
+}
+
 TEST(SkinText, ATagListEndsOnItsLine) {
     const std::string text = "<Skin name=\"n\">\n<Information><a>x</a></Information>\n"
                              "<Resource Type=\"Image\" Name=\"r\"/>\n"

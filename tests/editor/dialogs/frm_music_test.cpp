@@ -14,9 +14,15 @@ namespace tarvel {
 
 using test::click;
 using test::control;
-using test::settled;
+using test::endGliding;
+using test::settle;
+using test::waitForGliding;
 
 namespace {
+
+bool glides(const QWidget& dialog) {
+    return dialog.findChild<Easing*>()->isRunning();
+}
 
 // Where everything stands, to compare states of the dialog.
 QStringList geometries(const QWidget& dialog) {
@@ -134,8 +140,8 @@ void FrmMusicTest::optionsGoToTheDocumentAtOnce() {
     QVERIFY(test::open(*dialog));
     MusicSettings expected;
     const auto press = [&](const char* name) {
-        QTest::qWait(settled);
         click(control<QWidget>(*dialog, QLatin1String(name)));
+        endGliding(*dialog);
     };
     press("optYesMusic");
     expected.optYesMusic = true;
@@ -213,7 +219,7 @@ void FrmMusicTest::growsAndShrinksToTheExactPlaces() {
         click(control<QWidget>(*dialog, QLatin1String(press)));
         QCOMPARE(music(), state);
         QCOMPARE(dialog->height(), height); // nothing jumps
-        QTest::qWait(settled);
+        QVERIFY(waitForGliding(*dialog));
         SkinDocument same;
         same.editSettings([&](SkinSettings& settings) { settings.music = state; });
         FrmMusic fresh(same, *prompts_, nullptr, std::make_unique<test::FakePlayer>(log_));
@@ -236,7 +242,7 @@ void FrmMusicTest::growsWhileEventsRun() {
     clock.start();
     click(control<QWidget>(*dialog, "optYesMusic"));
     QVERIFY2(clock.elapsed() < 100, "the click waited for the animation");
-    QTest::qWait(settled);
+    QVERIFY(waitForGliding(*dialog));
     timer.stop();
     const int lower = ok.y();
     QCOMPARE(dialog->height() - small, lower - upper);
@@ -252,13 +258,15 @@ void FrmMusicTest::furtherClicksWhileItGrowsAreHarmless() {
     QVERIFY(test::open(*dialog));
     const QStringList small = geometries(*dialog);
     for (const char* press : {"optYesMusic", "optNoMusic", "optNoMusic", "optYesMusic"}) {
+        const int before = dialog->height();
         click(control<QWidget>(*dialog, QLatin1String(press)));
-        QTest::qWait(60);
+        QTRY_VERIFY(dialog->height() != before || !glides(*dialog)); // on its way
     }
+    const int before = dialog->height();
     click(control<QWidget>(*dialog, "chkCustom"));
-    QTest::qWait(60);
+    QTRY_VERIFY(dialog->height() > before);
     click(control<QWidget>(*dialog, "optNoMusic"));
-    QTest::qWait(settled);
+    QVERIFY(waitForGliding(*dialog));
     QCOMPARE(geometries(*dialog), small);
     QCOMPARE(music().optYesMusic, false);
 }
@@ -266,12 +274,15 @@ void FrmMusicTest::furtherClicksWhileItGrowsAreHarmless() {
 void FrmMusicTest::closingWhileItGrowsIsHarmless() {
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
+    const int before = dialog->height();
     click(control<QWidget>(*dialog, "optYesMusic"));
-    QTest::qWait(50);
+    QTRY_VERIFY(dialog->height() > before);
+    QVERIFY(glides(*dialog));
     dialog->close();
     QVERIFY(test::open(*dialog));
     const QStringList now = geometries(*dialog);
-    QTest::qWait(settled);
+    QVERIFY(waitForGliding(*dialog));
+    settle();
     QCOMPARE(geometries(*dialog), now);
     const auto fresh = makeDialog();
     QVERIFY(test::open(*fresh));
@@ -285,7 +296,7 @@ void FrmMusicTest::worksByKeysAlone() {
     QVERIFY(control<QWidget>(*dialog, "optNoMusic").hasFocus());
     press(Qt::Key_Up);
     QVERIFY(music().optYesMusic);
-    QTest::qWait(settled);
+    endGliding(*dialog);
     QStringList visited;
     press(Qt::Key_Tab);
     visited << dialog->focusWidget()->objectName();
@@ -293,7 +304,7 @@ void FrmMusicTest::worksByKeysAlone() {
     visited << dialog->focusWidget()->objectName();
     press(Qt::Key_Space);
     QVERIFY(music().chkCustom);
-    QTest::qWait(settled);
+    endGliding(*dialog);
     prompts_->fileChoices = {{QString::fromStdString(folder_.file("k.wma", "x").string())}};
     press(Qt::Key_Tab);
     visited << dialog->focusWidget()->objectName();
@@ -322,7 +333,7 @@ void FrmMusicTest::closes() {
     QTimer::singleShot(0, dialog.get(), [&] {
         click(control<QWidget>(*dialog, "optYesMusic"));
         if (how == "OK") {
-            QTest::qWait(settled);
+            QVERIFY(waitForGliding(*dialog));
             click(control<QPushButton>(*dialog, "cmdOK"));
         } else if (how == "close button") {
             dialog->close();

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QMediaPlayer>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -103,6 +104,7 @@ class PicTest : public QObject {
     void flatPictureHasTheRowsBefore();
     void tellsWhereThePointerIs();
     void videoRepaintsItsElement();
+    void videoGoesWhenItsElementShowsSomethingElse();
     void coverHidesTheSurfaceForAWhile();
     void coveringAgainStartsAnew();
     void uncoverShowsTheSurfaceAtOnce();
@@ -296,6 +298,24 @@ void PicTest::videoRepaintsItsElement() {
     QTRY_VERIFY_WITH_TIMEOUT(surface.pic.videos().isPlaying(id), patience);
     surface.pic.hide();
     QTRY_VERIFY_WITH_TIMEOUT(!surface.pic.videos().isPlaying(id), patience);
+}
+
+void PicTest::videoGoesWhenItsElementShowsSomethingElse() {
+    const QDir media(QStringLiteral(TARVEL_EXAMPLES_DIR "/aurora/Media"));
+    const QStringList films = media.entryList({"*.wmv"});
+    QVERIFY2(!films.isEmpty(), "no film among the examples");
+    Surface surface;
+    QVERIFY(surface.isShown());
+    const int id = surface.document.addElement(
+        imageOf(ControlKind::vid, {300, 300, 160, 120}, media.filePath(films.first())));
+    Surface::settle();
+    const auto players = [&] { return surface.pic.videos().findChildren<QMediaPlayer*>().size(); };
+    QCOMPARE(players(), 1);
+    surface.document.editElement(id, [&](Element& element) {
+        element.elementControl.kind = ControlKind::img;
+        element.elementControl.file = documentPath(media.filePath("aurora.jpg").toStdString());
+    });
+    QTRY_COMPARE_WITH_TIMEOUT(players(), 0, patience);
 }
 
 void PicTest::coverHidesTheSurfaceForAWhile() {

@@ -229,6 +229,11 @@ void PictureCacheTest::vastSizesAreLeftToTheCaller() {
     const Picture picture = cache.stretched(asDocumentPath(path), {1'000'000, 1'000'000});
     QVERIFY(picture.state == Picture::State::ready);
     QCOMPARE(picture.image.size(), QSize(10, 10));
+    // The largest that is kept, and one row more.
+    QCOMPARE(cache.stretched(asDocumentPath(path), {4096, 2048}).image.size(), QSize(4096, 2048));
+    const qsizetype before = cache.bytes();
+    QCOMPARE(cache.stretched(asDocumentPath(path), {4096, 2049}).image.size(), QSize(10, 10));
+    QCOMPARE(cache.bytes(), before);
 }
 
 TARVEL_UI_TEST(PictureCacheTest)

@@ -104,7 +104,7 @@ void PictureRefreshTest::fileThatAppearsIsSeen() {
     QCOMPARE(cache.stretched(file, {20, 20}).problem, "not found");
     QCOMPARE(cache.unscaled(file).problem, "not found");
     QVERIFY(!cache.refresh());
-    QTest::qWait(20); // file systems tell times in steps of some milliseconds
+    QVERIFY(waitForLaterFileTime());
     QDir().mkpath(QFileInfo(folder_.path(made)).path());
     (void)folder_.save(plainPicture({10, 10}, Qt::red), made);
     QVERIFY(cache.refresh());
@@ -240,10 +240,10 @@ void PictureRefreshTest::surfaceIsPaintedAgainWhereAFileChanged() {
     QVERIFY(QTest::qWaitForWindowExposed(&editor.window));
     QTRY_VERIFY(editor.pic()->isVisible());
     editor.window.findChild<PanelSlide*>()->finish();
-    QTest::qWait(100);
+    settle();
     PaintCounter painted(*editor.pic());
     activate(editor.window);
-    QTest::qWait(50);
+    settle();
     QCOMPARE(painted.count, 0); // nothing changed
     QVERIFY(plainPicture({11, 10}, Qt::blue).save(path));
     activate(editor.window);

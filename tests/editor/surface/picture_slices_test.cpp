@@ -33,6 +33,7 @@ class PictureSlicesTest : public QObject {
     void withoutASliceNothingWaits();
     void aSliceDecodesOneAtLeast();
     void aFileDecodedBeforeNeverWaits();
+    void aFileThatChangedWaitsAgain();
     void theSurfaceShowsAllInTheEnd();
 };
 
@@ -75,6 +76,22 @@ void PictureSlicesTest::aFileDecodedBeforeNeverWaits() {
         QCOMPARE(waits, round == 0);
         QCOMPARE(cache.endSlice(), waits);
     }
+}
+
+void PictureSlicesTest::aFileThatChangedWaitsAgain() {
+    const QTemporaryDir folder;
+    PictureCache cache;
+    const std::string changing = pictureAt(folder, 1);
+    (void)cache.stretched(changing, {10, 10}); // decoded outside of any slice
+    cache.beginSlice(0);
+    QCOMPARE(cache.stretched(changing, {20, 20}).state, Picture::State::ready);
+    (void)cache.endSlice();
+    QImage(10, 10, QImage::Format_RGB32).save(folder.filePath("1.bmp"));
+    QVERIFY(cache.refresh());
+    cache.beginSlice(0);
+    QCOMPARE(cache.stretched(pictureAt(folder, 2), {10, 10}).state, Picture::State::ready);
+    QCOMPARE(cache.stretched(changing, {20, 20}).state, Picture::State::pending);
+    QVERIFY(cache.endSlice());
 }
 
 void PictureSlicesTest::theSurfaceShowsAllInTheEnd() {

@@ -3,13 +3,29 @@
 #include "support/ui_test.h"
 #include "widgets/copy_progress.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 
 #include <fstream>
+#include <functional>
 
 using namespace tarvel;
 using namespace tarvel::test;
+
+namespace {
+
+// Takes a step again and again until the dialog is there. `before` is called before each.
+bool waitForIt(
+    CopyProgress& progress, const char* file, std::uintmax_t done, std::uintmax_t total,
+    const std::function<void()>& before = [] {}) {
+    return QTest::qWaitFor([&] {
+        before();
+        return progress.step(file, done, total) && progress.isVisible();
+    });
+}
+
+} // namespace
 
 class CopyProgressTest : public QObject {
     Q_OBJECT
@@ -29,42 +45,39 @@ void CopyProgressTest::staysAwayFromShortCopies() {
 }
 
 void CopyProgressTest::comesAfterHalfASecond() {
+    QElapsedTimer clock;
+    clock.start();
     CopyProgress progress(nullptr);
-    QTest::qWait(CopyProgress::delayMs + 50);
     bool alive = false;
-    QTimer::singleShot(0, qApp, [&] { alive = true; });
-    QVERIFY(progress.step("clip.wmv", 512, 2048));
-    QVERIFY(progress.isVisible());
+    QVERIFY(waitForIt(progress, "clip.wmv", 512, 2048, [&] {
+        alive = false;
+        QTimer::singleShot(0, qApp, [&] { alive = true; });
+    }));
+    QVERIFY(clock.elapsed() >= CopyProgress::delayMs);
     QVERIFY(progress.isModal());
     QVERIFY(alive);
     QVERIFY(progress.labelText().startsWith("Copying clip.wmv\n512 bytes of 2"));
     QCOMPARE(progress.value(), 250);
-    QTest::qWait(50);
-    QVERIFY(progress.step("empty", 0, 0));
-    QCOMPARE(progress.value(), 1000);
+    QTRY_COMPARE((progress.step("empty", 0, 0), progress.value()), 1000);
 }
 
 void CopyProgressTest::namesNeitherWidenItNorAreMarkup() {
     CopyProgress progress(nullptr);
-    QTest::qWait(CopyProgress::delayMs + 50);
-    QVERIFY(progress.step("<b>x</b>.wmv", 1, 100));
+    QVERIFY(waitForIt(progress, "<b>x</b>.wmv", 1, 100));
     const auto* label = progress.findChild<QLabel*>();
     QCOMPARE(label->textFormat(), Qt::PlainText);
     QVERIFY(label->text().startsWith("Copying <b>x</b>.wmv\n"));
     const int width = progress.width();
-    QTest::qWait(50);
     const std::string longName = "start" + std::string(200, 'm') + "end.wmv";
-    QVERIFY(progress.step(longName, 2, 100));
+    QTRY_VERIFY((progress.step(longName, 2, 100), label->text().startsWith("Copying start")));
     const QString name = label->text().section('\n', 0, 0);
-    QVERIFY2(name.startsWith("Copying start"), qPrintable(name));
     QVERIFY2(name.endsWith("end.wmv"), qPrintable(name));
     QCOMPARE(progress.width(), width);
 }
 
 void CopyProgressTest::cancelling() {
     CopyProgress progress(nullptr);
-    QTest::qWait(CopyProgress::delayMs + 50);
-    QVERIFY(progress.step("a", 1, 100));
+    QVERIFY(waitForIt(progress, "a", 1, 100));
     QTest::mouseClick(progress.findChild<QPushButton*>(), Qt::LeftButton);
     QVERIFY(!progress.step("a", 2, 100));
     QVERIFY(!progress.step("a", 3, 100)); // and never again

@@ -68,7 +68,7 @@ void DroppedFilesTest::surfaceRefusesWhatIsNoFile() {
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(editor.pic(), &drop); // by a source that did not ask first
     QVERIFY(!drop.isAccepted());
-    QTest::qWait(100);
+    settle();
     QCOMPARE(dialogs, QStringList());
     QVERIFY(editor.document() == SkinDocument());
 }
@@ -97,7 +97,7 @@ void DroppedFilesTest::eachDroppedFileGetsItsOwnName() {
         QCOMPARE(test::control<QLineEdit>(dialog, "txtRes").text(), QStringLiteral("alpha"));
     }));
     QVERIFY(activate(editor.window)); // the dialog is quite gone then
-    QTest::qWait(50);
+    settle();
     QVERIFY(inDialog(drop("beta.png"), "frmResources", [](QWidget& dialog) {
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); // Add
     }));

@@ -1,4 +1,4 @@
-// Working on the surface by mouse and keys: drawing, picking, moving, sizing, the pointer.
+// Working on the surface by mouse and keys: drawing, picking, moving, sizing, what the pointer
 // tells.
 #include "editing/hit_test.h"
 #include "support/editor.h"
@@ -6,6 +6,9 @@
 
 #include <QLabel>
 #include <QLineEdit>
+
+#include <functional>
+#include <utility>
 
 using namespace tarvel;
 using namespace tarvel::test;
@@ -41,6 +44,7 @@ class EditingTest : public QObject {
     void dragMovesByDifferences();
     void dragOutOfTheWindowAndBack();
     void escapeTakesADragBack();
+    void aDragEndsWithItsScreen();
     void handlesResize();
     void lineEndsAreHeldOnTheScreen();
     void arrowKeysStep_data();
@@ -50,8 +54,11 @@ class EditingTest : public QObject {
     void deleteWithoutASelection();
     void pointerTellsWhatAPressDoes();
     void positionFieldsMoveTheElement();
+    void escapeTakesBackWhatWasTypedAsAPosition();
     void anotherButtonDuringADragIsIgnored();
     void marksFollowTheSelection();
+    void aLockedLineHasNoMarks();
+    void rowsThatStayKeepTheirSelection();
 };
 
 void EditingTest::toolsAreChosenAndLetGo() {
@@ -274,6 +281,27 @@ void EditingTest::escapeTakesADragBack() {
     QCOMPARE(editor.selectedRow(1), 0);
 }
 
+void EditingTest::aDragEndsWithItsScreen() {
+    const QList<std::function<void(Editor&)>> ways = {
+        [](Editor& editor) { editor.document().setCurrentLayout(2); },
+        [](Editor& editor) {
+            const SkinDocument same = editor.document();
+            editor.document() = same; // as loading does
+        }};
+    for (const auto& leave : ways) {
+        Editor editor;
+        editor.show();
+        const int id = editor.add(boxAt(100, 100, 50, 50));
+        editor.press({120, 120});
+        editor.drag({130, 130});
+        QCOMPARE(placeOf(editor, id), Place4({110, 110, 50, 50}));
+        leave(editor);
+        editor.drag({200, 200});
+        editor.release({200, 200});
+        QCOMPARE(placeOf(editor, id), Place4({110, 110, 50, 50}));
+    }
+}
+
 void EditingTest::handlesResize() {
     struct Case {
         QPoint handle;
@@ -438,6 +466,26 @@ void EditingTest::positionFieldsMoveTheElement() {
     QVERIFY(!editor.find<QLineEdit>("txtL")->isEnabled());
 }
 
+void EditingTest::escapeTakesBackWhatWasTypedAsAPosition() {
+    Editor editor;
+    editor.show();
+    const int id = editor.add(boxAt(100, 90, 50, 50));
+    editor.selectRow(1, 0);
+    for (const auto& [name, text] : {std::pair("txtL", "100"), std::pair("txtT", "90")}) {
+        auto* edit = editor.find<QLineEdit>(name);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, QStringLiteral("7"));
+        QCOMPARE(edit->text(), QStringLiteral("7"));
+        QTest::keyClick(edit, Qt::Key_Escape);
+        QCOMPARE(edit->text(), QLatin1String(text));
+        QCOMPARE(edit->selectedText(), QLatin1String(text));
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    QCOMPARE(placeOf(editor, id), Place4({100, 90, 50, 50}));
+    QCOMPARE(editor.selectedRow(1), 0);
+}
+
 void EditingTest::anotherButtonDuringADragIsIgnored() {
     Editor editor;
     editor.show();
@@ -467,6 +515,36 @@ void EditingTest::marksFollowTheSelection() {
     QCOMPARE(editor.find<QWidget>("fraResize2")->geometry().center(), QPoint(400, 60));
     editor.entry("mnuDeSel")->trigger();
     QVERIFY(!editor.find<QWidget>("fraResize1")->isVisible());
+}
+
+void EditingTest::aLockedLineHasNoMarks() {
+    Editor editor;
+    editor.show();
+    editor.add(lineFrom(300, 50, 400, 60));
+    editor.selectRow(1, 0);
+    QVERIFY(editor.find<QWidget>("fraResize1")->isVisible());
+    editor.entry("mnuLocked")->trigger();
+    editor.selectRow(1, 0);
+    QCOMPARE(editor.selectedRow(1), 0);
+    for (const char* mark : {"fraSel", "fraResize1", "fraResize2"}) {
+        QVERIFY2(!editor.find<QWidget>(mark)->isVisible(), mark);
+    }
+}
+
+void EditingTest::rowsThatStayKeepTheirSelection() {
+    Editor editor;
+    editor.show();
+    for (const float left : {0.0F, 100.0F, 200.0F, 300.0F}) {
+        editor.add(boxAt(left, 10, 50, 50));
+    }
+    editor.selectRow(1, 2);
+    editor.document().delItem(0);
+    QCOMPARE(editor.selectedRow(1), 1);
+    editor.document().delItem(2);
+    QCOMPARE(editor.selectedRow(1), 1);
+    editor.document().addElement(boxAt(400, 10, 50, 50));
+    QCOMPARE(editor.selectedRow(1), 1);
+    QCOMPARE(editor.lst(1)->currentIndex().data(Qt::UserRole).toInt(), 3);
 }
 
 TARVEL_UI_TEST(EditingTest)

@@ -169,7 +169,8 @@ void FrmMainTest::panelsSlideToTheirPlaces() {
         });
     };
     QTRY_VERIFY_WITH_TIMEOUT(settled(), 3000);
-    QTest::qWait(100); // the slide has stopped, and its end agrees with the layout
+    // The slide has stopped, and its end agrees with the layout.
+    QVERIFY(waitForGliding(editor.window));
     QList<int> places;
     for (const char* name : names) {
         places << editor.find<QWidget>(name)->x();

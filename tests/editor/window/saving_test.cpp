@@ -138,7 +138,7 @@ void SavingTest::aFailingCopyIsToldAndEndsTheSave() {
     const SkinDocument before = editor.document();
     const DialogWatch watch;
     save(editor);
-    QTest::qWait(50);
+    settle();
     QCOMPARE(editor.prompts.messages, QStringList(problem + ": " + editor.path(file)));
     QCOMPARE(editor.prompts.lastOwner, &editor.window);
     QCOMPARE(watch.seen(), QStringList());
@@ -222,7 +222,7 @@ void SavingTest::progressIsGoneWhenAFailureIsTold() {
     QCOMPARE(editor.prompts.messages,
              QStringList("No such file or directory: " + editor.path("gone.wma")));
     QCOMPARE(besides, QStringList());
-    QTest::qWait(50);
+    settle();
     QCOMPARE(watch.seen(), QStringList("frmProgress"));
     QVERIFY(QFile::exists(editor.path("out/Media/big.bin")));
 }

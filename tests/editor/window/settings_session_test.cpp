@@ -17,8 +17,6 @@ using namespace tarvel::test;
 
 namespace {
 
-constexpr int settled = Easing::duration + 150; // until an animation is over, in milliseconds
-
 // The colours that the session chooses, by colour box, and the names that the file has for them.
 struct ChosenColor {
     const char* box;
@@ -166,7 +164,7 @@ void SettingsSessionTest::inertEntriesDoNothing() {
     const QImage surface = editor.pic()->grab().toImage();
     QVERIFY(choose(editor, QTest::currentDataTag()));
     QCOMPARE(editor.entry(QTest::currentDataTag())->isChecked(), ticked);
-    QTest::qWait(100);
+    settle();
     QVERIFY(editor.document() == before);
     QCOMPARE(editor.selectedRow(1), 0);
     QCOMPARE(editor.pic()->grab().toImage(), surface);
@@ -232,9 +230,9 @@ void SettingsSessionTest::setMusic(Editor& editor) {
     editor.prompts.fileChoices << files;
     QVERIFY(inDialog(editor, "mnuAudio", "frmMusic", [](QWidget& dialog) {
         click(control<QAbstractButton>(dialog, "optYesMusic"));
-        QTest::qWait(settled);
+        endGliding(dialog);
         click(control<QAbstractButton>(dialog, "chkCustom"));
-        QTest::qWait(settled);
+        endGliding(dialog);
         click(control<QAbstractButton>(dialog, "chkGlobal"));
         click(control<QAbstractButton>(dialog, "chkRandom"));
         click(control<QPushButton>(dialog, "cmdAdd"));

@@ -5,9 +5,12 @@
 #include "support/editor.h"
 #include "support/ui_test.h"
 
+#include <QComboBox>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QStatusBar>
+
+#include <utility>
 
 using namespace tarvel;
 using namespace tarvel::test;
@@ -33,6 +36,7 @@ class SkinFilesTest : public QObject {
     void loadOfAFolderWithoutASkin();
     void loadOfABrokenSkinLeavesTheDocument();
     void loadNamesResourcesOutsideTheFolder();
+    void noSizeIsTakenFromAResourceOutside();
     void saveAsksForANameFirst();
     void saveWritesTheFolderAndShowsInstructions();
     void saveCancelled();
@@ -132,6 +136,37 @@ void SkinFilesTest::loadNamesResourcesOutsideTheFolder() {
     QCOMPARE(editor.prompts.messages,
              QStringList("These resources lie outside the skin folder and are left out: a"));
     QCOMPARE(editor.window.document().settings().resources.size(), std::size_t{2});
+}
+
+// The first lies outside, the second in the folder; both are the same picture.
+void SkinFilesTest::noSizeIsTakenFromAResourceOutside() {
+    Editor editor;
+    editor.show();
+    const QString folder = editor.newFolder("outside/Media");
+    QImage picture(64, 32, QImage::Format_RGB32);
+    picture.fill(Qt::cyan);
+    QVERIFY(picture.save(folder + "/inside.png"));
+    QVERIFY(picture.save(editor.path("away.png")));
+    QFile file(editor.path("outside/QOR_Skin.xml"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<Skin name='x'><Resource Type='Image' Name='a'><File>..\\away.png</File></Resource>"
+               "<Resource Type='Image' Name='b'><File>Media\\inside.png</File></Resource></Skin>");
+    file.close();
+    editor.prompts.folders << editor.path("outside");
+    editor.entry("mnuLoad")->trigger();
+    for (const auto& [resource, size] :
+         {std::pair(QStringLiteral("a"), QSizeF(160, 120)), {QStringLiteral("b"), {64, 32}}}) {
+        editor.chooseTool("optImg");
+        auto* list = editor.find<QComboBox>("lstR");
+        list->setFocus(Qt::TabFocusReason);
+        while (list->currentText() != resource && list->currentIndex() < list->count() - 1) {
+            QTest::keyClick(list, Qt::Key_Down);
+        }
+        QCOMPARE(list->currentText(), resource);
+        editor.click({100, 100});
+        const ElementControl& made = editor.control(editor.document().lastElementId());
+        QCOMPARE(QSizeF(made.width, made.height), size);
+    }
 }
 
 void SkinFilesTest::saveAsksForANameFirst() {

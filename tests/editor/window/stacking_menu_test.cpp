@@ -1,9 +1,33 @@
 // The menus of the right button: what they open on, stacking and locking.
 #include "support/editor.h"
+#include "support/surface_support.h"
 #include "support/ui_test.h"
+#include "surface/picture_cache.h"
+
+#include <functional>
 
 using namespace tarvel;
 using namespace tarvel::test;
+
+namespace {
+
+// What the surface shows, without the marks that lie over it.
+QImage lookOf(Editor& editor) {
+    QImage image(skinWidth, skinHeight, QImage::Format_RGB32);
+    editor.pic()->render(&image, {}, {}, QWidget::RenderFlags());
+    return image;
+}
+
+// What a surface without any flat ground shows.
+QImage afresh(Editor& editor) {
+    PictureCache pictures;
+    SurfacePainter painter(pictures);
+    return painted(painter, editor.document(), editor.document().currentLayout());
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void(Editor&)>)
 
 class StackingMenuTest : public QObject {
     Q_OBJECT
@@ -12,6 +36,9 @@ class StackingMenuTest : public QObject {
     void rightButtonOpensTheMenus();
     void stackingCommands();
     void lockedElementsAreGround();
+    void groundFollowsWhatIsInIt_data();
+    void groundFollowsWhatIsInIt();
+    void groundOfAnotherScreenIsNeverShown();
     void unlockShowsAllAgain();
 };
 
@@ -120,6 +147,61 @@ void StackingMenuTest::lockedElementsAreGround() {
     editor.entry("mnuDelete")->trigger();
     QCOMPARE(editor.document().lockCount(1), 0);
     QTRY_COMPARE(editor.pic()->grab().toImage().pixelColor(30, 30), QColor(Qt::black));
+}
+
+void StackingMenuTest::groundFollowsWhatIsInIt_data() {
+    using Change = std::function<void(Editor&)>;
+    QTest::addColumn<Change>("change");
+    QTest::newRow("background") << Change([](Editor& editor) {
+        QImage picture(64, 48, QImage::Format_RGB32);
+        picture.fill(Qt::cyan);
+        const QString file = editor.path(QStringLiteral("back.bmp"));
+        QVERIFY(picture.save(file));
+        editor.document().editSettings([&](SkinSettings& settings) {
+            settings.background = {true, documentPath(hostPathOf(file))};
+        });
+    });
+    QTest::newRow("locked element") << Change([](Editor& editor) {
+        editor.document().editElement(
+            1, [](Element& element) { element.elementControl.fillColor = makeColor(0, 200, 0); });
+    });
+    QTest::newRow("another document") << Change([](Editor& editor) {
+        SkinDocument other = editor.document();
+        other.editElement(1, [](Element& element) { element.elementControl.left = 300; });
+        editor.document() = other;
+    });
+}
+
+void StackingMenuTest::groundFollowsWhatIsInIt() {
+    using Change = std::function<void(Editor&)>;
+    QFETCH(Change, change);
+    Editor editor;
+    editor.show();
+    editor.add(boxAt(10, 10, 200, 200));
+    editor.add(boxAt(100, 100, 50, 50));
+    editor.selectRow(1, 0);
+    editor.entry("mnuLocked")->trigger();
+    editor.entry("mnuDeSel")->trigger();
+    settle(); // the ground waits for the end of a command
+    QCOMPARE(lookOf(editor), afresh(editor));
+    const QImage before = lookOf(editor);
+    change(editor);
+    QVERIFY(afresh(editor) != before);
+    settle();
+    QCOMPARE(lookOf(editor), afresh(editor));
+}
+
+void StackingMenuTest::groundOfAnotherScreenIsNeverShown() {
+    Editor editor;
+    editor.show();
+    editor.add(boxAt(300, 300, 50, 50), 0);
+    editor.add(boxAt(10, 10, 200, 200), 1);
+    editor.selectRow(1, 0);
+    editor.entry("mnuLocked")->trigger();
+    settle();
+    QCOMPARE(lookOf(editor), afresh(editor));
+    editor.clickScreen(0);
+    QCOMPARE(lookOf(editor), afresh(editor)); // at once, before any event is dealt with
 }
 
 void StackingMenuTest::unlockShowsAllAgain() {

@@ -352,6 +352,7 @@ void WindowAccessTest::buttonsBySpace() {
     QCOMPARE(dialogs, QStringList("frmResources"));
     editor.window.activateWindow(); // no window manager does it
     QVERIFY(QTest::qWaitForWindowActive(&editor.window));
+    settle();
     tabTo(editor, "cmdStop");
     QSignalSpy stopped(editor.find<QPushButton>("cmdStop"), &QPushButton::clicked);
     press(Qt::Key_Space);

@@ -131,7 +131,8 @@ void WindowWorkTest::selectingDuringTheCoverShowsTheElement() {
     editor.add(lineFrom(100, 100, 200, 100));
     QTest::mouseClick(editor.find<QWidget>("optText"), Qt::LeftButton);
     editor.selectRow(1, 0);
-    QTest::qWait(300); // longer than the cover
+    QTRY_VERIFY(editor.find<QWidget>("picBox")->isHidden());
+    settle();
     QVERIFY(!editor.find<QWidget>("fraText")->isVisible());
     QVERIFY(editor.find<QPushButton>("cmdApply")->isEnabled());
 }
@@ -377,7 +378,9 @@ void WindowWorkTest::panelsComeFromBesideTheWindow() {
     QFETCH(bool, fromLeft);
     Editor editor;
     PaintLog log(*editor.window.findChild<QWidget*>(panel));
-    editor.show();
+    editor.window.show();
+    QSignalSpy arrived(editor.window.findChild<PanelSlide*>(), &PanelSlide::finished);
+    QTRY_COMPARE(arrived.size(), 1);
     QVERIFY(log.lefts.size() > 1);
     const QWidget* shown = editor.window.findChild<QWidget*>(panel);
     const int first = log.lefts.front();
