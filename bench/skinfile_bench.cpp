@@ -1,7 +1,7 @@
 // Reading and generating skins, against pugixml's bare parse and a bare loop of appends.
 #include "bench_support.h"
 #include "files/host_files.h"
-#include "skinfile/recovery.h"
+#include "skinfile/recovery_store.h"
 #include "skinfile/skin_reader.h"
 #include "skins.h"
 #include "text/number_format.h"
@@ -159,9 +159,10 @@ WorkState workOf(const benchmark::State& state) {
 void writeRecovery(benchmark::State& state) {
     const WorkState work = workOf(state);
     std::vector<double> times;
+    std::string buffer;
     std::size_t size = 0;
     for (auto _ : state) {
-        times.push_back(seconds([&] { size = recoveryBytes(work).size(); }));
+        times.push_back(seconds([&] { size = recoveryBytes(work, buffer).size(); }));
     }
     constexpr double limit = 0.010;
     state.counters["bytes_per_element"] =
@@ -176,8 +177,9 @@ void writeRecovery(benchmark::State& state) {
 void keepRecovery(benchmark::State& state) {
     const TemporaryFolder folder;
     const WorkState work = workOf(state);
+    RecoveryStore store(folder.path());
     for (auto _ : state) {
-        writeFile(folder.path() / "work", recoveryBytes(work));
+        store.keep(work);
     }
 }
 

@@ -383,15 +383,11 @@ SkinDocument readDocument(ByteReader& in) {
     return SkinDocument(std::move(parts));
 }
 
-std::size_t expectedBytes(const SkinDocument& document) {
-    return 4096 + static_cast<std::size_t>(document.lastElementId()) * 3 * elementBytes;
-}
-
 } // namespace
 
-std::string recoveryBytes(const WorkState& work) {
-    ByteWriter out;
-    out.reserve(expectedBytes(work.document));
+std::string_view recoveryBytes(const WorkState& work, std::string& buffer) {
+    ByteWriter out(buffer);
+    out.room(sealSize);
     out.value(work.keptAt);
     out.text(work.folder);
     writeDocument(out, work.document);
@@ -400,7 +396,13 @@ std::string recoveryBytes(const WorkState& work) {
         out.value(id);
     }
     out.value(work.leading);
-    return sealed(recoverySeal, out.bytes());
+    putSeal(buffer.data(), recoverySeal, out.bytes().substr(sealSize));
+    return out.bytes();
+}
+
+std::string recoveryBytes(const WorkState& work) {
+    std::string buffer;
+    return std::string(recoveryBytes(work, buffer));
 }
 
 WorkState readRecovery(std::string_view bytes) {

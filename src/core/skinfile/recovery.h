@@ -28,8 +28,9 @@ struct WorkState {
 
 inline constexpr Seal recoverySeal{.magic = "\x89TARVEL\n", .version = 1};
 
-/// The bytes of a recovery file. Floats keep every bit. Throws std::length_error for a text beyond
-/// 4 GB.
+/// The bytes of a recovery file, a view into the buffer, which grows as it has to. Floats keep
+/// every bit. Throws std::length_error for a text beyond 4 GB.
+[[nodiscard]] std::string_view recoveryBytes(const WorkState& work, std::string& buffer);
 [[nodiscard]] std::string recoveryBytes(const WorkState& work);
 
 /// The state in the bytes of a recovery file, equal to the one that was written. Throws

@@ -79,7 +79,7 @@ RecoveryStore::RecoveryStore(fs::path folder)
 
 void RecoveryStore::keep(const WorkState& work) {
     if (own_) {
-        writeFile(file_, recoveryBytes(work));
+        writeFile(file_, recoveryBytes(work, buffer_));
     }
 }
 

@@ -57,6 +57,7 @@ class RecoveryStore {
     std::filesystem::path file_;
     std::optional<HeldFile> own_; ///< until endProperly()
     std::vector<LostRun> lost_;
+    std::string buffer_; ///< of keep(), several times a minute
 };
 
 } // namespace tarvel

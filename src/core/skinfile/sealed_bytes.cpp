@@ -28,18 +28,6 @@ std::uint64_t checksum(std::string_view bytes, std::uint32_t version) {
 
 } // namespace
 
-void ByteWriter::count(std::size_t count) {
-    if (count > UINT32_MAX) {
-        throw std::length_error("more than 4 billion in one place");
-    }
-    value(static_cast<std::uint32_t>(count));
-}
-
-void ByteWriter::text(std::string_view text) {
-    count(text.size());
-    bytes_.append(text);
-}
-
 bool ByteReader::truth() {
     const auto byte = value<std::uint8_t>();
     if (byte > 1) {
@@ -87,15 +75,20 @@ std::string_view ByteReader::take(std::size_t size) {
     return taken;
 }
 
+void putSeal(char* place, const Seal& seal, std::string_view content) {
+    const std::uint64_t size = content.size();
+    const std::uint64_t sum = checksum(content, seal.version);
+    std::copy(seal.magic.begin(), seal.magic.end(), place);
+    place += seal.magic.size();
+    std::memcpy(place, &seal.version, sizeof seal.version);
+    std::memcpy(place + sizeof seal.version, &size, sizeof size);
+    std::memcpy(place + sizeof seal.version + sizeof size, &sum, sizeof sum);
+}
+
 std::string sealed(const Seal& seal, std::string_view content) {
-    ByteWriter head;
-    head.value(seal.version);
-    head.value(std::uint64_t{content.size()});
-    head.value(checksum(content, seal.version));
-    std::string bytes;
-    bytes.reserve(seal.magic.size() + head.bytes().size() + content.size());
-    bytes.append(seal.magic).append(head.bytes()).append(content);
-    return bytes;
+    std::string bytes(sealSize, '\0');
+    putSeal(bytes.data(), seal, content);
+    return bytes.append(content);
 }
 
 std::string_view unsealed(const Seal& seal, std::string_view bytes) {
@@ -103,16 +96,14 @@ std::string_view unsealed(const Seal& seal, std::string_view bytes) {
         throw SealedBytesError(seal.magic.starts_with(bytes) ? "The file is cut short"
                                                              : "The file is of another kind");
     }
-    bytes.remove_prefix(seal.magic.size());
-    constexpr std::size_t headSize = sizeof(std::uint32_t) + 2 * sizeof(std::uint64_t);
-    if (bytes.size() < headSize) {
+    if (bytes.size() < sealSize) {
         throw SealedBytesError("The file is cut short");
     }
-    ByteReader head(bytes.substr(0, headSize));
+    ByteReader head(bytes.substr(seal.magic.size()));
     const auto version = head.value<std::uint32_t>();
     const auto size = head.value<std::uint64_t>();
     const auto sum = head.value<std::uint64_t>();
-    bytes.remove_prefix(headSize);
+    bytes.remove_prefix(sealSize);
     if (version != seal.version) {
         throw SealedBytesError("The file is of another version of Tarvel");
     }
