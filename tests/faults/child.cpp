@@ -23,10 +23,10 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts) {
     return pointers;
 }
 
-std::vector<std::string> environmentOf(const ChildLimits& limits) {
-    std::vector<std::string> texts = limits.environment;
-    if (!limits.preload.empty()) {
-        texts.push_back("LD_PRELOAD=" + limits.preload);
+std::vector<std::string> environmentOf(const ChildOptions& options) {
+    std::vector<std::string> texts = options.environment;
+    if (!options.preload.empty()) {
+        texts.push_back("LD_PRELOAD=" + options.preload);
     }
     for (char** each = environ; *each != nullptr; ++each) {
         texts.emplace_back(*each);
@@ -36,10 +36,10 @@ std::vector<std::string> environmentOf(const ChildLimits& limits) {
 
 } // namespace
 
-Child::Child(const std::vector<std::string>& command, const ChildLimits& limits)
-    : secondsLeft_(limits.seconds) {
+Child::Child(const std::vector<std::string>& command, const ChildOptions& options)
+    : secondsLeft_(options.seconds) {
     auto words = command;
-    auto environment = environmentOf(limits);
+    auto environment = environmentOf(options);
     const auto arguments = pointersTo(words);
     const auto variables = pointersTo(environment);
     std::array<int, 2> err{};
@@ -101,8 +101,8 @@ ChildResult Child::wait() {
     return result;
 }
 
-ChildResult runChild(const std::vector<std::string>& command, const ChildLimits& limits) {
-    return Child(command, limits).wait();
+ChildResult runChild(const std::vector<std::string>& command, const ChildOptions& options) {
+    return Child(command, options).wait();
 }
 
 } // namespace tarvel::test

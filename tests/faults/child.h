@@ -17,7 +17,7 @@ struct ChildResult {
     long peakKilobytes = 0; ///< resident
 };
 
-struct ChildLimits {
+struct ChildOptions {
     std::string preload;                  ///< a library to load first; "" for none
     std::vector<std::string> environment; ///< more of it, "NAME=value"
     int seconds = 120;                    ///< it is killed then
@@ -26,7 +26,7 @@ struct ChildLimits {
 /// A started program. Its standard output goes nowhere, its error stream is kept.
 class Child {
   public:
-    explicit Child(const std::vector<std::string>& command, const ChildLimits& limits = {});
+    explicit Child(const std::vector<std::string>& command, const ChildOptions& options = {});
     ~Child();
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
@@ -45,6 +45,6 @@ class Child {
 };
 
 /// Runs it to its end.
-ChildResult runChild(const std::vector<std::string>& command, const ChildLimits& limits = {});
+ChildResult runChild(const std::vector<std::string>& command, const ChildOptions& options = {});
 
 } // namespace tarvel::test

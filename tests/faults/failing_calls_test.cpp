@@ -61,7 +61,7 @@ struct Fault {
         return kind + " " + std::to_string(number) + " " +
                (how == oneByte ? "short" : std::strerror(how)); // NOLINT: one thread
     }
-    [[nodiscard]] ChildLimits limits() const {
+    [[nodiscard]] ChildOptions options() const {
         return {.preload = TARVEL_FAIL_CALLS,
                 .environment = {"TARVEL_FAULT=" + kind + " " + std::to_string(number) + " " +
                                 (how == oneByte ? "short" : std::to_string(how))}};
@@ -116,7 +116,7 @@ TEST(FailingCalls, LeaveASkinWholeAndAreTold) {
     for (const Fault& fault : faultsOf(skins.save(1))) {
         SCOPED_TRACE(fault.name());
         skins.reset();
-        const ChildResult result = runChild(skins.save(1), fault.limits());
+        const ChildResult result = runChild(skins.save(1), fault.options());
         expectTrueMessage(fault, result);
         const bool mayStay = fault.kind == "unlink"; // a file that cannot be deleted
         EXPECT_EQ(skins.problem(!mayStay), "");
@@ -142,7 +142,7 @@ TEST(FailingCalls, LeaveTheRecoveryFileWholeAndAreTold) {
     for (const Fault& fault : faultsOf(command)) {
         SCOPED_TRACE(fault.name());
         fs::remove_all(place);
-        const ChildResult result = runChild(command, fault.limits());
+        const ChildResult result = runChild(command, fault.options());
         expectTrueMessage(fault, result);
         const auto lost = lostFiles(place);
         const bool keptOlder = result.err.find("kept older") != std::string::npos;
@@ -168,7 +168,7 @@ TEST(FailingCalls, NeverLoseTheRecoveryFileThatIsTakenUp) {
     for (const Fault& fault : faultsOf(command)) {
         SCOPED_TRACE(fault.name());
         reset();
-        const ChildResult result = runChild(command, fault.limits());
+        const ChildResult result = runChild(command, fault.options());
         EXPECT_EQ(result.signal, 0);
         if (isHarmless(fault.how)) {
             EXPECT_EQ(result.code, 0) << result.err;
