@@ -1,6 +1,7 @@
 // Reading and generating skins, against pugixml's bare parse and a bare loop of appends.
 #include "bench_support.h"
 #include "files/host_files.h"
+#include "skinfile/recovery_store.h"
 #include "skinfile/skin_reader.h"
 #include "skins.h"
 #include "text/number_format.h"
@@ -148,6 +149,47 @@ void copyDocument(benchmark::State& state) {
     }
 }
 
+WorkState workOf(const benchmark::State& state) {
+    WorkState work;
+    work.document = mixedSkin(static_cast<int>(state.range(0)), {.modifiers = state.range(1) != 0});
+    return work;
+}
+
+// What the event loop waits for when the state of the work is kept.
+void writeRecovery(benchmark::State& state) {
+    const WorkState work = workOf(state);
+    std::vector<double> times;
+    std::string buffer;
+    std::size_t size = 0;
+    for (auto _ : state) {
+        times.push_back(seconds([&] { size = recoveryBytes(work, buffer).size(); }));
+    }
+    constexpr double limit = 0.010;
+    state.counters["bytes_per_element"] =
+        static_cast<double>(size) / static_cast<double>(state.range(0));
+    state.counters["median_ms"] = median(times) * 1e3;
+    if (median(times) > limit) {
+        state.SkipWithError("keeping the work takes more than 10 ms");
+    }
+}
+
+// The same with the file: written beside, flushed and renamed.
+void keepRecovery(benchmark::State& state) {
+    const TemporaryFolder folder;
+    const WorkState work = workOf(state);
+    RecoveryStore store(folder.path());
+    for (auto _ : state) {
+        store.keep(work);
+    }
+}
+
+void readRecoveryBack(benchmark::State& state) {
+    const std::string bytes = recoveryBytes(workOf(state));
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(readRecovery(bytes));
+    }
+}
+
 } // namespace
 
 BENCHMARK(readSkinAgainstBareParse)
@@ -175,5 +217,18 @@ BENCHMARK(generateTextAgainstBareLoop)
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);
 BENCHMARK(copyDocument)->Arg(10'000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(writeRecovery)
+    ->ArgNames({"elements", "modifiers"})
+    ->ArgsProduct({{10'000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(keepRecovery)
+    ->ArgNames({"elements", "modifiers"})
+    ->ArgsProduct({{10'000}, {0, 1}})
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(readRecoveryBack)
+    ->ArgNames({"elements", "modifiers"})
+    ->ArgsProduct({{10'000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace tarvel::bench

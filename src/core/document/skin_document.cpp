@@ -32,6 +32,18 @@ void SystemColors::setTextColor(std::string_view text, std::size_t index) {
     }
 }
 
+SkinDocument::SkinDocument(DocumentParts&& parts) {
+    state_.currentLayout = parts.currentLayout;
+    state_.lastElementId = static_cast<int>(parts.elements.size());
+    state_.screenElementCount = parts.screenElementCount;
+    state_.lockCount = parts.lockCount;
+    for (std::size_t screen = 0; screen < parts.rows.size(); ++screen) {
+        state_.lst[screen] = SharedValue(std::move(parts.rows[screen]));
+    }
+    state_.elements = std::move(parts.elements);
+    state_.settings = SharedValue(std::move(parts.settings));
+}
+
 SkinDocument::SkinDocument(SkinDocument&& other) noexcept
     : state_(std::exchange(other.state_, {})) {}
 

@@ -17,6 +17,16 @@ inline constexpr int screenCount = 6;
 inline constexpr int skinWidth = 640;  // skin pixels
 inline constexpr int skinHeight = 480; // skin pixels
 
+/// All that a document holds, for one that is brought back as it was.
+struct DocumentParts {
+    int currentLayout = 1;
+    std::array<int, screenCount> screenElementCount{};
+    std::array<int, screenCount> lockCount{};
+    std::array<std::vector<int>, screenCount> rows; ///< ids of `elements`, none of them twice
+    SharedTable<Element> elements;                  ///< of id 1 onward, deleted ones included
+    SkinSettings settings;
+};
+
 /// A regular value: copies are independent and cheap, because they share what neither changes.
 ///
 /// Every element has an id from 1 upward that is never used again; id 0 is a slot without an
@@ -28,6 +38,7 @@ inline constexpr int skinHeight = 480; // skin pixels
 class SkinDocument {
   public:
     SkinDocument() = default;
+    explicit SkinDocument(DocumentParts&& parts);
     SkinDocument(const SkinDocument& other)
         : state_(other.state_) {}
     /// Leaves `other` as a new document.

@@ -348,6 +348,26 @@ void createFolder(const fs::path& path) {
     }
 }
 
+void createFolders(const fs::path& path) {
+    std::error_code error;
+    fs::create_directories(path, error);
+    if (error) {
+        throw FileError(error.value(), path);
+    }
+}
+
+void removeFile(const fs::path& path) {
+    if (::unlink(path.c_str()) != 0 && errno != ENOENT) {
+        throw FileError(errno, path);
+    }
+}
+
+void moveFile(const fs::path& from, const fs::path& to) {
+    if (::rename(from.c_str(), to.c_str()) != 0) {
+        throw FileError(errno, from);
+    }
+}
+
 std::string throughTempFile(const fs::path& folder, std::string_view text) {
     const fs::path path = folder / "temp.xml";
     constexpr int tries = 2500; // of 2 ms

@@ -60,6 +60,15 @@ bool copyFile(const std::filesystem::path& from, const std::filesystem::path& to
 /// Makes a folder; that it exists already is no failure.
 void createFolder(const std::filesystem::path& path);
 
+/// Makes a folder and all above it that are missing.
+void createFolders(const std::filesystem::path& path);
+
+/// Deletes a file; that there is none is no failure.
+void removeFile(const std::filesystem::path& path);
+
+/// Renames a file within its file system; one that has the new name already is replaced.
+void moveFile(const std::filesystem::path& from, const std::filesystem::path& to);
+
 /// Saves the text as "temp.xml" in the folder, reads it back and deletes the file. The file is held
 /// exclusively meanwhile; other holders are waited for, and a stale file is no obstacle.
 [[nodiscard]] std::string throughTempFile(const std::filesystem::path& folder,

@@ -1,0 +1,34 @@
+// A file that one process holds at a time, however that process ends.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+namespace tarvel {
+
+/// Holds a file until it is destroyed or its process ends, killed or not. The file has no content;
+/// it stays when the hold ends, unless it was removed through the hold.
+class HeldFile {
+  public:
+    /// Makes the file when it is missing; nothing when somebody else holds it, this process
+    /// included. Throws FileError.
+    [[nodiscard]] static std::optional<HeldFile> tryHold(const std::filesystem::path& path);
+
+    HeldFile(HeldFile&& other) noexcept;
+    HeldFile& operator=(HeldFile&& other) noexcept;
+    HeldFile(const HeldFile&) = delete;
+    HeldFile& operator=(const HeldFile&) = delete;
+    ~HeldFile();
+
+    /// Deletes the file and lets go. What cannot be deleted stays, and the next holder finds it.
+    void remove() noexcept;
+
+  private:
+    HeldFile(std::filesystem::path path, int descriptor);
+    void letGo() noexcept;
+
+    std::filesystem::path path_;
+    int descriptor_;
+};
+
+} // namespace tarvel

@@ -1,0 +1,163 @@
+// Names, holds and the order of the files in the folder of recovery.
+#include "skinfile/recovery_store.h"
+
+#include "files/host_files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <set>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace tarvel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* workSuffix = ".recovery";
+constexpr const char* lockSuffix = ".lock";
+constexpr const char* asideSuffix = ".unreadable";
+
+fs::path withSuffix(fs::path stem, const char* suffix) {
+    stem += suffix;
+    return stem;
+}
+
+std::string runName() {
+    using std::chrono::milliseconds;
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const auto time = std::chrono::duration_cast<milliseconds>(now).count();
+    return "run-" + std::to_string(time) + "-" + std::to_string(::getpid());
+}
+
+// The runs with a file in the folder, as paths without suffix.
+std::set<fs::path> runsIn(const fs::path& folder) {
+    std::set<fs::path> stems;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const fs::path& path = entry->path();
+        const bool isOurs = path.extension() == workSuffix || path.extension() == lockSuffix;
+        if (isOurs && path.filename().string().starts_with("run-")) {
+            stems.insert(folder / path.stem());
+        }
+    }
+    return stems;
+}
+
+bool isFile(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(fs::symlink_status(path, error));
+}
+
+fs::file_time_type timeOf(const fs::path& path) {
+    std::error_code error;
+    return fs::last_write_time(path, error);
+}
+
+} // namespace
+
+RecoveryStore::RecoveryStore(fs::path folder)
+    : folder_(std::move(folder)) {
+    createFolders(folder_);
+    constexpr int tries = 1000;
+    const std::string name = runName();
+    for (int i = 0; !own_; ++i) {
+        const fs::path stem = folder_ / (i == 0 ? name : name + "-" + std::to_string(i));
+        file_ = withSuffix(stem, workSuffix);
+        auto hold = HeldFile::tryHold(withSuffix(stem, lockSuffix));
+        if (hold && !isFile(file_)) {
+            own_ = std::move(hold);
+        } else if (i == tries) {
+            throw FileError(EBUSY, folder_);
+        }
+    }
+}
+
+void RecoveryStore::keep(const WorkState& work) {
+    if (own_) {
+        writeFile(file_, recoveryBytes(work, buffer_));
+    }
+}
+
+std::vector<fs::path> RecoveryStore::takeLost() {
+    for (const fs::path& stem : runsIn(folder_)) {
+        findLostRun(stem);
+    }
+    std::vector<std::pair<fs::file_time_type, fs::path>> found;
+    for (const LostRun& run : lost_) {
+        found.emplace_back(timeOf(run.file), run.file);
+    }
+    std::sort(found.rbegin(), found.rend());
+    std::vector<fs::path> files;
+    for (auto& [time, file] : found) {
+        files.push_back(std::move(file));
+    }
+    return files;
+}
+
+// Nothing of a run can be lost that still holds its lock: then it lives, or another store has it.
+void RecoveryStore::findLostRun(const fs::path& stem) {
+    try {
+        auto hold = HeldFile::tryHold(withSuffix(stem, lockSuffix));
+        if (!hold) {
+            return;
+        }
+        fs::path file = withSuffix(stem, workSuffix);
+        if (isFile(file)) {
+            lost_.push_back({std::move(file), std::move(*hold)});
+        } else {
+            hold->remove(); // it kept nothing
+        }
+    } catch (const FileError&) {
+        return; // somebody else's, who shares the folder
+    }
+}
+
+WorkState RecoveryStore::read(const fs::path& lost) {
+    return readRecovery(readFile(lost));
+}
+
+void RecoveryStore::forget(const fs::path& lost) {
+    removeFile(lost);
+    letGo(lost);
+}
+
+fs::path RecoveryStore::setAside(const fs::path& lost) {
+    const fs::path stem = folder_ / lost.stem();
+    fs::path target = withSuffix(stem, asideSuffix);
+    for (int i = 2; fs::exists(fs::symlink_status(target)); ++i) {
+        target = withSuffix(stem, ("-" + std::to_string(i) + asideSuffix).c_str());
+    }
+    moveFile(lost, target);
+    letGo(lost);
+    return target;
+}
+
+void RecoveryStore::letGo(const fs::path& lost) {
+    const auto run = std::find_if(lost_.begin(), lost_.end(),
+                                  [&](const LostRun& each) { return each.file == lost; });
+    if (run != lost_.end()) {
+        run->hold.remove();
+        lost_.erase(run);
+    }
+}
+
+void RecoveryStore::endProperly() {
+    std::error_code ignored;
+    for (LostRun& run : lost_) {
+        if (fs::remove(run.file, ignored) || !ignored) {
+            run.hold.remove();
+        }
+    }
+    lost_.clear();
+    if (own_ && (fs::remove(file_, ignored) || !ignored)) {
+        own_->remove();
+    }
+    own_.reset();
+}
+
+} // namespace tarvel

@@ -1,0 +1,84 @@
+// A file that one holds at a time.
+#include "files/held_file.h"
+#include "files/host_files.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace tarvel {
+namespace {
+
+TEST(HeldFile, IsHeldByOneAtATime) {
+    const TemporaryFolder folder;
+    const auto path = folder / "lock";
+    auto first = HeldFile::tryHold(path);
+    ASSERT_TRUE(first);
+    EXPECT_FALSE(HeldFile::tryHold(path));
+    HeldFile moved = std::move(*first);
+    first.reset();
+    EXPECT_FALSE(HeldFile::tryHold(path));
+    moved.remove();
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_TRUE(HeldFile::tryHold(path));
+    EXPECT_TRUE(std::filesystem::exists(path)); // it stays when the hold ends
+    EXPECT_TRUE(HeldFile::tryHold(path));
+}
+
+TEST(HeldFile, DoesNotPassToProgramsThatAreStarted) {
+    const TemporaryFolder folder;
+    auto held = HeldFile::tryHold(folder / "lock");
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::execlp("sleep", "sleep", "60", nullptr); // NOLINT: variadic by POSIX
+        ::_exit(1);
+    }
+    held.reset();
+    // Until it runs sleep, the child is a copy of this process with the same open files.
+    bool isFree = false;
+    for (int i = 0; i < 500 && !isFree; ++i) {
+        isFree = HeldFile::tryHold(folder / "lock").has_value();
+        ::usleep(10'000);
+    }
+    EXPECT_TRUE(isFree);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+}
+
+TEST(HeldFile, IsNeverHeldTwiceWhileHoldersDeleteIt) {
+    const TemporaryFolder folder;
+    std::atomic<int> holders = 0;
+    std::atomic<int> holds = 0;
+    std::atomic<bool> together = false;
+    const auto work = [&] {
+        for (int i = 0; i < 3000; ++i) {
+            if (auto held = HeldFile::tryHold(folder / "lock")) {
+                together = together || ++holders != 1;
+                ++holds;
+                --holders;
+                held->remove();
+            }
+        }
+    };
+    std::thread other(work);
+    work();
+    other.join();
+    EXPECT_FALSE(together);
+    EXPECT_GT(holds, 100);
+}
+
+TEST(HeldFile, SaysWhyItCannotBe) {
+    const TemporaryFolder folder;
+    EXPECT_THROW(static_cast<void>(HeldFile::tryHold(folder / "none/lock")), FileError);
+    std::filesystem::create_symlink(folder / "elsewhere", folder / "link");
+    EXPECT_THROW(static_cast<void>(HeldFile::tryHold(folder / "link")), FileError);
+    EXPECT_FALSE(std::filesystem::exists(folder / "elsewhere"));
+}
+
+} // namespace
+} // namespace tarvel
