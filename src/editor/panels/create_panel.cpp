@@ -17,6 +17,7 @@ CreatePanel::CreatePanel(QWidget* parent)
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const KindLook::Tool& tool = kindLooks[i]->tool;
         auto* button = new QToolButton;
+        beRadioButton(*button); // before anything about it is told
         button->setObjectName(QLatin1String(tool.name));
         button->setText(QLatin1String(tool.caption));
         button->setAccessibleName(button->text());
@@ -25,7 +26,6 @@ CreatePanel::CreatePanel(QWidget* parent)
         button->setIconSize({20, 20});
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setCheckable(true);
-        beRadioButton(*button);
         button->setFocusPolicy(Qt::StrongFocus);
         connect(button, &QToolButton::clicked, this, [this, i] { clicked(i); });
         row->addWidget(button);

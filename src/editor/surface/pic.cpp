@@ -54,8 +54,8 @@ Pic::Pic(PictureCache& pictures, QWidget* parent)
     , pictures_(pictures)
     , painter_(pictures) {
     setObjectName("Pic");
+    beCanvas(*this); // before anything about it is told
     setAccessibleName(tr("Drawing surface"));
-    beCanvas(*this);
     setFixedSize(mapping_.screen().size().toSize());
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

@@ -6,7 +6,8 @@ class QWidget;
 
 namespace tarvel {
 
-/// The widget is a picture that is worked on, with its accessible description as its words.
+/// To be called before anything else about the widget is told to those who listen. The widget is a
+/// picture that is worked on, with its accessible description as its words.
 void beCanvas(QWidget& widget);
 
 /// The checkable button is one of several of which at most one is chosen.
