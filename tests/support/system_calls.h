@@ -11,7 +11,9 @@ struct SystemCalls {
     int flushes = 0;   // of files, through fsync
     int failFlush = 0; // the one of them that finds the disk full; 0 for none
     int folderFlushes = 0;
-    int opens = 0;                           // of files and folders
+    int opens = 0; // of files and folders
+    int writes = 0;
+    int cuts = 0;                            // by ftruncate
     bool interrupted = false;                // a signal breaks into every other call of each kind
     std::map<std::string, int> signalsTaken; // by the call
 };

@@ -54,8 +54,11 @@ bool SkinFileCommands::saveInto(const QString& folder) {
                         std::uintmax_t total) { return progress.step(file, done, total); }};
     const SaveOutcome outcome = saveSkin(document_, writer, hostPathOf(folder), hooks);
     progress.hide();
-    if (!outcome.leftOut.empty()) {
-        prompts_.message(surroundings_.window, qtText(outsideMessage(outcome.leftOut)));
+    for (const std::string& message :
+         {outsideMessage(outcome.leftOut), sharedNamesMessage(outcome.sharedNames)}) {
+        if (!message.empty()) {
+            prompts_.message(surroundings_.window, qtText(message));
+        }
     }
     if (!outcome.succeeded()) {
         emit told(outcome.writeProblem.empty()
@@ -96,7 +99,7 @@ void SkinFileCommands::loadFrom(const QString& folder) {
 }
 
 void SkinFileCommands::mnuView_Click() {
-    SkinWriter writer(surroundings_.programFolder);
+    SkinWriter writer;
     try {
         writer.generateXML(document_);
         auto* window = new XmlWindow(qtText(writer.xmlText()), surroundings_.window);

@@ -271,6 +271,15 @@ TEST(ThroughTempFile, GivesTheTextBackAndDeletesTheFile) {
     EXPECT_EQ(entriesOf(folder.path()), 0U);
 }
 
+TEST(ThroughTempFile, BringsNothingToTheDisk) {
+    const TemporaryFolder folder;
+    systemCalls = {};
+    EXPECT_EQ(throughTempFile(folder.path(), "<a/>"), "<a/>");
+    EXPECT_EQ(systemCalls.writes, 1);
+    EXPECT_EQ(systemCalls.flushes + systemCalls.folderFlushes, 0);
+    EXPECT_EQ(systemCalls.cuts, 0); // a file that was cut is brought to the disk when it is closed
+}
+
 TEST(ThroughTempFile, PassesOverAStaleFile) {
     const TemporaryFolder folder;
     folder.file("temp.xml", std::string(5000, 's'));

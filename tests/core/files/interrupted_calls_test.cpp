@@ -62,6 +62,7 @@ ssize_t read(int descriptor, void* data, size_t size) {
 }
 
 ssize_t write(int descriptor, const void* data, size_t size) {
+    ++tarvel::systemCalls.writes;
     return isInterrupted("write") ? -1 : ::syscall(SYS_write, descriptor, data, size);
 }
 
@@ -73,6 +74,7 @@ int lockCall(int descriptor, int operation) noexcept {
 }
 
 int ftruncate(int descriptor, off_t size) noexcept {
+    ++tarvel::systemCalls.cuts;
     return isInterrupted("ftruncate")
                ? -1
                : static_cast<int>(::syscall(SYS_ftruncate, descriptor, size));
