@@ -12,6 +12,7 @@
 #include "widgets/copy_progress.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
+#include "widgets/usable_files.h"
 #include "widgets/wait_cursor.h"
 #include "window/xml_window.h"
 
@@ -114,7 +115,8 @@ void SkinFileCommands::mnuView_Click() {
 void SkinFileCommands::mnuLoadBg_Click() {
     const QStringList files =
         prompts_.files(surroundings_.window, QStringLiteral("JPG|*.jpg|BMP|*.bmp"), false);
-    if (files.isEmpty() || files.front().isEmpty()) {
+    if (files.isEmpty() || files.front().isEmpty() ||
+        usableFiles(files, prompts_, surroundings_.window).isEmpty()) {
         return;
     }
     const OpenEdit edit(document_, std::string(step::loadBackground));
