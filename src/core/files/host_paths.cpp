@@ -36,9 +36,9 @@ bool isThere(const std::string& path) {
     return ::stat(path.c_str(), &result) == 0;
 }
 
-// True for a path that no look-up can find in another spelling.
-bool staysAsSpelt(const std::string& spelt) {
-    return spelt.size() > longestPath || spelt.find('\0') != std::string::npos || isThere(spelt);
+// True for what can be no path at all.
+bool isNoPath(const std::string& spelt) {
+    return spelt.size() > longestPath || spelt.find('\0') != std::string::npos;
 }
 
 template <class Visit> void forEachPart(std::string_view path, Visit&& visit) {
@@ -167,7 +167,7 @@ std::string backslashProblem(std::string_view beginning, const fs::path& path) {
 
 fs::path hostPath(std::string_view documentPath) {
     std::string spelt = slashed(documentPath);
-    return staysAsSpelt(spelt) ? std::move(spelt) : spelledByTheDisk(spelt);
+    return isNoPath(spelt) || isThere(spelt) ? std::move(spelt) : spelledByTheDisk(spelt);
 }
 
 std::string documentPath(const fs::path& path) {
@@ -211,12 +211,16 @@ fs::path writtenPath(const fs::path& folder, const fs::path& target) {
 }
 
 fs::path FileFinder::hostPath(std::string_view documentPath) {
-    return located(slashed(documentPath));
+    return located(slashed(documentPath)).path;
 }
 
 bool FileFinder::FileExists(std::string_view path) {
+    const Found found = located(slashed(path));
+    if (!found.isThere) {
+        return false;
+    }
     std::error_code error;
-    const auto status = fs::status(hostPath(path), error);
+    const auto status = fs::status(found.path, error);
     return !error && fs::exists(status) && !fs::is_directory(status);
 }
 
@@ -225,7 +229,8 @@ bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
     if (isSpeltOutside(folder, spelt)) {
         return true;
     }
-    const auto real = realPath(located(folder.native() + '/' + spelt));
+    const Found found = located(folder.native() + '/' + spelt);
+    const auto real = found.isThere ? realPath(found.path) : std::nullopt;
     if (!real) {
         return false;
     }
@@ -236,24 +241,31 @@ bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
     return realRoot_.empty() || !isBelow(realRoot_, *real);
 }
 
-std::string FileFinder::located(const std::string& spelt) {
-    if (staysAsSpelt(spelt)) {
-        return spelt;
+FileFinder::Found FileFinder::located(const std::string& spelt) {
+    if (isNoPath(spelt)) {
+        return {spelt, false};
     }
     const auto slash = spelt.rfind('/');
     if (slash == std::string::npos || slash + 1 == spelt.size()) {
-        return spelledByTheDisk(spelt);
+        std::string path = spelledByTheDisk(spelt);
+        const bool there = isThere(path);
+        return {std::move(path), there};
     }
-    const std::string_view start = std::string_view(spelt).substr(0, slash + 1);
     const std::string_view name = std::string_view(spelt).substr(slash + 1);
-    Folder& folder = folderOf(start);
+    Folder& folder = folderOf(std::string_view(spelt).substr(0, slash + 1));
     std::string path = folder.spelling + std::string(name);
-    if (folder.spelling != start && isThere(path)) {
-        return path;
+    if (folder.entries == nullptr && isThere(path)) {
+        return {std::move(path), true};
     }
     const Entries& entries = entriesOf(folder);
     const auto entry = entries.find(lowerCased(name));
-    return entry == entries.end() ? path : folder.spelling + entry->second;
+    if (entry == entries.end()) {
+        return {std::move(path), false};
+    }
+    if (entry->second == name || isThere(path)) {
+        return {std::move(path), true};
+    }
+    return {folder.spelling + entry->second, true};
 }
 
 FileFinder::Folder& FileFinder::folderOf(std::string_view spelt) {

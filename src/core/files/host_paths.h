@@ -48,8 +48,8 @@ namespace tarvel {
                                                 const std::filesystem::path& target);
 
 /// hostPath() and leadsOutside() for many files, in time that grows as their number: which files a
-/// folder holds is read once. What comes or goes meanwhile may be missed where letter case differs,
-/// so a finder serves one piece of work and goes.
+/// folder holds is read once. What comes meanwhile may be missed, so a finder serves one piece of
+/// work and goes.
 class FileFinder {
   public:
     [[nodiscard]] std::filesystem::path hostPath(std::string_view documentPath);
@@ -63,7 +63,12 @@ class FileFinder {
         const Entries* entries = nullptr; // known once they are needed
     };
 
-    [[nodiscard]] std::string located(const std::string& spelt);
+    struct Found {
+        std::string path;
+        bool isThere = false;
+    };
+
+    [[nodiscard]] Found located(const std::string& spelt);
     [[nodiscard]] Folder& folderOf(std::string_view spelt);
     [[nodiscard]] const Entries& entriesOf(Folder& folder);
 

@@ -51,6 +51,7 @@ class Planner {
     // A place that a copy goes to.
     struct Place {
         fs::path path;
+        std::optional<FileId> target; // what lies there
         std::optional<FileId> source; // of the first copy that goes there
         bool isShared = false;
     };
@@ -87,7 +88,6 @@ class Planner {
         const auto sourceId = idOf(copy.from);
         Place& place = placeOf(below, name, sourceId);
         copy.to = place.path;
-        const auto targetId = idOf(place.path);
         if (sourceId) {
             sources_.try_emplace(*sourceId, copy.from);
             if (place.source != sourceId && !std::exchange(place.isShared, true)) {
@@ -95,11 +95,11 @@ class Planner {
             }
         }
         if (source == prefix_ + std::string(below).append(name) ||
-            (sourceId && sourceId == targetId)) {
+            (sourceId && sourceId == place.target)) {
             return; // it lies there already
         }
-        if (sourceId && targetId) {
-            taken_.emplace_back(*targetId, copy.from);
+        if (sourceId && place.target) {
+            taken_.emplace_back(*place.target, copy.from);
         }
         plan_.copies.push_back(std::move(copy));
     }
@@ -108,12 +108,12 @@ class Planner {
                    const std::optional<FileId>& source) {
         const std::string folder = prefix_ + std::string(below);
         fs::path path = finder_.hostPath(folder + std::string(name));
-        const bool isNew = !idOf(path);
+        const auto target = idOf(path);
         // What does not exist yet is found by the name of the copy that makes it.
-        const std::string key = isNew ? folder + lowerCased(name) : path.string();
+        const std::string key = target ? path.string() : folder + lowerCased(name);
         const auto [place, isFirst] = places_.try_emplace(key);
         if (isFirst) {
-            place->second = {writtenPath(folder_, path), source};
+            place->second = {target ? writtenPath(folder_, path) : path, target, source};
         }
         if (!place->second.source) {
             place->second.source = source;
