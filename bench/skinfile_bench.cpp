@@ -2,11 +2,14 @@
 #include "bench_support.h"
 #include "files/host_files.h"
 #include "skinfile/recovery_store.h"
+#include "skinfile/skin_check.h"
 #include "skinfile/skin_reader.h"
 #include "skins.h"
 #include "text/number_format.h"
 
 #include <pugixml.hpp>
+
+#include <cstdio>
 
 namespace tarvel::bench {
 
@@ -141,6 +144,62 @@ void generateTextAgainstBareLoop(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
+// As many resources as images, each image with one of its own. Their files are missing.
+void readResourcesAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = imagesSkin(static_cast<int>(state.range(0)));
+    compareWithBareParse(state, writeInto(folder.path(), skin));
+}
+
+void checkResourcesAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = imagesSkin(static_cast<int>(state.range(0)));
+    const auto file = writeInto(folder.path(), skin);
+    comparePairs(
+        state, [&] { benchmark::DoNotOptimize(checkSkin(folder.path())); },
+        [&] {
+            pugi::xml_document document;
+            document.load_file(file.c_str());
+            benchmark::DoNotOptimize(document);
+        });
+    state.SetComplexityN(state.range(0));
+}
+
+// One File text of many parts, which is no longer than a path can be.
+void readManyPartsAgainstBareParse(benchmark::State& state) {
+    const TemporaryFolder folder;
+    std::string text = "<Skin name=\"Benchmark\"><Resource Type=\"Image\" Name=\"a\"><File>";
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+        text += ".\\";
+    }
+    writeFile(folder.path() / skinFileName, text + "x.png</File></Resource></Skin>");
+    compareWithBareParse(state, folder.path() / skinFileName);
+}
+
+// Each modifier through "temp.xml", against making, writing and removing such a file.
+void generateModifiersAgainstBareFiles(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)), {.modifiers = true});
+    const std::string block(400, 'x');
+    const auto file = folder.path() / "temp.xml";
+    comparePairs(
+        state,
+        [&] {
+            SkinWriter writer(folder.path());
+            writer.generateXML(skin);
+            benchmark::DoNotOptimize(writer.xmlText().data());
+        },
+        [&] {
+            for (std::int64_t i = 0; i < state.range(0); ++i) {
+                std::FILE* opened = std::fopen(file.c_str(), "w");
+                (void)std::fwrite(block.data(), 1, block.size(), opened);
+                (void)std::fclose(opened);
+                (void)std::remove(file.c_str());
+            }
+        });
+    state.SetComplexityN(state.range(0));
+}
+
 void copyDocument(benchmark::State& state) {
     const SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
     for (auto _ : state) {
@@ -213,6 +272,32 @@ BENCHMARK(readForeignLastLineAgainstBareParse)
 BENCHMARK(generateTextAgainstBareLoop)
     ->RangeMultiplier(10)
     ->Range(100, 100'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(readResourcesAgainstBareParse)
+    ->Arg(5'000)
+    ->Arg(20'000)
+    ->Arg(80'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(checkResourcesAgainstBareParse)
+    ->Arg(5'000)
+    ->Arg(20'000)
+    ->Arg(80'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(readManyPartsAgainstBareParse)
+    ->Arg(500)
+    ->Arg(1'900)
+    ->Arg(100'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(generateModifiersAgainstBareFiles)
+    ->Arg(10'000)
+    ->Arg(40'000)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
     ->Complexity(benchmark::oN);

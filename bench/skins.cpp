@@ -3,6 +3,7 @@
 
 #include "document/element_factory.h"
 #include "document/layout_screens.h"
+#include "files/host_files.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
 
@@ -105,6 +106,20 @@ SkinDocument mixedSkin(int count, const SkinKind& kind) {
     return document;
 }
 
+SkinDocument imagesSkin(int count) {
+    SkinDocument document;
+    document.editSettings([](SkinSettings& settings) { settings.skinName = "Benchmark"; });
+    for (int number = 0; number < count; ++number) {
+        const std::string name = "picture" + std::to_string(number);
+        document.addRes(name, "\\nowhere\\" + name + ".png");
+        Element element = elementOf(number);
+        element.elementKind = ElementKind::Image;
+        element.imageSource = name;
+        document.addElement(std::move(element));
+    }
+    return document;
+}
+
 TemporaryFolder::TemporaryFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "tarvel-bench-XXXXXX").string();
     if (::mkdtemp(name.data()) == nullptr) {
@@ -124,6 +139,15 @@ std::filesystem::path saveInto(const std::filesystem::path& folder, SkinDocument
         throw std::runtime_error("the benchmark's skin cannot be saved");
     }
     return skinFilePath(folder);
+}
+
+std::filesystem::path writeInto(const std::filesystem::path& folder, const SkinDocument& document) {
+    SkinWriter writer;
+    SkinDocument copy = document;
+    writer.generateXML(copy);
+    writeFile(folder / skinFileName, skinFileBytes(writer.xmlText()));
+    std::filesystem::create_directory(folder / "Media");
+    return folder / skinFileName;
 }
 
 } // namespace tarvel::bench

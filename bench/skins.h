@@ -19,6 +19,9 @@ struct SkinKind {
 /// conditions and timers.
 SkinDocument mixedSkin(int count, const SkinKind& kind = {});
 
+/// A document of `count` images, each with a resource of its own, whose files nobody has made.
+SkinDocument imagesSkin(int count);
+
 /// A folder of its own in the host's temporary folder, removed at the end.
 class TemporaryFolder {
   public:
@@ -35,5 +38,8 @@ class TemporaryFolder {
 
 /// Saves the skin into the folder and returns the path of its QOR_Skin.xml.
 std::filesystem::path saveInto(const std::filesystem::path& folder, SkinDocument& document);
+
+/// The same without the files of its resources.
+std::filesystem::path writeInto(const std::filesystem::path& folder, const SkinDocument& document);
 
 } // namespace tarvel::bench

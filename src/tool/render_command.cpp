@@ -16,7 +16,6 @@
 #include <QPainter>
 #include <QTimer>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <stdexcept>
@@ -26,28 +25,13 @@ namespace tarvel::tool {
 
 namespace {
 
-std::vector<int> videosOf(const SkinDocument& document, int screen) {
-    std::vector<int> ids;
-    for (int row = 0; row < document.rowCount(screen); ++row) {
-        const int id = document.itemData(screen, row);
-        if (document.element(id).elementControl.kind == ControlKind::vid) {
-            ids.push_back(id);
-        }
-    }
-    return ids;
-}
-
 // Lets the videos of the screen come to their first frame, or to a word why there is none.
-void awaitVideos(VideoStage& stage, const SkinDocument& document, int screen) {
-    const std::vector<int> ids = videosOf(document, screen);
-    const auto isSettled = [&](int id) {
-        return !stage.frame(id).isNull() || !stage.problem(id).isEmpty();
-    };
+void awaitVideos(const VideoStage& stage, const SkinDocument& document) {
     constexpr int longestMs = 5000;
     const QDeadlineTimer deadline(longestMs);
     QTimer wake; // so that the wait ends even when no event comes
     wake.start(50);
-    while (!std::all_of(ids.begin(), ids.end(), isSettled) && !deadline.hasExpired()) {
+    while (!stage.isSettled(document) && !deadline.hasExpired()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
@@ -56,7 +40,7 @@ QImage screenImage(const SkinDocument& document, int screen) {
     PictureCache pictures;
     VideoStage videos;
     videos.show(document, screen);
-    awaitVideos(videos, document, screen);
+    awaitVideos(videos, document);
     SurfacePainter painter(pictures);
     painter.setVideoFrames(&videos);
     QImage image(skinWidth, skinHeight, QImage::Format_RGB32);

@@ -56,14 +56,20 @@ ExitCode save(SkinDocument& document, const std::filesystem::path& out, Output o
     const SaveHooks hooks{.showProblem = [&](const auto& text) { problems.push_back(text); },
                           .progress = {}};
     const SaveOutcome outcome = saveSkin(document, writer, out, hooks);
-    if (!outcome.textWritten) {
-        problems = {outcome.writeProblem}; // whatever else fails has the same cause
+    // Whatever else fails has the same cause.
+    if (!outcome.writeProblem.empty()) {
+        problems = {outcome.writeProblem};
+    } else if (!outcome.folderProblems.empty()) {
+        problems = outcome.folderProblems;
     }
     for (const std::string& problem : problems) {
         complain(output, problem);
     }
-    if (!outcome.leftOut.empty()) {
-        complain(output, outsideMessage(outcome.leftOut));
+    for (const std::string& message :
+         {outsideMessage(outcome.leftOut), sharedNamesMessage(outcome.sharedNames)}) {
+        if (!message.empty()) {
+            complain(output, message);
+        }
     }
     return outcome.succeeded() ? done : findings;
 }
@@ -94,7 +100,7 @@ ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& ou
 
 ExitCode check(const std::filesystem::path& folder, Output output) {
     try {
-        const auto lines = checkSkin(folder, programFolder());
+        const auto lines = checkSkin(folder);
         for (const std::string& line : lines) {
             output.out << line << '\n';
         }

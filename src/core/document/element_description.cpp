@@ -1,6 +1,7 @@
 // Walks over the children and the attributes of a description.
 #include "document/element_description.h"
 
+#include "text/tag_scanner.h"
 #include "text/text_case.h"
 #include "text/value_encodings.h"
 
@@ -38,9 +39,10 @@ void ElementDescription::take(XmlNode child) {
         }
         break;
     case 9:
-        if (is("TextColor")) {
-            textColor = child.content();
+        if (is("TextColor") && childTagged(child, "Color")) {
             textColorNode = textColorNode ? textColorNode : child;
+        } else if (is("TextColor")) {
+            textColor = child.content();
         } else if (is("Condition")) {
             condition = child.content();
         }

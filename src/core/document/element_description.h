@@ -23,8 +23,8 @@ struct ElementDescription {
     std::string_view condition;
     std::string_view constant;
     bool hasConstant = false;
-    std::string_view textColor;
-    XmlNode textColorNode;
+    std::string_view textColor; ///< of a TextColor without a Color child
+    XmlNode textColorNode;      ///< with one
     bool timers = false;
     bool modifiers = false;
 

@@ -8,6 +8,7 @@
 #include "text/xml_parse.h"
 
 #include <array>
+#include <system_error>
 #include <utility>
 
 namespace tarvel {
@@ -38,6 +39,15 @@ XmlNode sectionOf(const XmlTree& tree, std::string_view name) {
 }
 
 } // namespace
+
+std::filesystem::path catalogueFile(const std::filesystem::path& programFolder) {
+    std::error_code ignored;
+    auto own = programFolder / catalogueFileName;
+    const auto installed = programFolder / TARVEL_CATALOGUE_FROM_BIN / catalogueFileName;
+    return !std::filesystem::exists(own, ignored) && std::filesystem::exists(installed, ignored)
+               ? installed
+               : own;
+}
 
 ModifierCatalogue::ModifierCatalogue(XmlTree tree)
     : tree_(std::move(tree)) {}

@@ -16,6 +16,10 @@ namespace tarvel {
 /// The catalogue's file in the program's own folder.
 inline constexpr std::string_view catalogueFileName = "modifiers.xml";
 
+/// The catalogue's file: the one in the program's own folder, where it can be edited; where there
+/// is none, the one that was installed with the program, if that is there.
+[[nodiscard]] std::filesystem::path catalogueFile(const std::filesystem::path& programFolder);
+
 /// The first row of every list of types: no modifier.
 inline constexpr std::string_view noModifier = "None";
 

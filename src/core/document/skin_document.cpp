@@ -1,6 +1,9 @@
 // The document's tables and lists.
 #include "document/skin_document.h"
 
+#include "document/resource_index.h"
+#include "text/tag_scanner.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -45,11 +48,13 @@ SkinDocument::SkinDocument(DocumentParts&& parts) {
 }
 
 SkinDocument::SkinDocument(SkinDocument&& other) noexcept
-    : state_(std::exchange(other.state_, {})) {}
+    : state_(std::exchange(other.state_, {}))
+    , resourceIndex_(std::exchange(other.resourceIndex_, {})) {}
 
 SkinDocument& SkinDocument::operator=(const SkinDocument& other) {
     if (this != &other) {
         state_ = other.state_;
+        resourceIndex_ = other.resourceIndex_;
         tell({DocumentChange::What::everything});
     }
     return *this;
@@ -58,6 +63,7 @@ SkinDocument& SkinDocument::operator=(const SkinDocument& other) {
 SkinDocument& SkinDocument::operator=(SkinDocument&& other) { // NOLINT
     if (this != &other) {
         state_ = std::exchange(other.state_, {});
+        resourceIndex_ = std::exchange(other.resourceIndex_, {});
         tell({DocumentChange::What::everything});
     }
     return *this;
@@ -179,6 +185,19 @@ void SkinDocument::delItem(int row) {
     auto& list = state_.lst.at(at(screen)).edit();
     list.erase(list.begin() + row);
     tell({DocumentChange::What::rows, screen});
+}
+
+const Resource* SkinDocument::resourceNamed(std::string_view name) const {
+    const auto& resources = settings().resources;
+    constexpr int fewLookUps = 8; // cost less than an index
+    if (resourceIndex_.lookUps < fewLookUps) {
+        ++resourceIndex_.lookUps;
+        return findResource<SkinDocument>(*this, name);
+    }
+    if (!resourceIndex_.index) {
+        resourceIndex_.index = std::make_shared<const ResourceIndex>(resources);
+    }
+    return resourceIndex_.index->find(name);
 }
 
 void SkinDocument::addRes(std::string name, std::string path, bool outside) {

@@ -7,11 +7,14 @@
 #include "document/skin_settings.h"
 
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tarvel {
+
+class ResourceIndex;
 
 inline constexpr int screenCount = 6;
 inline constexpr int skinWidth = 640;  // skin pixels
@@ -95,11 +98,16 @@ class SkinDocument {
     void delItem(int row);
 
     [[nodiscard]] const SkinSettings& settings() const { return state_.settings.get(); }
-    /// Calls edit(SkinSettings&) and tells the observers.
+    /// Calls edit(SkinSettings&) and tells the observers. Meanwhile resources are not looked up.
     template <class Edit> void editSettings(Edit&& edit) {
+        resourceIndex_ = {};
         edit(state_.settings.edit());
         tell({DocumentChange::What::settings});
     }
+
+    /// The last resource of that name, in whatever letter case; nullptr when there is none. Valid
+    /// until the settings change.
+    [[nodiscard]] const Resource* resourceNamed(std::string_view name) const;
 
     /// Appends a file resource.
     void addRes(std::string name, std::string path, bool outside = false);
@@ -138,9 +146,23 @@ class SkinDocument {
     }
     [[nodiscard]] const Rows& rows(int screen) const;
 
+    // Made when it is worth it. It goes along with the settings that it was made of.
+    struct IndexOfResources {
+        int lookUps = 0;
+        std::shared_ptr<const ResourceIndex> index;
+    };
+
     State state_;
+    mutable IndexOfResources resourceIndex_;
     mutable Observers<DocumentObserver> observers_;
     Edit edit_;
 };
+
+/// findResource() of the tag scanner for this document, which does not go through all of them each
+/// time.
+[[nodiscard]] inline const Resource* findResource(const SkinDocument& document,
+                                                  std::string_view name) {
+    return document.resourceNamed(name);
+}
 
 } // namespace tarvel

@@ -1,8 +1,8 @@
-// The only code that opens, copies or creates files, and that knows how paths look on this host.
-//
-// Paths in the document are UTF-8 with backslashes. Failures throw FileError unless stated
+// The only code that opens, copies or creates files. Failures throw FileError unless stated
 // otherwise.
 #pragma once
+
+#include "files/host_paths.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -17,47 +17,32 @@ namespace tarvel {
 class FileError : public std::runtime_error {
   public:
     FileError(int errorNumber, const std::filesystem::path& file);
+    /// For a failure that no number of the system tells.
+    FileError(const std::string& problem, const std::filesystem::path& file);
 
-    /// errno of the failed operation.
+    /// errno of the failed operation; 0 where there is none.
     [[nodiscard]] int errorNumber() const { return errorNumber_; }
 
   private:
-    int errorNumber_;
+    int errorNumber_ = 0;
 };
-
-/// The host's path of a document path. What is not found as spelt is looked for without regard to
-/// letter case, folder by folder; parts that do not exist at all stay as spelt. Never throws.
-[[nodiscard]] std::filesystem::path hostPath(std::string_view documentPath);
-
-/// The document's spelling of a host path, made absolute.
-[[nodiscard]] std::string documentPath(const std::filesystem::path& path);
-
-/// What keeps a skin from lying in a folder, as a sentence for the user; "" for nothing. A path
-/// with a backslash would come back from its document spelling as that of another folder.
-[[nodiscard]] std::string folderProblem(const std::filesystem::path& folder);
-
-/// True when the path exists and is no folder; false on every error.
-[[nodiscard]] bool FileExists(std::string_view path);
-
-/// True when `file`, a File text of a skin, leads out of the skin's folder: by "..", as an absolute
-/// path, by a drive letter or through a link.
-[[nodiscard]] bool leadsOutside(const std::filesystem::path& folder, std::string_view file);
 
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);
 
-/// Replaces the file only when the new content is wholly on the disk.
+/// Replaces the file only when the new content is wholly on the disk. Its permission bits stay.
 void writeFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Told how many bytes of how many are copied; false cancels.
 using CopyStep = std::function<bool(std::uintmax_t done, std::uintmax_t total)>;
 
 /// Copies a file over another, which is replaced only when the copy is whole. A file is never
-/// copied onto itself, through whatever link: nothing happens then. Returns false when cancelled,
+/// copied onto itself, through whatever link: nothing happens then. One that changes meanwhile is a
+/// failure: what was read of it may be neither the old nor the new. Returns false when cancelled,
 /// and leaves the older file then, as on failure.
 bool copyFile(const std::filesystem::path& from, const std::filesystem::path& to,
               const CopyStep& progress = {});
 
-/// Makes a folder; that it exists already is no failure.
+/// Makes a folder; that it exists already is no failure, but a file of its name is.
 void createFolder(const std::filesystem::path& path);
 
 /// Makes a folder and all above it that are missing.
@@ -70,7 +55,8 @@ void removeFile(const std::filesystem::path& path);
 void moveFile(const std::filesystem::path& from, const std::filesystem::path& to);
 
 /// Saves the text as "temp.xml" in the folder, reads it back and deletes the file. The file is held
-/// exclusively meanwhile; other holders are waited for, and a stale file is no obstacle.
+/// exclusively meanwhile, and a stale one is no obstacle. While another program holds it the text
+/// comes back without a file: this never waits.
 [[nodiscard]] std::string throughTempFile(const std::filesystem::path& folder,
                                           std::string_view text);
 

@@ -5,6 +5,7 @@
 #include "document/image_source.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
+#include "skinfile/save_plan.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
 #include "text/tag_scanner.h"
@@ -12,7 +13,8 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
+#include <system_error>
+#include <unordered_map>
 
 namespace tarvel {
 
@@ -25,12 +27,13 @@ std::string inQuotes(std::string_view text) {
 class SkinCheck {
   public:
     explicit SkinCheck(const std::filesystem::path& folder)
-        : prefix_(withSlash(documentPath(folder)))
+        : folder_(folder)
+        , prefix_(withSlash(documentPath(folder)))
         , notes_(readSkin(document_, folder))
         , bytes_(readFile(skinFilePath(folder)))
         , tree_(readSkinText(bytes_, notes_.text)) {}
 
-    std::vector<std::string> run(const std::filesystem::path& tempFolder) {
+    std::vector<std::string> run() {
         if (document_.settings().skinName.empty()) {
             find("The skin has no name: it cannot be saved");
         }
@@ -42,7 +45,7 @@ class SkinCheck {
             }
         }
         checkDropped();
-        checkSave(tempFolder);
+        checkSave();
         return std::move(findings_);
     }
 
@@ -65,14 +68,14 @@ class SkinCheck {
                 find(named + " names no file");
             } else if (resource.outside) {
                 find(subject + " lies outside the skin folder");
-            } else if (!FileExists(resource.content)) {
+            } else if (!files_.FileExists(resource.content)) {
                 find(subject + " is missing");
             }
         }
     }
 
     void checkFileNames() {
-        std::map<std::string, std::string> firstUser; // by lower-cased file name
+        std::unordered_map<std::string, const Resource*> firstUser; // by lower-cased file name
         for (const Resource& resource : document_.settings().resources) {
             if (!resource.isFile) {
                 continue;
@@ -81,12 +84,24 @@ class SkinCheck {
             if (name.empty()) {
                 continue;
             }
-            const auto [first, isNew] = firstUser.try_emplace(lowerCased(name), resource.name);
-            if (!isNew) {
-                find("Resources " + inQuotes(first->second) + " and " + inQuotes(resource.name) +
-                     " have one file name, " + std::string(name) + ": a save keeps one file");
+            const auto [first, isNew] = firstUser.try_emplace(lowerCased(name), &resource);
+            if (!isNew && !isSameFile(*first->second, resource)) {
+                find("Resources " + inQuotes(first->second->name) + " and " +
+                     inQuotes(resource.name) + " have one file name, " + std::string(name) +
+                     ": a save keeps one file");
             }
         }
+        if (const auto plan = planSave(document_.settings(), folder_); !plan.obstacle.empty()) {
+            find("A save over this folder is refused: " + plan.obstacle);
+        }
+    }
+
+    bool isSameFile(const Resource& a, const Resource& b) {
+        std::error_code error;
+        return a.content == b.content ||
+               (std::filesystem::equivalent(files_.hostPath(a.content), files_.hostPath(b.content),
+                                            error) &&
+                !error);
     }
 
     static bool isOffScreen(const ElementControl& control) {
@@ -153,8 +168,8 @@ class SkinCheck {
         }
     }
 
-    void checkSave(const std::filesystem::path& tempFolder) {
-        SkinWriter writer(tempFolder);
+    void checkSave() {
+        SkinWriter writer;
         writer.generateXML(document_);
         const std::string& text = writer.xmlText();
         if (!fitsWindows1252(text)) {
@@ -186,7 +201,9 @@ class SkinCheck {
         }
     }
 
+    const std::filesystem::path& folder_;
     std::string prefix_;
+    FileFinder files_;
     SkinDocument document_;
     SkinReadNotes notes_;
     std::string bytes_;
@@ -196,9 +213,8 @@ class SkinCheck {
 
 } // namespace
 
-std::vector<std::string> checkSkin(const std::filesystem::path& folder,
-                                   const std::filesystem::path& tempFolder) {
-    return SkinCheck(folder).run(tempFolder);
+std::vector<std::string> checkSkin(const std::filesystem::path& folder) {
+    return SkinCheck(folder).run();
 }
 
 } // namespace tarvel

@@ -9,9 +9,7 @@ namespace tarvel {
 
 /// One line for each finding, in the order of the skin: sources that name no resource; resource
 /// files that are missing or lie outside; file names used twice; elements off the screen;
-/// characters outside Windows-1252; what a save would change. `tempFolder` is where modifiers pass
-/// through "temp.xml". Throws SkinReadError.
-[[nodiscard]] std::vector<std::string> checkSkin(const std::filesystem::path& folder,
-                                                 const std::filesystem::path& tempFolder);
+/// characters outside Windows-1252; what a save would change. Writes nothing. Throws SkinReadError.
+[[nodiscard]] std::vector<std::string> checkSkin(const std::filesystem::path& folder);
 
 } // namespace tarvel

@@ -2,10 +2,14 @@
 #include "skinfile/skin_folder.h"
 
 #include "document/layout_screens.h"
+#include "files/folder_hold.h"
 #include "files/host_files.h"
+#include "files/replacement.h"
+#include "skinfile/save_plan.h"
 #include "skinfile/skin_reader.h"
 #include "text/text_encoding.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -15,24 +19,31 @@ namespace {
 
 class SaveRun {
   public:
-    SaveRun(const SkinDocument& document, const std::filesystem::path& folder,
-            const SaveHooks& hooks)
-        : settings_(document.settings())
-        , folder_(withSlash(documentPath(folder)))
+    SaveRun(const std::filesystem::path& folder, SavePlan plan, const SaveHooks& hooks)
+        : folder_(folder)
+        , prefix_(withSlash(documentPath(folder)))
+        , plan_(std::move(plan))
         , hooks_(hooks) {}
 
     SaveOutcome run(std::string_view xmlText) {
+        outcome_.leftOut = std::move(plan_.leftOut);
+        removeLeftovers(folder_);
         writeText(xmlText);
-        makeFolder("Media\\");
-        makeFolder("Music\\");
-        outcome_.stopped = !copyResources() || !copyBackground() || !copyMusic();
+        makeFolder(mediaFolder);
+        makeFolder(musicFolder);
+        outcome_.stopped = !std::all_of(plan_.copies.begin(), plan_.copies.end(),
+                                        [this](const auto& planned) { return carryOut(planned); });
+        if (!outcome_.stopped) {
+            outcome_.sharedNames = std::move(plan_.sharedNames);
+        }
         return std::move(outcome_);
     }
 
   private:
     void writeText(std::string_view xmlText) {
         try {
-            writeFile(hostPath(folder_ + std::string(skinFileName)), skinFileBytes(xmlText));
+            const auto target = hostPath(prefix_ + std::string(skinFileName));
+            writeFile(writtenPath(folder_, target), skinFileBytes(xmlText));
             outcome_.textWritten = true;
         } catch (const std::exception& error) {
             outcome_.writeProblem = error.what();
@@ -40,73 +51,39 @@ class SaveRun {
     }
 
     void makeFolder(std::string_view name) {
+        // Without its slash: a link to a folder that is gone is in the way of a new one.
+        const auto path = hostPath(prefix_ + std::string(name.substr(0, name.size() - 1)));
         try {
-            createFolder(hostPath(folder_ + std::string(name)));
+            createFolder(path);
+            removeLeftovers(path);
         } catch (const std::exception& error) {
+            outcome_.folderProblems.emplace_back(error.what());
             showProblem(error.what());
         }
     }
 
     // False when the save ends here.
-    bool copyResources() {
-        for (const Resource& resource : settings_.resources) {
-            if (!resource.isFile) {
-                continue;
-            }
-            if (resource.outside) {
-                outcome_.leftOut.push_back(resource.name);
-            } else if (!copyReported(resource.content, "Media\\")) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    bool copyBackground() {
-        if (!settings_.background.loaded) {
-            return true;
-        }
+    bool carryOut(const PlannedCopy& planned) {
         try {
-            return copy(settings_.background.path, "Media\\");
-        } catch (const std::exception&) {
-            return true; // a background that cannot be copied does not keep the rest from the
-                         // folder
-        }
-    }
-
-    bool copyMusic() {
-        for (const int index : settings_.music.lstMusic) {
-            const auto& file = settings_.music.musicFiles.at(static_cast<std::size_t>(index));
-            if (!copyReported(file, "Music\\")) {
-                return false;
-            }
-        }
-        return true;
-    }
-
-    bool copyReported(const std::string& source, std::string_view below) {
-        try {
-            return copy(source, below);
+            return copy(planned);
         } catch (const std::exception& error) {
+            if (planned.what == PlannedCopy::What::background) {
+                return true; // one that cannot be copied does not keep the rest from the folder
+            }
             showProblem(error.what());
             return false;
         }
     }
 
     // False when cancelled.
-    bool copy(const std::string& source, std::string_view below) {
-        const auto name = trimtofile(source);
-        const std::string target = std::string(folder_).append(below).append(name);
-        if (target == source) {
-            return true;
-        }
+    bool copy(const PlannedCopy& planned) {
         CopyStep progress;
         if (hooks_.progress) {
             progress = [&](std::uintmax_t done, std::uintmax_t total) {
-                return hooks_.progress(name, done, total);
+                return hooks_.progress(planned.name, done, total);
             };
         }
-        return copyFile(hostPath(source), hostPath(target), progress);
+        return copyFile(planned.from, planned.to, progress);
     }
 
     void showProblem(const std::string& description) const {
@@ -115,8 +92,9 @@ class SaveRun {
         }
     }
 
-    const SkinSettings settings_; // a copy: the window stays alive while files are copied
-    std::string folder_;
+    const std::filesystem::path& folder_;
+    std::string prefix_;
+    SavePlan plan_;
     const SaveHooks& hooks_;
     SaveOutcome outcome_;
 };
@@ -125,8 +103,10 @@ SaveOutcome notBegun(std::string problem, const SaveHooks& hooks) {
     if (hooks.showProblem) {
         hooks.showProblem(problem);
     }
-    return {
-        .textWritten = false, .writeProblem = std::move(problem), .stopped = true, .leftOut = {}};
+    SaveOutcome outcome;
+    outcome.writeProblem = std::move(problem);
+    outcome.stopped = true;
+    return outcome;
 }
 
 } // namespace
@@ -143,7 +123,21 @@ SaveOutcome saveSkin(SkinDocument& document, SkinWriter& writer,
         document.setCurrentLayout(menuScreen); // it stood at the screen that could not be written
         return notBegun(error.what(), hooks);
     }
-    return SaveRun(document, folder, hooks).run(writer.xmlText());
+    const FolderHold hold(folder);
+    if (hold.isTaken()) {
+        return notBegun("Somebody is saving into this folder at the moment: " + folder.string(),
+                        hooks);
+    }
+    SavePlan plan = planSave(document.settings(), folder);
+    if (!plan.obstacle.empty()) {
+        return notBegun("Nothing was saved: " + plan.obstacle, hooks);
+    }
+    return SaveRun(folder, std::move(plan), hooks).run(writer.xmlText());
+}
+
+std::string sharedNamesMessage(const std::vector<std::string>& names) {
+    return listMessage("These file names stand for two files each, and the later one was kept: ",
+                       names);
 }
 
 std::string skinFileBytes(std::string_view xmlText) {

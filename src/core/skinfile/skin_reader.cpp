@@ -85,7 +85,7 @@ class ResourceReader {
   private:
     void addFile(const std::string& name, std::string file) {
         std::replace(file.begin(), file.end(), '/', '\\');
-        const bool outside = leadsOutside(folder_, file);
+        const bool outside = files_.leadsOutside(folder_, file);
         if (outside) {
             outside_.push_back(name);
         }
@@ -96,6 +96,7 @@ class ResourceReader {
     const std::filesystem::path& folder_;
     std::string prefix_;
     std::vector<std::string>& outside_;
+    FileFinder files_;
 };
 
 void readSection(SkinDocument& document, XmlNode section, ResourceReader& resources) {
@@ -215,15 +216,16 @@ SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& fold
     return notes;
 }
 
-std::string outsideMessage(const std::vector<std::string>& names) {
-    if (names.empty()) {
-        return {};
-    }
-    std::string message = "These resources lie outside the skin folder and are left out: ";
+std::string listMessage(std::string_view beginning, const std::vector<std::string>& names) {
+    std::string message;
     for (const std::string& name : names) {
-        message.append(&name == names.data() ? "" : ", ").append(name);
+        message.append(message.empty() ? beginning : ", ").append(name);
     }
     return message;
+}
+
+std::string outsideMessage(const std::vector<std::string>& names) {
+    return listMessage("These resources lie outside the skin folder and are left out: ", names);
 }
 
 } // namespace tarvel

@@ -45,6 +45,10 @@ SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& fold
 void readSkinTree(SkinDocument& document, XmlNode root, const std::filesystem::path& folder,
                   SkinReadNotes& notes);
 
+/// The beginning and the names after it, parted by commas; "" for no names.
+[[nodiscard]] std::string listMessage(std::string_view beginning,
+                                      const std::vector<std::string>& names);
+
 /// One sentence naming the resources outside the skin's folder; "" for none.
 [[nodiscard]] std::string outsideMessage(const std::vector<std::string>& names);
 

@@ -156,7 +156,11 @@ void SkinWriter::writeTail(const Element& element) {
 }
 
 void SkinWriter::writeModifiers(const XmlTree& modifiers) {
-    const std::string block = splicedModifiers(throughTempFile(folder_, modifiers.fileText()));
+    std::string text = modifiers.fileText();
+    if (tempFolder_) {
+        text = throughTempFile(*tempFolder_, text);
+    }
+    const std::string block = splicedModifiers(std::move(text));
     std::string_view rest = block;
     for (auto end = rest.find("\r\n"); end != std::string_view::npos; end = rest.find("\r\n")) {
         writeLine(rest.substr(0, end));

@@ -5,6 +5,7 @@
 #include "text/line_writer.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,9 +14,11 @@ namespace tarvel {
 /// Escapes nothing: names, captions and paths go between quotes or tags as they stand.
 class SkinWriter : private LineWriter {
   public:
+    /// For a text that is not saved: modifiers are composed without a file.
+    SkinWriter() = default;
     /// `folder` is where modifiers pass through "temp.xml".
     explicit SkinWriter(std::filesystem::path folder)
-        : folder_(std::move(folder)) {}
+        : tempFolder_(std::move(folder)) {}
 
     /// Fills xmlText with the document's text (UTF-8, TAB indentation, CR LF after every line). The
     /// document's currentLayout follows the screen being written and ends at the "Menu" screen.
@@ -38,7 +41,7 @@ class SkinWriter : private LineWriter {
     void writeTail(const Element& element);
     void writeModifiers(const XmlTree& modifiers);
 
-    std::filesystem::path folder_;
+    std::optional<std::filesystem::path> tempFolder_;
 };
 
 /// What is spliced into the skin's text for a modifier tree that was saved as `fileText`: without

@@ -25,9 +25,26 @@ constexpr int hexDigit(char c) {
     return c >= 'A' && c <= 'F' ? c - 'A' + 10 : 0;
 }
 
-// Two hexadecimal digits at a place that the text may not reach.
+// True for the first byte of each character of a UTF-8 text.
+constexpr bool beginsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80;
+}
+
+// What follows the first `count` characters.
+std::string_view afterCharacters(std::string_view text, std::size_t count) {
+    std::size_t at = 0;
+    for (; at < text.size(); ++at) {
+        if (beginsCharacter(text[at]) && count-- == 0) {
+            break;
+        }
+    }
+    return text.substr(at);
+}
+
+// Two hexadecimal digits, from the character at `at` on, which the text may not reach.
 int hexPair(std::string_view text, std::size_t at) {
-    return text.size() > at ? hextodec(text.substr(at, 2)) : 0;
+    const auto rest = afterCharacters(text, at);
+    return hextodec(rest.substr(0, rest.size() - afterCharacters(rest, 2).size()));
 }
 
 bool endsInIgnoringCase(std::string_view name, std::string_view lowerEnding) {
@@ -126,9 +143,13 @@ bool reverseOnOff(std::string_view text) {
 std::int32_t hextodec(std::string_view text) {
     constexpr std::size_t mostPlaces = 8;
     std::int64_t total = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::int64_t digit = hexDigit(text[i]);
-        const std::size_t place = text.size() - 1 - i;
+    auto place = static_cast<std::size_t>(std::count_if(text.begin(), text.end(), beginsCharacter));
+    for (const char byte : text) {
+        if (!beginsCharacter(byte)) {
+            continue;
+        }
+        --place;
+        const std::int64_t digit = hexDigit(byte);
         if (digit == 0) {
             continue;
         }

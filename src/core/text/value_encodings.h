@@ -35,14 +35,14 @@ using ColorNumber = std::uint32_t;
 [[nodiscard]] bool reverseOnOff(std::string_view text);
 
 /// Hexadecimal text to number. Characters that are no hexadecimal digit count as a zero in their
-/// place. Throws std::overflow_error when a running total leaves the 32-bit signed range.
+/// place, whatever number of bytes they take. Throws std::overflow_error when a running total leaves the 32-bit signed range.
 [[nodiscard]] std::int32_t hextodec(std::string_view text);
 
 /// Opacity in percent to two (over 100 %: more) upper-case hexadecimal digits; negative gives "00".
 [[nodiscard]] std::string makeAlpha(int opacity);
-/// Opacity in percent out of the digits 3 and 4 of "0xAARRGGBB"; an empty text gives 100.
+/// Opacity in percent out of the characters 3 and 4 of "0xAARRGGBB"; an empty text gives 100.
 [[nodiscard]] int getAlpha(std::string_view text);
-/// Colour out of the digits 5 to 10 of "0xAARRGGBB"; an empty text gives black.
+/// Colour out of the characters 5 to 10 of "0xAARRGGBB"; an empty text gives black.
 [[nodiscard]] ColorNumber getColor(std::string_view text);
 /// The low 24 bits as six upper-case hexadecimal digits RRGGBB.
 [[nodiscard]] std::string rgbHex(ColorNumber color);

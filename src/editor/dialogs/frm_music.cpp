@@ -8,6 +8,7 @@
 #include "widgets/play_button.h"
 #include "widgets/prompts.h"
 #include "widgets/shown_path.h"
+#include "widgets/usable_files.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -178,6 +179,7 @@ void FrmMusic::cmdAdd_Click() {
 
 void FrmMusic::addFiles(QStringList files) {
     files.removeAll(QString());
+    files = usableFiles(files, prompts(), this);
     if (files.isEmpty()) {
         return;
     }

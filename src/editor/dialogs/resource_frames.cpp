@@ -8,6 +8,7 @@
 #include "widgets/path_label.h"
 #include "widgets/prompts.h"
 #include "widgets/shown_path.h"
+#include "widgets/usable_files.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -97,6 +98,9 @@ void CustomFrame::cmdBrowse_Click() {
 }
 
 void CustomFrame::takeFile(const QString& file) {
+    if (usableFiles({file}, prompts_, owner_).isEmpty()) {
+        return;
+    }
     lblFile_->setPath(file);
     if (txtRes_->text().isEmpty()) {
         txtRes_->setText(qtText(suggestedName(documentPath(hostPathOf(file)))));

@@ -174,7 +174,7 @@ QWidget* ModifierPanel::makeColorPage() {
 
 void ModifierPanel::fill(const Element& element) {
     try {
-        editor_.open(ModifierCatalogue::read(programFolder_ / catalogueFileName),
+        editor_.open(ModifierCatalogue::read(catalogueFile(programFolder_)),
                      element.elementKind, element.elementModifiers.get());
     } catch (const std::exception& error) {
         prompts_.message(window(), QString::fromUtf8(error.what()));

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QMediaPlayer>
+#include <QRectF>
 #include <QTimer>
 #include <QUrl>
 #include <QVideoFrame>
@@ -32,6 +33,11 @@ const QString tooMany = QStringLiteral("too many videos");
 bool isVideo(const Element& element) {
     return element.elementControl.kind == ControlKind::vid &&
            element.elementControl.picture == PictureContent::file;
+}
+
+bool canBeSeen(const ElementControl& control) {
+    return QRectF(0, 0, skinWidth, skinHeight)
+        .intersects({control.left, control.top, control.width, control.height});
 }
 
 // The screen that an element is on; noScreen for one that is gone.
@@ -119,6 +125,14 @@ bool VideoStage::isPlaying(int elementId) const {
     const auto found = seats_.find(elementId);
     return found != seats_.end() && found->second.player != nullptr &&
            found->second.player->playbackState() == QMediaPlayer::PlayingState;
+}
+
+bool VideoStage::isSettled(const SkinDocument& document) const {
+    return std::all_of(seats_.begin(), seats_.end(), [&](const auto& entry) {
+        const auto& [id, seat] = entry;
+        return screenOf(document, id) != shown_ || !seat.frame.isNull() ||
+               !seat.problem.isEmpty() || !canBeSeen(document.element(id).elementControl);
+    });
 }
 
 QImage VideoStage::frame(int elementId) const {

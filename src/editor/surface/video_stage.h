@@ -44,6 +44,9 @@ class VideoStage : public QObject, public VideoFrames {
 
     [[nodiscard]] bool isPlaying(int elementId) const;
 
+    /// True when each video of the shown screen that can be seen there has a frame, or a problem.
+    [[nodiscard]] bool isSettled(const SkinDocument& document) const;
+
     [[nodiscard]] QImage frame(int elementId) const override;
     [[nodiscard]] QString problem(int elementId) const override;
 

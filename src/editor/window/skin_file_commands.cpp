@@ -12,6 +12,7 @@
 #include "widgets/copy_progress.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
+#include "widgets/usable_files.h"
 #include "widgets/wait_cursor.h"
 #include "window/xml_window.h"
 
@@ -54,8 +55,11 @@ bool SkinFileCommands::saveInto(const QString& folder) {
                         std::uintmax_t total) { return progress.step(file, done, total); }};
     const SaveOutcome outcome = saveSkin(document_, writer, hostPathOf(folder), hooks);
     progress.hide();
-    if (!outcome.leftOut.empty()) {
-        prompts_.message(surroundings_.window, qtText(outsideMessage(outcome.leftOut)));
+    for (const std::string& message :
+         {outsideMessage(outcome.leftOut), sharedNamesMessage(outcome.sharedNames)}) {
+        if (!message.empty()) {
+            prompts_.message(surroundings_.window, qtText(message));
+        }
     }
     if (!outcome.succeeded()) {
         emit told(outcome.writeProblem.empty()
@@ -96,7 +100,7 @@ void SkinFileCommands::loadFrom(const QString& folder) {
 }
 
 void SkinFileCommands::mnuView_Click() {
-    SkinWriter writer(surroundings_.programFolder);
+    SkinWriter writer;
     try {
         writer.generateXML(document_);
         auto* window = new XmlWindow(qtText(writer.xmlText()), surroundings_.window);
@@ -111,7 +115,8 @@ void SkinFileCommands::mnuView_Click() {
 void SkinFileCommands::mnuLoadBg_Click() {
     const QStringList files =
         prompts_.files(surroundings_.window, QStringLiteral("JPG|*.jpg|BMP|*.bmp"), false);
-    if (files.isEmpty() || files.front().isEmpty()) {
+    if (files.isEmpty() || files.front().isEmpty() ||
+        usableFiles(files, prompts_, surroundings_.window).isEmpty()) {
         return;
     }
     const OpenEdit edit(document_, std::string(step::loadBackground));

@@ -147,6 +147,15 @@ TEST(MakeText, TakesColorAndOpacityFromTheSameText) {
          "<TextColor><Color>0x20123456</Color></TextColor></e>",
          red, 50},
         {"<e><TextColor>0x80FF0000<Other/></TextColor></e>", red, 50},
+        // Of two forms the Color child counts, and the other where that is empty.
+        {"<e><textcolor>0X80123456</textcolor>\n<TextColor>\n<Color>0x80FF0000</Color>\n</"
+         "TextColor>"
+         "</e>",
+         red, 50},
+        {"<e><TextColor><Color>0x80FF0000</Color></TextColor><textcolor>0X20123456</textcolor></e>",
+         red, 50},
+        {"<e><TextColor>0x80FF0000</TextColor><TextColor><Color/></TextColor></e>", red, 50},
+        {"<e><TextColor><Color/></TextColor><TextColor>0x80FF0000</TextColor></e>", red, 50},
         {"<e/>", white, 100},
         {"<e><TextColor/></e>", white, 100},
         {"<e><TextColor><Color/></TextColor></e>", white, 100},

@@ -1,6 +1,7 @@
 // The catalogue of modifier types: whole, partial, broken and missing files.
 #include "document/modifier_catalogue.h"
 #include "support/behaviour_support.h"
+#include "support/temporary_folder.h"
 #include "support/xml_support.h"
 
 #include <gtest/gtest.h>
@@ -220,4 +221,34 @@ TEST(StarterCatalogue, OffersEveryPanelAndSeveralTargetsToEveryKind) {
 }
 
 } // namespace
+TEST(CatalogueFile, LiesBesideTheProgramOrWhereItWasInstalled) {
+    const TemporaryFolder folder;
+    const auto bin = folder.folder("bin");
+    EXPECT_EQ(catalogueFile(bin), bin / "modifiers.xml"); // and is missing
+    EXPECT_EQ(ModifierCatalogue::read(catalogueFile(bin)).typesFor(ElementKind::Box),
+              Texts{"None"});
+    folder.file("share/tarvel/modifiers.xml",
+                "<m><supports><e type='1'><Installed>x</Installed></e></supports></m>");
+    EXPECT_EQ(ModifierCatalogue::read(catalogueFile(bin)).typesFor(ElementKind::Box),
+              (Texts{"None", "Installed"}));
+    folder.file("bin/modifiers.xml", "<m><supports><e type='1'><Own>x</Own></e></supports></m>");
+    EXPECT_EQ(ModifierCatalogue::read(catalogueFile(bin)).typesFor(ElementKind::Box),
+              (Texts{"None", "Own"}));
+}
+
+TEST(StarterCatalogue, BeginsEachListOfTargetsWithTheOneInBrackets) {
+    const auto starter =
+        ModifierCatalogue::read(test::assetsFolder() / std::string(catalogueFileName));
+    for (const auto kind : {ElementKind::Box, ElementKind::Line, ElementKind::Image,
+                            ElementKind::Text, ElementKind::Menu}) {
+        const Texts types = starter.typesFor(kind);
+        EXPECT_GT(types.size(), 3U);
+        for (std::size_t i = 1; i < types.size(); ++i) {
+            const Texts targets = starter.targetsOf(kind, types[i]);
+            ASSERT_GT(targets.size(), 1U) << types[i];
+            EXPECT_TRUE(isPlaceholderTarget(targets.front())) << types[i];
+        }
+    }
+}
+
 } // namespace tarvel

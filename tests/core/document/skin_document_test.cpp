@@ -327,4 +327,57 @@ TEST(SystemColours, TakeColourTextsButNoEmptyOnes) {
 }
 
 } // namespace
+namespace {
+
+// The content of the resource by that name, asked for often enough for every way to find it.
+std::string contentNamed(const SkinDocument& document, std::string_view name) {
+    const Resource* first = findResource(document, name);
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_EQ(findResource(document, name), first) << name;
+    }
+    return first == nullptr ? "none" : first->content;
+}
+
+} // namespace
+
+TEST(ResourceNamed, IsTheLastOfItsNameInAnyLetterCase) {
+    SkinDocument document;
+    EXPECT_EQ(contentNamed(document, "a"), "none");
+    document.addRes("a", "first");
+    document.addRes("\u00C4", "umlaut");
+    document.addRes("A", "second");
+    EXPECT_EQ(contentNamed(document, "a"), "second");
+    EXPECT_EQ(contentNamed(document, "A"), "second");
+    EXPECT_EQ(contentNamed(document, "\u00E4"), "umlaut");
+    EXPECT_EQ(contentNamed(document, "a "), "none");
+    EXPECT_EQ(contentNamed(document, ""), "none");
+    document.addRes("", "nameless");
+    EXPECT_EQ(contentNamed(document, ""), "nameless");
+}
+
+TEST(ResourceNamed, FollowsEveryChange) {
+    SkinDocument document;
+    document.addRes("a", "first");
+    EXPECT_EQ(contentNamed(document, "a"), "first");
+    document.addcRes("second", "A");
+    EXPECT_EQ(contentNamed(document, "a"), "second");
+    document.editSettings([](SkinSettings& settings) { settings.resources.pop_back(); });
+    EXPECT_EQ(contentNamed(document, "a"), "first");
+
+    SkinDocument copy = document;
+    copy.addRes("a", "of the copy");
+    EXPECT_EQ(contentNamed(copy, "a"), "of the copy");
+    EXPECT_EQ(contentNamed(document, "a"), "first");
+
+    const SkinDocument moved = std::move(document);
+    EXPECT_EQ(contentNamed(moved, "a"), "first");
+    EXPECT_EQ(contentNamed(document, "a"), "none"); // NOLINT: a new document again
+
+    document = copy;
+    EXPECT_EQ(contentNamed(document, "a"), "of the copy");
+    copy = SkinDocument();
+    EXPECT_EQ(contentNamed(copy, "a"), "none");
+    EXPECT_EQ(contentNamed(document, "a"), "of the copy");
+}
+
 } // namespace tarvel

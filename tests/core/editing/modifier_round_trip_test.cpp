@@ -115,7 +115,7 @@ TEST(ModifierRoundTrip, LeavesUnknownTypesAndChildrenAlone) {
     expectRoundTrip(document);
 }
 
-// The first target of a type of the starter catalogue, with default values, on a box.
+// A target, by its row, of a type of the starter catalogue, with default values, on a box.
 XmlTree storedFor(std::string_view type, int target) {
     ModifierEditor editor;
     editor.open(starterCatalogue(), ElementKind::Box, {});
@@ -131,19 +131,19 @@ TEST(ModifierBlock, IsWrittenByteForByte) {
         std::string_view block;
     };
     constexpr Case cases[] = {
-        {"Fade", 0,
+        {"Fade", 1,
          "\t\t\t<Modifier Type=\"Fade\" Target=\"Fill\">\r\n"
          "\t\t\t\t<Range X=\"0\" Y=\"0\"></Range>\r\n"
          "\t\t\t\t\r\n"
          "\t\t\t</Modifier>\r\n"
          "\t\t\t\r\n"},
-        {"Slide", 2,
+        {"Slide", 0,
          "\t\t\t<Modifier Type=\"Slide\">\r\n"
          "\t\t\t\t<Bounds L=\"0\" T=\"0\" R=\"0\" B=\"0\"></Bounds>\r\n"
          "\t\t\t\t\r\n"
          "\t\t\t</Modifier>\r\n"
          "\t\t\t\r\n"},
-        {"Tint", 1,
+        {"Tint", 2,
          "\t\t\t<Modifier Type=\"Tint\" Target=\"Border\">\r\n"
          "\t\t\t\t<Alpha Enable=\"False\" Min=\"0\" Max=\"255\" Period=\"1000\"></Alpha>\r\n"
          "\t\t\t\t<Red Enable=\"False\" Min=\"0\" Max=\"255\" Period=\"1000\"></Red>\r\n"
@@ -152,10 +152,10 @@ TEST(ModifierBlock, IsWrittenByteForByte) {
          "\t\t\t\t\r\n"
          "\t\t\t</Modifier>\r\n"
          "\t\t\t\r\n"},
-        {"Wobble", 0,
+        {"Wobble", 1,
          "\t\t\t<Modifier Type=\"Wobble\" Target=\"Position\"></Modifier>\r\n"
          "\t\t\t\r\n"},
-        {"Wobble", 2,
+        {"Wobble", 0,
          "\t\t\t<Modifier Type=\"Wobble\"></Modifier>\r\n"
          "\t\t\t\r\n"},
     };
@@ -173,8 +173,8 @@ TEST(ModifierBlock, IsWrittenByteForByte) {
 }
 
 TEST(ModifierBlock, HoldsAllModifiersOfAnElement) {
-    XmlTree two = storedFor("Fade", 0);
-    two.addCopy(XmlTree::top, storedFor("Wobble", 2).root());
+    XmlTree two = storedFor("Fade", 1);
+    two.addCopy(XmlTree::top, storedFor("Wobble", 0).root());
     SkinDocument document;
     addElement(document, ElementKind::Line, two);
     EXPECT_EQ(savedBlock(document), "\t\t<LayoutElement Type=\"Line\">\r\n"

@@ -1,17 +1,20 @@
-// Paths, atomic writes, copies and the exclusive temp.xml.
+// Atomic writes, copies and the exclusive temp.xml.
 #include "files/host_files.h"
+#include "support/system_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
+#include <fstream>
+#include <functional>
 #include <sys/file.h>
-#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace tarvel {
 
@@ -41,93 +44,7 @@ class FileSizeLimit {
     rlimit before_{};
 };
 
-// What has been done to the disk through fsync.
-struct Flushes {
-    int count = 0;
-    int failAt = 0; // the one that finds the disk full; 0 for none
-};
-Flushes flushes; // NOLINT: seen by fsync below
-
 } // namespace
-
-} // namespace tarvel
-
-// Takes the place of the system's, so that the tests see each flush and can let it fail.
-extern "C" int fsync(int descriptor) {
-    if (++tarvel::flushes.count == tarvel::flushes.failAt) {
-        errno = ENOSPC;
-        return -1;
-    }
-    return ::fdatasync(descriptor);
-}
-
-namespace tarvel {
-
-TEST(HostPath, TurnsBackslashesAndFindsOtherLetterCase) {
-    const TemporaryFolder folder;
-    const auto file = folder.file("Media/Sub/Pic.PNG", "x");
-    EXPECT_EQ(hostPath(folder.document("Media\\Sub\\Pic.PNG")), file);
-    EXPECT_EQ(hostPath(folder.document("media\\SUB\\pic.png")), file);
-    EXPECT_EQ(hostPath(folder.document("MEDIA\\new.png")), folder / "Media/new.png");
-    EXPECT_EQ(hostPath(folder.document("no\\SUB\\pic.png")), folder / "no/SUB/pic.png");
-}
-
-TEST(HostPath, PrefersTheSpellingThatExists) {
-    const TemporaryFolder folder;
-    folder.file("a.png", "small");
-    folder.file("A.PNG", "capital");
-    EXPECT_EQ(readFile(hostPath(folder.document("a.png"))), "small");
-    EXPECT_EQ(readFile(hostPath(folder.document("A.PNG"))), "capital");
-}
-
-TEST(DocumentPath, IsAbsoluteWithBackslashes) {
-    EXPECT_EQ(documentPath("/a/b c/d.png"), "\\a\\b c\\d.png");
-    EXPECT_TRUE(documentPath("d.png").starts_with('\\'));
-    EXPECT_TRUE(documentPath("d.png").ends_with("\\d.png"));
-}
-
-TEST(FileExists, IsTrueForFilesOnly) {
-    const TemporaryFolder folder;
-    folder.file("Media/a.png", "x");
-    EXPECT_TRUE(FileExists(folder.document("Media\\a.png")));
-    EXPECT_TRUE(FileExists(folder.document("MEDIA\\A.PNG")));
-    EXPECT_FALSE(FileExists(folder.document("Media")));
-    EXPECT_FALSE(FileExists(folder.document("Media\\b.png")));
-    EXPECT_FALSE(FileExists(""));
-    EXPECT_FALSE(FileExists(std::string("a\0b", 3)));
-    EXPECT_FALSE(FileExists(std::string(70000, 'x')));
-}
-
-TEST(LeadsOutside, KnowsEveryWayOut) {
-    const TemporaryFolder folder;
-    folder.file("skin/Media/a.png", "x");
-    folder.file("secret.png", "x");
-    fs::create_symlink(folder / "secret.png", folder / "skin/Media/link.png");
-    fs::create_directory_symlink(folder.path(), folder / "skin/up");
-    fs::create_symlink("a.png", folder / "skin/Media/inner.png");
-    struct Case {
-        const char* file;
-        bool outside;
-    };
-    for (const auto& [file, outside] : std::initializer_list<Case>{
-             {"Media\\a.png", false},
-             {"Media\\missing.png", false},
-             {"Media\\..\\Media\\a.png", false},
-             {"Media\\inner.png", false},
-             {"", false},
-             {"..\\secret.png", true},
-             {"Media\\..\\..\\skin\\Media\\a.png", true},
-             {"\\Media\\a.png", true},
-             {"/etc/passwd", true},
-             {"C:\\a.png", true},
-             {"c:a.png", true},
-             {"Media\\link.png", true},
-             {"MEDIA\\LINK.png", true},
-             {"up\\secret.png", true},
-         }) {
-        EXPECT_EQ(leadsOutside(folder / "skin", file), outside) << file;
-    }
-}
 
 TEST(WriteFile, ReplacesAndLeavesNothingBeside) {
     const TemporaryFolder folder;
@@ -169,14 +86,6 @@ TEST(WriteFile, PassesOverWhatAKilledRunLeft) {
     writeFile(folder / "to", "newer");
     EXPECT_EQ(readFile(folder / "to"), "newer");
     EXPECT_EQ(entriesOf(folder.path()), 5U); // the left files are nobody's business
-}
-
-TEST(FolderProblem, IsAnEmptyPathOrABackslash) {
-    EXPECT_EQ(folderProblem("/a/b c"), "");
-    EXPECT_EQ(folderProblem("relative"), "");
-    EXPECT_EQ(folderProblem({}), "No folder is named");
-    EXPECT_EQ(folderProblem("/a/b\\c/d"),
-              "The path of a skin's folder cannot hold a backslash: /a/b\\c/d");
 }
 
 TEST(WriteFile, IntoAMissingFolderDescribesTheFailure) {
@@ -233,21 +142,21 @@ TEST(CopyFile, FlushesWhileItCopies) {
     const TemporaryFolder folder;
     folder.file("from", {});
     fs::resize_file(folder / "from", std::uintmax_t{20} << 20);
-    flushes = {};
+    systemCalls = {};
     int seen = 0;
     std::uintmax_t unflushed = 0;
     std::uintmax_t before = 0;
     EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto done, auto) {
-        unflushed = flushes.count > seen ? 0 : unflushed + done - before;
+        unflushed = systemCalls.flushes > seen ? 0 : unflushed + done - before;
         EXPECT_LE(unflushed, std::uintmax_t{16} << 20);
-        EXPECT_LE(flushes.count, seen + 1); // each is followed by a step
-        seen = flushes.count;
+        EXPECT_LE(systemCalls.flushes, seen + 1); // each is followed by a step
+        seen = systemCalls.flushes;
         before = done;
         return true;
     }));
     EXPECT_EQ(before, std::uintmax_t{20} << 20);
     EXPECT_GE(seen, 1);
-    EXPECT_EQ(flushes.count, seen + 1); // and the whole before it takes its place
+    EXPECT_EQ(systemCalls.flushes, seen + 1); // and the whole before it takes its place
     EXPECT_EQ(fs::file_size(folder / "to"), std::uintmax_t{20} << 20);
 }
 
@@ -257,13 +166,14 @@ TEST(CopyFile, ThatCannotBeFlushedKeepsTheOlderFile) {
     folder.file("to", "old");
     fs::resize_file(folder / "from", std::uintmax_t{20} << 20);
     for (const int failAt : {1, 3}) { // within the copy, and at its end
-        flushes = {.failAt = failAt};
+        systemCalls = {};
+        systemCalls.failFlush = failAt;
         EXPECT_THROW(copyFile(folder / "from", folder / "to"), FileError);
-        EXPECT_EQ(flushes.count, failAt);
+        EXPECT_EQ(systemCalls.flushes, failAt);
         EXPECT_EQ(readFile(folder / "to"), "old");
         EXPECT_EQ(entriesOf(folder.path()), 2U);
     }
-    flushes = {};
+    systemCalls = {};
 }
 
 TEST(CopyFile, DescribesWhyASourceCannotBeRead) {
@@ -290,6 +200,37 @@ TEST(CopyFile, DescribesWhyASourceCannotBeRead) {
     EXPECT_EQ(closed, "Permission denied: " + (folder / "closed/pic.png").string());
 }
 
+TEST(CopyFile, OfAFileThatChangesMeanwhileKeepsTheOlderFile) {
+    const TemporaryFolder folder;
+    const std::string content(900'000, 'c');
+    const auto from = folder / "from";
+    using Change = std::function<void()>;
+    const std::vector<std::pair<const char*, Change>> changes = {
+        {"shorter", [&] { fs::resize_file(from, 300'000); }},
+        {"empty", [&] { fs::resize_file(from, 0); }},
+        {"longer", [&] { fs::resize_file(from, 2'000'000); }},
+        {"as long", [&] { std::ofstream(from) << std::string(content.size(), 'd'); }}};
+    for (const auto& [name, change] : changes) {
+        folder.file("from", content);
+        fs::last_write_time(from, fs::file_time_type::clock::now() - std::chrono::hours(1));
+        folder.file("to", "old");
+        bool first = true;
+        try {
+            copyFile(from, folder / "to", [&](auto, auto) {
+                if (std::exchange(first, false)) {
+                    change();
+                }
+                return true;
+            });
+            ADD_FAILURE() << name << " is taken as whole";
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.what(), "The file changed while it was copied: " + from.string());
+        }
+        EXPECT_EQ(readFile(folder / "to"), "old") << name;
+        EXPECT_EQ(entriesOf(folder.path()), 2U) << name;
+    }
+}
+
 TEST(CopyFile, NeverCopiesAFileOntoItself) {
     const TemporaryFolder folder;
     folder.file("a", "content");
@@ -308,12 +249,35 @@ TEST(CreateFolder, AcceptsAnExistingOne) {
     createFolder(folder / "a");
     EXPECT_NO_THROW(createFolder(folder / "a"));
     EXPECT_THROW(createFolder(folder / "no/a"), FileError);
+    fs::create_directory_symlink("a", folder / "link");
+    EXPECT_NO_THROW(createFolder(folder / "link"));
+}
+
+TEST(CreateFolder, InThePlaceOfAFileDescribesTheFailure) {
+    const TemporaryFolder folder;
+    const auto file = folder.file("a", "kept");
+    try {
+        createFolder(file);
+        FAIL() << "no error";
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.what(), "Not a directory: " + file.string());
+    }
+    EXPECT_EQ(readFile(file), "kept");
 }
 
 TEST(ThroughTempFile, GivesTheTextBackAndDeletesTheFile) {
     const TemporaryFolder folder;
     EXPECT_EQ(throughTempFile(folder.path(), "<a/>\n"), "<a/>\n");
     EXPECT_EQ(entriesOf(folder.path()), 0U);
+}
+
+TEST(ThroughTempFile, BringsNothingToTheDisk) {
+    const TemporaryFolder folder;
+    systemCalls = {};
+    EXPECT_EQ(throughTempFile(folder.path(), "<a/>"), "<a/>");
+    EXPECT_EQ(systemCalls.writes, 1);
+    EXPECT_EQ(systemCalls.flushes + systemCalls.folderFlushes, 0);
+    EXPECT_EQ(systemCalls.cuts, 0); // a file that was cut is brought to the disk when it is closed
 }
 
 TEST(ThroughTempFile, PassesOverAStaleFile) {
@@ -323,25 +287,22 @@ TEST(ThroughTempFile, PassesOverAStaleFile) {
     EXPECT_FALSE(fs::exists(folder / "temp.xml"));
 }
 
-TEST(ThroughTempFile, WaitsForAnotherHolder) {
+TEST(ThroughTempFile, NeitherWaitsForAnotherHolderNorTouchesItsFile) {
     const TemporaryFolder folder;
     const auto path = folder.file("temp.xml", "of another program");
     const int other = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
     ASSERT_EQ(::flock(other, LOCK_EX), 0);
-    std::string content;
-    const int opened = ::inotify_init1(IN_CLOEXEC);
-    ASSERT_GE(::inotify_add_watch(opened, path.c_str(), IN_OPEN), 0);
-    std::thread holder([&] {
-        char event[4096];
-        EXPECT_GT(::read(opened, event, sizeof event), 0); // the other one has come
-        content = readFile(path);                          // still as its holder left it
-        ::unlink(path.c_str());
-        ::close(other);
-        ::close(opened);
-    });
+    EXPECT_EQ(throughTempFile(folder.path(), "<mine/>"), "<mine/>"); // the holder never lets go
+    EXPECT_EQ(readFile(path), "of another program");
+    ::close(other);
     EXPECT_EQ(throughTempFile(folder.path(), "<mine/>"), "<mine/>");
-    holder.join();
-    EXPECT_EQ(content, "of another program");
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST(ThroughTempFile, DoesNotWaitAtAPipe) {
+    const TemporaryFolder folder;
+    ASSERT_EQ(::mkfifo((folder / "temp.xml").c_str(), 0600), 0);
+    EXPECT_THROW((void)throughTempFile(folder.path(), std::string(200'000, 'x')), FileError);
 }
 
 TEST(ThroughTempFile, FollowsNoLink) {

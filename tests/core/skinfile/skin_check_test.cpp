@@ -2,6 +2,7 @@
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
+#include "support/system_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@ class SkinCheckTest : public testing::Test {
   protected:
     Lines check(const std::string& body) {
         folder_.file("QOR_Skin.xml", "<Skin name=\"Nova\">" + body + "</Skin>");
-        Lines lines = checkSkin(folder_.path(), folder_.path());
+        Lines lines = checkSkin(folder_.path());
         // Such a file is never what a save writes; that finding is tested by itself.
         EXPECT_EQ(lines.back(), "A save changes QOR_Skin.xml from line 1 on");
         lines.pop_back();
@@ -40,7 +41,7 @@ TEST_F(SkinCheckTest, ASavedSkinHasNoFindings) {
     document.addElement(std::move(element));
     SkinWriter writer(folder_.path());
     ASSERT_TRUE(saveSkin(document, writer, folder_.path(), {}).succeeded());
-    EXPECT_EQ(checkSkin(folder_.path(), folder_.path()), Lines{});
+    EXPECT_EQ(checkSkin(folder_.path()), Lines{});
 }
 
 TEST_F(SkinCheckTest, SourcesAndResources) {
@@ -62,6 +63,40 @@ TEST_F(SkinCheckTest, SourcesAndResources) {
                "Load, element 2 (Image: zz): its source \"zz\" names no resource"}));
 }
 
+TEST_F(SkinCheckTest, FilesThatMeetInOnePlace) {
+    folder_.file("Media/x.png", "x");
+    folder_.file("pics/X.png", "other");
+    const std::string resources =
+        "<Resource Type='Image' Name='a'><File>pics\\X.png</File></Resource>"
+        "<Resource Type='Image' Name='b'><File>Media\\x.png</File></Resource>";
+    EXPECT_EQ(check(resources),
+              (Lines{"Resources \"a\" and \"b\" have one file name, x.png: a save keeps one file",
+                     "A save over this folder is refused: two files have one name, " +
+                         (folder_ / "Media/x.png").string() + " and " +
+                         (folder_ / "pics/X.png").string() +
+                         ", and the second would take the place of the first"}));
+    std::filesystem::rename(folder_ / "Media", folder_ / "other");
+    EXPECT_EQ(check("<Resource Type='Image' Name='a'><File>pics\\X.png</File></Resource>"
+                    "<Resource Type='Image' Name='b'><File>other\\x.png</File></Resource>"),
+              Lines{"Resources \"a\" and \"b\" have one file name, x.png: a save keeps one file"});
+}
+
+TEST_F(SkinCheckTest, OneFileUnderTwoNamesIsNoFinding) {
+    folder_.file("Media/x.png", "x");
+    EXPECT_EQ(check("<Resource Type='Image' Name='a'><File>Media\\x.png</File></Resource>"
+                    "<Resource Type='Image' Name='b'><File>MEDIA\\.\\X.png</File></Resource>"),
+              Lines{});
+}
+
+TEST_F(SkinCheckTest, WritesNothing) {
+    folder_.file("QOR_Skin.xml",
+                 "<Skin name='Nova'><Layout Screen='Load'><LayoutElement Type='Box'>"
+                 "<Pos W='9' H='9'/><Modifier/></LayoutElement></Layout></Skin>");
+    systemCalls = {};
+    EXPECT_EQ(checkSkin(folder_.path()), Lines{"A save changes QOR_Skin.xml from line 1 on"});
+    EXPECT_EQ(systemCalls.writes, 0);
+}
+
 TEST_F(SkinCheckTest, EmptyFileNames) {
     EXPECT_EQ(check("<Resource Type='Image' Name='a'><File></File></Resource>"
                     "<Resource Type='Image' Name='b'><File>Media\\</File></Resource>"),
@@ -70,9 +105,8 @@ TEST_F(SkinCheckTest, EmptyFileNames) {
 
 TEST_F(SkinCheckTest, ASkinWithoutAName) {
     folder_.file("QOR_Skin.xml", "<Skin/>");
-    EXPECT_EQ(checkSkin(folder_.path(), folder_.path()),
-              (Lines{"The skin has no name: it cannot be saved",
-                     "A save changes QOR_Skin.xml from line 1 on"}));
+    EXPECT_EQ(checkSkin(folder_.path()), (Lines{"The skin has no name: it cannot be saved",
+                                                "A save changes QOR_Skin.xml from line 1 on"}));
 }
 
 TEST_F(SkinCheckTest, ElementsOffTheScreen) {
@@ -122,15 +156,15 @@ TEST_F(SkinCheckTest, CharactersAndMendedLines) {
     folder_.file("QOR_Skin.xml",
                  "<Skin name=\"x\">\n<Information>\n<Author>a < b</Author>\n</Information>\n"
                  "</Skin>\n");
-    EXPECT_EQ(checkSkin(folder_.path(), folder_.path()),
+    EXPECT_EQ(checkSkin(folder_.path()),
               (Lines{"Line 3 is no XML and was read as the text that it shows",
                      "A save changes QOR_Skin.xml from line 1 on"}));
 }
 
 TEST_F(SkinCheckTest, AnUnreadableSkinIsAnError) {
-    EXPECT_THROW((void)checkSkin(folder_.path(), folder_.path()), SkinReadError);
+    EXPECT_THROW((void)checkSkin(folder_.path()), SkinReadError);
     folder_.file("QOR_Skin.xml", "");
-    EXPECT_THROW((void)checkSkin(folder_.path(), folder_.path()), SkinReadError);
+    EXPECT_THROW((void)checkSkin(folder_.path()), SkinReadError);
 }
 
 } // namespace tarvel

@@ -62,6 +62,10 @@ TEST(HexToDec, CountsOtherCharactersAsZeroInTheirPlace) {
         {"1 1", 257},
         {"-1", 1},
         {"zz", 0},
+        {"\u00E41", 1}, // one character of two bytes
+        {"1\u00E4", 16},
+        {"1\u4E2D\u00E41", 0x1001},
+        {"\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E4\u00E41", 1},
         {"123456", 0x123456},
         {"789abc", 0x789ABC},
         {"DEF0", 0xDEF0},
@@ -108,12 +112,26 @@ TEST(Alpha, IsReadFromTheThirdAndFourthCharacter) {
         int opacity;
     };
     constexpr Case cases[] = {
-        {"", 100},          {"0xFF000000", 100}, {"0xff000000", 100},
-        {"0x80123456", 50}, {"0x00FFFFFF", 0},   {"0x7FFFFFFF", 50},
-        {"0x01FFFFFF", 0},  {"0x02FFFFFF", 1},   {"0x", 0},
-        {"0", 0},           {"0xF", 6},          {"0xFF", 100},
-        {"0xZZ000000", 0},  {"0x8Z000000", 50},  {"..80......", 50},
-        {"FFFF", 100},      {"#80FF00", 6}, // the digits 0F
+        {"", 100},
+        {"0xFF000000", 100},
+        {"0xff000000", 100},
+        {"0x80123456", 50},
+        {"0x00FFFFFF", 0},
+        {"0x7FFFFFFF", 50},
+        {"0x01FFFFFF", 0},
+        {"0x02FFFFFF", 1},
+        {"0x", 0},
+        {"0", 0},
+        {"0xF", 6},
+        {"0xFF", 100},
+        {"0xZZ000000", 0},
+        {"0x8Z000000", 50},
+        {"..80......", 50},
+        {"FFFF", 100},
+        {"#80FF00", 6}, // the digits 0F
+        {"\u00E4\u00E480FF0000", 50},
+        {"0x\u00E48FF0000", 3}, // the digits 08
+        {"0x8\u00E4FF0000", 50},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(getAlpha(c.text), c.opacity) << '"' << c.text << '"';
@@ -161,6 +179,9 @@ TEST(Color, IsReadFromTheFifthToTenthCharacter) {
         {"0xFF10", makeColor(0x10, 0, 0)},
         {"0xFF10203", makeColor(0x10, 0x20, 3)},
         {"x", 0},
+        {"0xFF\u00E4\u00E912\u00F64", makeColor(0, 0x12, 4)},
+        {"\u00E4\u00E4FF102030", makeColor(0x10, 0x20, 0x30)},
+        {"0xFF\u4E2D", 0},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(getColor(c.text), c.color) << '"' << c.text << '"';

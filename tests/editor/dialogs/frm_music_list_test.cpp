@@ -30,6 +30,7 @@ class FrmMusicListTest : public QObject, protected test::MusicFixture {
     void removalGoesOnWithTheNextEntry();
     void droppedMusicIsAdded();
     void otherDropsAreRefused();
+    void filesThatASkinCannotHoldAreRefused();
     void missingFilesAreMarked();
     void selectedFileIsPlayed();
     void otherFileTakesThePlace();
@@ -177,6 +178,29 @@ void FrmMusicListTest::droppedMusicIsAdded() {
     QCOMPARE(list.item(4)->text(), other);
     QCOMPARE(music().musicFiles[3], folder_.document("SONG.WMA"));
     QCOMPARE(music().lstMusic.back(), 4);
+}
+
+void FrmMusicListTest::filesThatASkinCannotHoldAreRefused() {
+    setMusic(test::musicOptions(true, false, true, false));
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<QListWidget>(*dialog, "lstMusic");
+    for (const char* name : {"a.wma", "b\\c.wma", "d\\e.wma"}) {
+        folder_.file(name, "music");
+    }
+    const auto problem = [&](const char* name) {
+        return "The path of a skin's file cannot hold a backslash: " + inFolder(name);
+    };
+    prompts_->fileChoices << QStringList(
+        {inFolder("b\\c.wma"), inFolder("a.wma"), inFolder("d\\e.wma")});
+    test::click(control<QPushButton>(*dialog, "cmdAdd"));
+    const QString both = problem("b\\c.wma") + '\n' + problem("d\\e.wma");
+    QTRY_COMPARE(prompts_->messages, QStringList(both));
+    QCOMPARE(test::rowTexts(list), QStringList(inFolder("a.wma")));
+    QVERIFY(test::dropFiles(*list.viewport(), {inFolder("b\\c.wma")}));
+    QTRY_COMPARE(prompts_->messages, QStringList({both, problem("b\\c.wma")}));
+    QCOMPARE(list.count(), 1);
+    QCOMPARE(music().lstMusic.size(), 1U);
 }
 
 void FrmMusicListTest::otherDropsAreRefused() {

@@ -55,6 +55,7 @@ class FrmResourcesTest : public QObject, protected test::ResourcesFixture {
     void droppedFileIsFilledIn();
     void droppedFileShowsTheCustomFrame();
     void otherDropsAreRefused();
+    void filesThatASkinCannotHoldAreRefused();
     void aFileMayBeFilledInBeforeOpening();
     void worksByKeysAlone();
     void closes_data();
@@ -417,6 +418,22 @@ void FrmResourcesTest::droppedFileShowsTheCustomFrame() {
     QVERIFY(at<QWidget>("fraCustom").isVisible());
     QVERIFY(!at<QWidget>("fraPreset").isVisible());
     QCOMPARE(at<QLineEdit>("txtRes").text(), "a");
+}
+
+void FrmResourcesTest::filesThatASkinCannotHoldAreRefused() {
+    open();
+    const QString refused = picture("a\\b.png", Qt::red);
+    const QString message = "The path of a skin's file cannot hold a backslash: " + refused;
+    prompts_->fileChoices << QStringList(refused);
+    test::click(at<QPushButton>("cmdBrowse"));
+    QTRY_COMPARE(prompts_->messages, QStringList(message));
+    QCOMPARE(prompts_->lastOwner, dialog_.get());
+    QVERIFY(test::dropFiles(*dialog_, {refused}));
+    QTRY_COMPARE(prompts_->messages, QStringList({message, message}));
+    QCOMPARE(at<QLabel>("lblFile").text(), "");
+    QCOMPARE(at<QLineEdit>("txtRes").text(), "");
+    test::click(at<QPushButton>("cmdAdd"));
+    QVERIFY(resources().empty());
 }
 
 void FrmResourcesTest::otherDropsAreRefused() {

@@ -60,6 +60,8 @@ class VideoStageTest : public QObject {
     void filesThatCannotBePlayed();
     void failedVideoIsTriedAgainWhenShownAnew();
     void barredFileIsNotOpened();
+    void isSettledWhenEachVideoThatCanBeSeenIs();
+    void isSettledWithoutVideosThatAreNotShown();
     void playersAreLimited();
     void screensShareTheLimit();
 
@@ -303,6 +305,36 @@ void VideoStageTest::barredFileIsNotOpened() {
     stage.show(document, menu);
     QCOMPARE(playersOf(stage), 0);
     QVERIFY(stage.problem(1).isEmpty());
+}
+
+void VideoStageTest::isSettledWhenEachVideoThatCanBeSeenIs() {
+    VideoStage stage;
+    SkinDocument document = films(1);
+    document.addElement(videoOf(folder_.path("missing.wmv")));
+    QVERIFY(stage.isSettled(document)); // nothing is shown yet
+    stage.show(document, menu);
+    QVERIFY(!stage.isSettled(document)); // the film has no frame yet
+    QTRY_VERIFY_WITH_TIMEOUT(hasFrame(stage, 1), patience);
+    QVERIFY(stage.isSettled(document));
+}
+
+void VideoStageTest::isSettledWithoutVideosThatAreNotShown() {
+    SkinDocument document;
+    Element barred = videoOf(film());
+    barred.elementControl.picture = PictureContent::barred;
+    document.addElement(std::move(barred));
+    for (const QRectF& place :
+         {QRectF(700, 0, 10, 10), QRectF(0, -50, 10, 50), QRectF(9, 9, 0, 9)}) {
+        document.addElement(imageOf(ControlKind::vid, place, film()));
+    }
+    VideoStage stage;
+    stage.show(document, menu);
+    QVERIFY(stage.isSettled(document));
+    document.setCurrentLayout(title);
+    document.addElement(videoOf(film()));
+    QVERIFY(stage.isSettled(document)); // it is on another screen
+    stage.show(document, title);
+    QVERIFY(!stage.isSettled(document));
 }
 
 void VideoStageTest::playersAreLimited() {

@@ -141,19 +141,19 @@ void BehaviourStoredTest::attachedModifierIsSaved_data() {
     QTest::addColumn<QString>("frame");
     QTest::addColumn<QStringList>("typed"); // names of text boxes, each before its text
     QTest::addColumn<QStringList>("block");
-    QTest::newRow("Range") << "Fade" << 1 << "fraRange"
+    QTest::newRow("Range") << "Fade" << 2 << "fraRange"
                            << QStringList({"txtRangeX", "-0.5", "txtRangeY", "12"})
                            << QStringList({"<Modifier Type=\"Fade\" Target=\"Border\">",
                                            "\t<Range X=\"-0.5\" Y=\"12\"></Range>", "\t",
                                            "</Modifier>", ""});
-    QTest::newRow("Bounds") << "Slide" << 2 << "fraBounds"
+    QTest::newRow("Bounds") << "Slide" << 0 << "fraBounds"
                             << QStringList({"txtBoundsL", "1", "txtBoundsT", "2", "txtBoundsR", "3",
                                             "txtBoundsB", "4"})
                             << QStringList({"<Modifier Type=\"Slide\">",
                                             "\t<Bounds L=\"1\" T=\"2\" R=\"3\" B=\"4\"></Bounds>",
                                             "\t", "</Modifier>", ""});
     const QString channel = "\t<%1 Enable=\"%2\" Min=\"%3\" Max=\"255\" Period=\"1000\"></%1>";
-    QTest::newRow("Color") << "Tint" << 0 << "fraColor" << QStringList()
+    QTest::newRow("Color") << "Tint" << 1 << "fraColor" << QStringList()
                            << QStringList({"<Modifier Type=\"Tint\" Target=\"Fill\">",
                                            channel.arg("Alpha", "False", "0"),
                                            channel.arg("Red", "True", "25"),
@@ -161,7 +161,7 @@ void BehaviourStoredTest::attachedModifierIsSaved_data() {
                                            channel.arg("Blue", "False", "0"), "\t", "</Modifier>",
                                            ""});
     QTest::newRow("without values")
-        << "Wobble" << 0 << QString() << QStringList()
+        << "Wobble" << 1 << QString() << QStringList()
         << QStringList({"<Modifier Type=\"Wobble\" Target=\"Position\"></Modifier>", ""});
 }
 

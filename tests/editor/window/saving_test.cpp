@@ -190,7 +190,9 @@ void SavingTest::theLaterOfTwoFilesOfOneNameIsKept() {
     }
     const DialogWatch watch;
     save(editor);
-    QCOMPARE(editor.prompts.messages, QStringList());
+    QCOMPARE(editor.prompts.messages,
+             QStringList("These file names stand for two files each, and the later one was kept: "
+                         "pic.png"));
     QCOMPARE(watch.seen(), QStringList("frmInstructions"));
     QCOMPARE(QDir(editor.path("out/Media")).entryList(QDir::Files), QStringList("pic.png"));
     QCOMPARE(bytesOf(editor.path("out/Media/pic.png")), QByteArray("two/pic.png"));

@@ -44,6 +44,8 @@ class SkinFilesTest : public QObject {
     void saveStopsWhenACopyFails();
     void viewXmlShowsTheText();
     void backgroundIsLoadedAndUnloaded();
+    void pathsThatASkinCannotHaveAreRefused();
+    void aFileThatWouldReplaceAnotherOnesOriginalStopsTheSave();
     void inertEntries();
     void closeCancelled();
     void closeWithoutSaving();
@@ -261,6 +263,50 @@ void SkinFilesTest::backgroundIsLoadedAndUnloaded() {
     editor.entry("mnuUnloadBg")->trigger();
     QVERIFY(!editor.window.document().settings().background.loaded);
     QCOMPARE(editor.window.document().settings().background.path, loaded.path);
+}
+
+void SkinFilesTest::pathsThatASkinCannotHaveAreRefused() {
+    Editor editor;
+    editor.nameSkin("Nova");
+    const QString picture = editor.path("a\\b.jpg");
+    QVERIFY(QFile::copy(QStringLiteral("%1/aurora/Media/aurora.jpg").arg(examples), picture));
+    editor.prompts.fileChoices << QStringList(picture);
+    editor.entry("mnuLoadBg")->trigger();
+    const QString file = "The path of a skin's file cannot hold a backslash: " + picture;
+    QTRY_COMPARE(editor.prompts.messages, QStringList(file));
+    QVERIFY(!editor.window.document().settings().background.loaded);
+
+    const QString refused = editor.path("c\\d");
+    QVERIFY(QDir().mkpath(refused));
+    const QString folder = "The path of a skin's folder cannot hold a backslash: " + refused;
+    editor.prompts.messages.clear();
+    editor.prompts.folders << refused;
+    editor.entry("mnuLoad")->trigger();
+    QCOMPARE(editor.prompts.messages, QStringList(folder));
+    editor.prompts.folders << refused;
+    editor.entry("mnuSave")->trigger();
+    QCOMPARE(editor.prompts.messages, QStringList({folder, folder + '/'}));
+    QVERIFY(QDir(refused).isEmpty());
+}
+
+void SkinFilesTest::aFileThatWouldReplaceAnotherOnesOriginalStopsTheSave() {
+    Editor editor;
+    editor.nameSkin("Nova");
+    const QString out = editor.path("out");
+    const QString kept = out + "/Media/x.jpg";
+    const QString other = out + "/pics/x.jpg";
+    for (const QString& file : {kept, other}) {
+        QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+        QVERIFY(QFile::copy(QStringLiteral("%1/aurora/Media/aurora.jpg").arg(examples), file));
+        editor.window.document().addRes("x", documentPath(hostPathOf(file)));
+    }
+    editor.prompts.folders << out;
+    editor.entry("mnuSave")->trigger();
+    const QString message = "Nothing was saved: two files have one name, " + kept + " and " +
+                            other + ", and the second would take the place of the first";
+    QCOMPARE(editor.prompts.messages, QStringList(message));
+    QVERIFY(!QFile::exists(out + "/QOR_Skin.xml"));
+    QVERIFY(editor.window.statusBar()->currentMessage().contains(message));
 }
 
 void SkinFilesTest::inertEntries() {

@@ -31,7 +31,8 @@ SkinSize defaultSize(std::optional<SkinSize> natural) {
 // The colour text: in a Color child of TextColor, or in TextColor itself.
 std::string_view colorText(const ElementDescription& description) {
     const XmlNode node = description.textColorNode;
-    return childTagged(node, "Color") ? getContent(node, "Color") : description.textColor;
+    const auto color = node ? getContent(node, "Color") : std::string_view{};
+    return color.empty() ? description.textColor : color;
 }
 
 void read(Element& element, const ElementDescription& description) {

@@ -1,0 +1,20 @@
+// Resources by their lower-cased names.
+#include "document/resource_index.h"
+
+#include "text/text_case.h"
+
+namespace tarvel {
+
+ResourceIndex::ResourceIndex(const std::vector<Resource>& resources) {
+    byName_.reserve(resources.size());
+    for (const Resource& resource : resources) {
+        byName_.insert_or_assign(lowerCased(resource.name), &resource);
+    }
+}
+
+const Resource* ResourceIndex::find(std::string_view name) const {
+    const auto found = byName_.find(lowerCased(name));
+    return found == byName_.end() ? nullptr : found->second;
+}
+
+} // namespace tarvel

@@ -1,0 +1,145 @@
+// Files are told apart by what they are on the disk, whatever path leads to them.
+#include "skinfile/save_plan.h"
+
+#include "files/host_paths.h"
+#include "text/text_case.h"
+
+#include <map>
+#include <optional>
+#include <sys/stat.h>
+#include <unordered_map>
+#include <utility>
+
+namespace tarvel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using FileId = std::pair<dev_t, ino_t>;
+
+std::optional<FileId> idOf(const fs::path& file) {
+    struct stat status {};
+    if (::stat(file.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return FileId{status.st_dev, status.st_ino};
+}
+
+class Planner {
+  public:
+    Planner(const SkinSettings& settings, const fs::path& folder)
+        : settings_(settings)
+        , folder_(folder)
+        , prefix_(withSlash(documentPath(folder))) {}
+
+    SavePlan run() {
+        for (const std::string_view below : {mediaFolder, musicFolder}) {
+            refuseFolderOutside(below);
+        }
+        planAll();
+        for (const auto& [target, from] : taken_) {
+            const auto kept = sources_.find(target);
+            if (kept != sources_.end() && plan_.obstacle.empty()) {
+                plan_.obstacle = meetingProblem(kept->second, from);
+            }
+        }
+        return std::move(plan_);
+    }
+
+  private:
+    // A place that a copy goes to.
+    struct Place {
+        fs::path path;
+        std::optional<FileId> target; // what lies there
+        std::optional<FileId> source; // of the first copy that goes there
+        bool isShared = false;
+    };
+
+    void refuseFolderOutside(std::string_view below) {
+        const fs::path path = finder_.hostPath(prefix_ + std::string(below));
+        std::error_code error;
+        if (plan_.obstacle.empty() && fs::is_directory(path, error) && !liesWithin(folder_, path)) {
+            plan_.obstacle =
+                path.parent_path().string() + " is a link that leads out of the skin's folder";
+        }
+    }
+
+    void planAll() {
+        for (const Resource& resource : settings_.resources) {
+            if (resource.isFile && resource.outside) {
+                plan_.leftOut.push_back(resource.name);
+            } else if (resource.isFile) {
+                plan(PlannedCopy::What::resource, resource.content, mediaFolder);
+            }
+        }
+        if (settings_.background.loaded) {
+            plan(PlannedCopy::What::background, settings_.background.path, mediaFolder);
+        }
+        for (const int index : settings_.music.lstMusic) {
+            plan(PlannedCopy::What::music,
+                 settings_.music.musicFiles.at(static_cast<std::size_t>(index)), musicFolder);
+        }
+    }
+
+    void plan(PlannedCopy::What what, const std::string& source, std::string_view below) {
+        const auto name = trimtofile(source);
+        PlannedCopy copy{what, std::string(name), finder_.hostPath(source), {}};
+        const auto sourceId = idOf(copy.from);
+        Place& place = placeOf(below, name, sourceId);
+        copy.to = place.path;
+        if (sourceId) {
+            sources_.try_emplace(*sourceId, copy.from);
+            if (place.source != sourceId && !std::exchange(place.isShared, true)) {
+                plan_.sharedNames.push_back(copy.name);
+            }
+        }
+        if (source == prefix_ + std::string(below).append(name) ||
+            (sourceId && sourceId == place.target)) {
+            return; // it lies there already
+        }
+        if (sourceId && place.target) {
+            taken_.emplace_back(*place.target, copy.from);
+        }
+        plan_.copies.push_back(std::move(copy));
+    }
+
+    Place& placeOf(std::string_view below, std::string_view name,
+                   const std::optional<FileId>& source) {
+        const std::string folder = prefix_ + std::string(below);
+        fs::path path = finder_.hostPath(folder + std::string(name));
+        const auto target = idOf(path);
+        // What does not exist yet is found by the name of the copy that makes it.
+        const std::string key = target ? path.string() : folder + lowerCased(name);
+        const auto [place, isFirst] = places_.try_emplace(key);
+        if (isFirst) {
+            place->second = {target ? writtenPath(folder_, path) : path, target, source};
+        }
+        if (!place->second.source) {
+            place->second.source = source;
+        }
+        return place->second;
+    }
+
+    static std::string meetingProblem(const fs::path& kept, const fs::path& taker) {
+        return "two files have one name, " + kept.string() + " and " + taker.string() +
+               ", and the second would take the place of the first";
+    }
+
+    const SkinSettings& settings_;
+    const fs::path& folder_;
+    std::string prefix_;
+    FileFinder finder_;
+    std::unordered_map<std::string, Place> places_;
+    std::map<FileId, fs::path> sources_;             // all that a save reads
+    std::vector<std::pair<FileId, fs::path>> taken_; // files that lose their place, and to what
+    SavePlan plan_;
+};
+
+} // namespace
+
+SavePlan planSave(const SkinSettings& settings, const fs::path& folder) {
+    return Planner(settings, folder).run();
+}
+
+} // namespace tarvel
