@@ -144,6 +144,19 @@ TEST(SkinText, AnAddedLineIsCountedInWhatWasMended) {
     EXPECT_EQ(elementIn(tree).child(0).content(), "x\n<y");
 }
 
+TEST(SkinText, ALastLineWithoutItsEndIsNoneOfTheWriters) {
+    std::string text = written("\t\t<Author>1 < 2</Author>\n", "\t\t<Entry>e</Entry>\n",
+                               "\t\t<LayoutElement Type=\"Box\">\n", "");
+    SkinTextNotes notes;
+    (void)readSkinText(text, notes);
+    EXPECT_TRUE(notes.writerForm);
+    text.resize(text.find("</Skin>") + std::string_view("</Skin>").size());
+    const XmlTree tree = readSkinText(text, notes);
+    EXPECT_FALSE(notes.writerForm);
+    EXPECT_EQ(notes.mendedLines, std::vector<int>{3});
+    EXPECT_EQ(tree.root().child(0).child(0).content(), "1 < 2");
+}
+
 TEST(SkinText, ReferencesBeyondAsciiAreDecoded) {
     const std::string value = "&#8364; &#xE4; &#65; &#1114112; &#55296; &# &#x; &#228";
     SkinTextNotes notes;
