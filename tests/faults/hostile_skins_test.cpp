@@ -155,13 +155,14 @@ class HostileSkins : public testing::TestWithParam<HostileSkin> {};
 
 void expectHarmless(const std::vector<std::string>& command, std::size_t fileSize) {
     ChildOptions options;
-    options.seconds = 20;
+    options.seconds = 30; // beside other work on the machine
     const ChildResult result = runChild(command, options);
     const std::string what = command[1];
-    std::cout << "  " << what << ": exit " << result.code << ", " << result.seconds << " s, "
-              << result.peakKilobytes / 1024 << " MB of file's " << fileSize / 1024 << " KB\n";
+    std::cout << "  " << what << ": exit " << result.code << ", " << result.processorSeconds
+              << " s, " << result.peakKilobytes / 1024 << " MB of file's " << fileSize / 1024
+              << " KB\n";
     EXPECT_EQ(result.signal, 0) << what;
-    EXPECT_LT(result.seconds, 5) << what;
+    EXPECT_LT(result.processorSeconds, 5) << what;
     EXPECT_LT(static_cast<double>(result.peakKilobytes) * 1024,
               10.0 * static_cast<double>(fileSize) + 100e6)
         << what;

@@ -42,6 +42,7 @@ class SkinCheck {
             }
         }
         checkDropped();
+        tree_ = {}; // a large one takes as much memory as what follows
         checkSave(tempFolder);
         return std::move(findings_);
     }
