@@ -34,6 +34,10 @@ std::vector<std::string> environmentOf(const ChildOptions& options) {
     return texts;
 }
 
+double secondsOf(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
 } // namespace
 
 Child::Child(const std::vector<std::string>& command, const ChildOptions& options)
@@ -97,6 +101,7 @@ ChildResult Child::wait() {
     result.signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     result.seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count();
+    result.processorSeconds = secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime);
     result.peakKilobytes = usage.ru_maxrss;
     return result;
 }

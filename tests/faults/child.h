@@ -14,6 +14,7 @@ struct ChildResult {
     int signal = 0; ///< that ended it; 0 for none
     std::string err;
     double seconds = 0;
+    double processorSeconds = 0;
     long peakKilobytes = 0; ///< resident
 };
 

@@ -45,6 +45,7 @@ class SkinCheck {
             }
         }
         checkDropped();
+        tree_ = {}; // a large one takes as much memory as what follows
         checkSave();
         return std::move(findings_);
     }

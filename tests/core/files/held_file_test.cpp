@@ -10,6 +10,7 @@
 #include <thread>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace tarvel {
 namespace {
@@ -58,16 +59,22 @@ TEST(HeldFile, IsNeverHeldTwiceWhileHoldersDeleteIt) {
     const auto work = [&] {
         for (int i = 0; i < 3000; ++i) {
             if (auto held = HeldFile::tryHold(folder / "lock")) {
-                together = together || ++holders != 1;
+                together = ++holders != 1 || together;
                 ++holds;
+                ::usleep(20); // the others go on meanwhile
                 --holders;
                 held->remove();
             }
         }
     };
-    std::thread other(work);
+    std::vector<std::thread> others;
+    for (int i = 0; i < 3; ++i) {
+        others.emplace_back(work);
+    }
     work();
-    other.join();
+    for (std::thread& other : others) {
+        other.join();
+    }
     EXPECT_FALSE(together);
     EXPECT_GT(holds, 100);
 }

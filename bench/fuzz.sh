@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Feeds made-up bytes to everything that reads files, under the sanitizers, seeded by the fixtures.
+# Usage: bench/fuzz.sh [SECONDS [TARGET...]], 600 seconds for each target by default.
+#
+# Ends with an error when a target crashed, hung or took too much memory; the bytes that did it are in
+# build/fuzz/found.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+seconds=${1:-600}
+shift || true
+targets=("$@")
+[ ${#targets[@]} -gt 0 ] || targets=(reader tag_scanner encodings catalogue recovery)
+
+scripts/setup fuzz
+cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DTARVEL_FUZZ=ON -DTARVEL_UI=OFF -DTARVEL_TESTS=OFF -DTARVEL_WERROR=ON >/dev/null
+cmake --build build/fuzz
+
+# The seeds of a target, from the skins and catalogues that the tests have.
+seeds() {
+    local out=build/fuzz/seeds/$1 file
+    rm -rf "$out"
+    mkdir -p "$out"
+    case $1 in
+    recovery)
+        build/fuzz/src/fuzz_recovery_seeds "$out" tests/fixtures/*/in examples/*/
+        return
+        ;;
+    catalogue)
+        cp assets/modifiers.xml "$out"
+        ;;
+    esac
+    local number=0
+    for file in tests/fixtures/*/in/QOR_Skin.xml examples/*/QOR_Skin.xml tests/fuzz/found/"$1"/*; do
+        [ -f "$file" ] || continue
+        number=$((number + 1))
+        if [ "$1" = tag_scanner ]; then
+            { echo Name; cat "$file"; } >"$out/$number"
+        else
+            cp "$file" "$out/$number"
+        fi
+    done
+}
+
+failed=0
+for target in "${targets[@]}"; do
+    seeds "$target"
+    mkdir -p "build/fuzz/corpus/$target" build/fuzz/found
+    log=build/fuzz/$target.log
+    code=0
+    build/fuzz/src/"fuzz_$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
+        -max_len=65536 -print_final_stats=1 -artifact_prefix="build/fuzz/found/$target-" \
+        "build/fuzz/corpus/$target" "build/fuzz/seeds/$target" >"$log" 2>&1 || code=$?
+    runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
+    covered=$(grep -o 'cov: [0-9]*' "$log" | tail -n 1)
+    if [ "$code" -eq 0 ]; then
+        echo "$target: $runs inputs in $seconds s, ${covered:-cov: 0}"
+    else
+        echo "$target: failed, see $log" >&2
+        grep -m 1 -E 'ERROR|runtime error' "$log" >&2 || tail -n 5 "$log" >&2
+        failed=1
+    fi
+done
+exit $failed
