@@ -18,18 +18,33 @@ std::string freshLabel(const Element& element) {
     return rulesOf(element.elementControl.kind).label(element);
 }
 
+namespace {
+
+Element updated(const SkinDocument& document, int elementId, const PanelValues& values) {
+    const Element& before = document.element(elementId);
+    Element after = before;
+    takePanel(values, document.settings().resources, after);
+    after.label = freshLabel(after);
+    if (before.label.starts_with(lockPrefix)) {
+        after.label.insert(0, lockPrefix);
+    }
+    return after;
+}
+
+} // namespace
+
+bool wouldUpdate(const SkinDocument& document, int elementId, const PanelValues& values) {
+    return elementId > 0 && updated(document, elementId, values) != document.element(elementId);
+}
+
 bool updateControls(SkinDocument& document, int elementId, const PanelValues& values) {
     if (elementId <= 0) {
         return false;
     }
+    Element after = updated(document, elementId, values);
     const Element& before = document.element(elementId);
-    Element after = before;
-    takePanel(values, document.settings().resources, after);
-    std::string label = freshLabel(after);
-    if (before.label.starts_with(lockPrefix)) {
-        label.insert(0, lockPrefix);
-    }
     const int screen = before.elementLayout;
+    std::string label = std::exchange(after.label, before.label);
     const bool recordChanged = after != before;
     const bool labelChanged = label != before.label;
     if (recordChanged) {
