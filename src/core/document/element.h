@@ -4,6 +4,7 @@
 // Positions and sizes are skin pixels of the 640 by 480 screen, origin top left, y downward.
 #pragma once
 
+#include "document/kind_list.h"
 #include "document/shared_value.h"
 #include "text/value_encodings.h"
 #include "text/xml_node.h"
@@ -15,14 +16,7 @@
 
 namespace tarvel {
 
-/// Kind codes as they are kept. A code that no kind has is possible and counts as Menu.
-enum class ElementKind : std::int16_t { Box = 1, Line = 2, Image = 3, Text = 4, Menu = 5 };
-
-/// The control that draws an element. Images have three, chosen by the file's last three
-/// characters. What is known of a kind stands in its record, see element_kinds.h.
-enum class ControlKind : std::uint8_t { box, lin, img, png, vid, txt, qor };
-
-/// "box", "lin", "img", "png", "vid", "txt" or "qor".
+/// The name of a control: "box", "lin", "img", "png", "vid", "txt" or "qor".
 [[nodiscard]] std::string_view controlName(ControlKind kind);
 
 enum class FillStyle : std::uint8_t { solid = 0, transparent = 1 };

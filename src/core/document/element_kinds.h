@@ -1,8 +1,7 @@
 // The kinds of elements: a record for each with everything that the core knows of it, and the ways
 // to find a record. What is the same for all kinds stands elsewhere and asks here.
 //
-// A new kind is its two enumerators in element.h, its record in a file in kinds/, and its lines in
-// the lists below.
+// A new kind is its record in a file in kinds/, and its codes and lines in kind_list.h.
 #pragma once
 
 #include "document/element.h"
@@ -78,19 +77,6 @@ struct KindRules {
     /// The messages that say why the values make no new element; none when they do.
     std::vector<std::string_view> (*faults)(const PanelValues&);
 };
-
-extern const KindRules boxKind;
-extern const KindRules lineKind;
-extern const KindRules imageKind;
-extern const KindRules textKind;
-extern const KindRules menuKind;
-
-/// All kinds, by their codes from 1 on.
-inline constexpr std::array elementKinds = {&boxKind, &lineKind, &imageKind, &textKind, &menuKind};
-
-/// The kinds that controls draw, by ControlKind.
-inline constexpr std::array controlKinds = {&boxKind,   &lineKind, &imageKind, &imageKind,
-                                            &imageKind, &textKind, &menuKind};
 
 /// The rules of a kind. A code that no kind has counts as Menu.
 [[nodiscard]] inline const KindRules& rulesOf(ElementKind kind) {

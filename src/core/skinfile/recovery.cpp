@@ -163,8 +163,10 @@ void writeControl(ByteWriter& out, const ElementControl& control) {
     writeShared(out, control.font, writeFont);
 }
 
+constexpr auto lastControl = static_cast<ControlKind>(controlKinds.size() - 1);
+
 void readControl(ByteReader& in, ElementControl& control) {
-    control.kind = in.enumerator(ControlKind::qor);
+    control.kind = in.enumerator(lastControl);
     control.fillStyle = in.enumerator(FillStyle::transparent);
     control.borderStyle = in.enumerator(BorderStyle::solid);
     control.alignment = in.enumerator(TextAlignment::center);

@@ -15,8 +15,8 @@ class PictureCache;
 class PreviewArea;
 class SkinDocument;
 
-/// Shows lstR of the values with a preview, and puts into them what the user chooses. The values,
-/// the document and the cache of pictures are not owned.
+/// Shows the resource of the values with a preview, and puts into them what the user chooses. The
+/// values, the document and the cache of pictures are not owned.
 class ImageFrame : public QGroupBox {
     Q_OBJECT
 

@@ -16,7 +16,7 @@ class ClickLabel;
 class ColorWell;
 class Prompts;
 
-/// Shows lColor, fColor and txtAlpha of the values, and puts into them what the user does. The
+/// Shows border, fill and opacity of the values, and puts into them what the user does. The
 /// values and prompts are not owned.
 class SharedFrame : public QGroupBox {
     Q_OBJECT

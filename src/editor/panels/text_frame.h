@@ -13,7 +13,7 @@ namespace tarvel {
 class FontButton;
 class Prompts;
 
-/// Shows txtText and cmdFont of the values, and puts into them what the user does. The values and
+/// Shows text and font of the values, and puts into them what the user does. The values and
 /// prompts are not owned.
 class TextFrame : public QGroupBox {
     Q_OBJECT
