@@ -144,7 +144,7 @@ void SelectionMarks::setSel(const Element& element) {
 
 void SelectionMarks::setSelLine(const Element& element) {
     hideSels();
-    if (!(element.elementLocked)) {
+    if (element.elementLocked) {
         return; // its ends cannot be dragged
     }
     fraResize1_->showAt(handleCentre(element.elementControl, Handle::firstEnd));

@@ -53,6 +53,7 @@ class EditingTest : public QObject {
     void deleteWorksWhereverTheFocusIs();
     void deleteWithoutASelection();
     void pointerTellsWhatAPressDoes();
+    void pointerKeepsItsShapeDuringADrag();
     void positionFieldsMoveTheElement();
     void escapeTakesBackWhatWasTypedAsAPosition();
     void anotherButtonDuringADragIsIgnored();
@@ -440,6 +441,26 @@ void EditingTest::pointerTellsWhatAPressDoes() {
     QCOMPARE(shapeAt({150, 150}), Qt::SizeVerCursor);
     editor.chooseTool("optText");
     QCOMPARE(shapeAt({150, 120}), Qt::CrossCursor);
+}
+
+void EditingTest::pointerKeepsItsShapeDuringADrag() {
+    Editor editor;
+    editor.show();
+    editor.add(boxAt(100, 100, 100, 50));
+    editor.selectRow(1, 0);
+    const auto shape = [&] { return editor.pic()->cursor().shape(); };
+    QMouseEvent hover(QEvent::MouseMove, QPointF(200, 150),
+                      editor.pic()->mapToGlobal(QPointF(200, 150)), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(editor.pic(), &hover);
+    QCOMPARE(shape(), Qt::SizeFDiagCursor);
+    editor.press({200, 150});
+    editor.drag({20, 20}); // far from the handle, which cannot follow
+    settle();
+    QCOMPARE(shape(), Qt::SizeFDiagCursor);
+    editor.release({20, 20});
+    settle();
+    QCOMPARE(shape(), Qt::ArrowCursor);
 }
 
 void EditingTest::positionFieldsMoveTheElement() {
