@@ -75,7 +75,7 @@ class SaveRun {
     }
 
     bool copyMusic() {
-        for (const int index : settings_.music.lstMusic) {
+        for (const int index : settings_.music.rows) {
             const auto& file = settings_.music.musicFiles.at(static_cast<std::size_t>(index));
             if (!copyReported(file, "Music\\")) {
                 return false;

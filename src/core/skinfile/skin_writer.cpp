@@ -36,7 +36,7 @@ void SkinWriter::generateXML(SkinDocument& document) {
     const SkinSettings settings = document.settings();
     line(R"(<Skin name=")", settings.skinName, R"(">)");
     writeInformation(settings);
-    if (settings.music.optYesMusic) {
+    if (settings.music.hasMusic) {
         writeMusic(settings.music);
     }
     writeDelays(settings);
@@ -65,12 +65,12 @@ void SkinWriter::writeInformation(const SkinSettings& settings) {
 
 void SkinWriter::writeMusic(const MusicSettings& music) {
     writeLine("<Music>");
-    tagLine("PlayGlobal", onOff(music.chkGlobal));
-    tagLine("PlayRandom", onOff(music.chkRandom));
+    tagLine("PlayGlobal", onOff(music.playGlobal));
+    tagLine("PlayRandom", onOff(music.playRandom));
     // The dashboard finds the folder by itself: a ticked box has the state 1, so the line never
     // comes.
-    const int customState = music.chkCustom ? 1 : 0;
-    if (!music.lstMusic.empty() && customState == -1) {
+    const int customState = music.customMusic ? 1 : 0;
+    if (!music.rows.empty() && customState == -1) {
         tagLine("Directory", "Music");
     }
     writeLine("</Music>");

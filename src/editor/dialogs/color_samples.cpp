@@ -59,7 +59,7 @@ void ColorSample::addText(SampleText which) {
 
 void ColorSample::showColors(const SystemColors& colors) {
     look_ = colors.boxes.at(box_);
-    opacity_ = std::clamp(val(colors.txtAlpha.at(box_)) / 100, 0.0, 1.0);
+    opacity_ = std::clamp(val(colors.opacityTexts.at(box_)) / 100, 0.0, 1.0);
     for (const auto& [index, label] : texts_) {
         QPalette palette = label->palette();
         palette.setColor(QPalette::WindowText, qtColor(colors.texts.at(index)));

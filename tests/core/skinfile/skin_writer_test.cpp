@@ -180,12 +180,12 @@ TEST_F(SkinWriterTest, InformationLeavesOutEmptyFieldsAndMadeUsing) {
 
 TEST_F(SkinWriterTest, MusicOnlyWhenItIsOnAndNeverADirectory) {
     settings([](SkinSettings& s) {
-        s.music.chkGlobal = s.music.chkCustom = true;
+        s.music.playGlobal = s.music.customMusic = true;
         s.music.musicFiles = {"\\m\\a.wma"};
-        s.music.lstMusic = {0};
+        s.music.rows = {0};
     });
     EXPECT_EQ(generated().find("Music"), std::string::npos);
-    settings([](SkinSettings& s) { s.music.optYesMusic = true; });
+    settings([](SkinSettings& s) { s.music.hasMusic = true; });
     EXPECT_EQ(section("\t<Music>", "</Music>\n"), "\t<Music>\n"
                                                   "\t\t<PlayGlobal>On</PlayGlobal>\n"
                                                   "\t\t<PlayRandom>Off</PlayRandom>\n"
