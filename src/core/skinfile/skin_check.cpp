@@ -155,7 +155,7 @@ class SkinCheck {
 
     void checkSave(const std::filesystem::path& tempFolder) {
         SkinWriter writer(tempFolder);
-        writer.generateXML(document_);
+        writer.write(document_);
         const std::string& text = writer.xmlText();
         if (!fitsWindows1252(text)) {
             checkCharacters(text);
