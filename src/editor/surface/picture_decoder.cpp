@@ -1,12 +1,11 @@
 // From a file to an image, with an account of the memory before it is taken.
 #include "surface/picture_decoder.h"
 
-#include "surface/jpeg_passes.h"
-
 #include <QImageReader>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace tarvel {
@@ -20,6 +19,9 @@ constexpr qint64 sourcePixels = qint64{8} << 20;
 constexpr int unscaledSide = 4096;
 constexpr qint64 bytesPerPixel = 4; // of what is kept
 constexpr qint64 largestImage = largestPixels * bytesPerPixel;
+// A JPEG file that comes in several passes is held whole until the last one is read: two bytes for
+// each of up to four colours.
+constexpr qint64 jpegBytesPerPixel = 8;
 
 qint64 pixelsOf(QSize size) {
     return qint64{size.width()} * size.height();
@@ -53,9 +55,13 @@ struct Plan {
     QSize kept;    // and what is made of it
 };
 
+bool isJpegFile(const QImageReader& reader) {
+    return reader.format() == "jpeg";
+}
+
 // Has the reader decode a smaller image where the format can do that.
 Plan planFor(QImageReader& reader, QSize size, PictureUse use) {
-    const bool isJpeg = reader.format() == "jpeg";
+    const bool isJpeg = isJpegFile(reader);
     if (use == PictureUse::unscaled) {
         const QSize corner = size.boundedTo({unscaledSide, unscaledSide});
         if (!isJpeg) {
@@ -80,15 +86,29 @@ bool isFormatKept(QImage::Format format) {
            format == QImage::Format_ARGB32_Premultiplied;
 }
 
-// The most that is held at a time.
-qint64 bytesFor(const Plan& plan, QImage::Format format, qint64 passes) {
+// The most that is held at a time; `whole` is held while the image is decoded.
+qint64 bytesFor(const Plan& plan, QImage::Format format, qint64 whole) {
     const qint64 image = pixelsOf(plan.decoded) * QImage::toPixelFormat(format).bitsPerPixel() / 8;
     const qint64 converted = isFormatKept(format) ? 0 : pixelsOf(plan.decoded) * bytesPerPixel;
     const qint64 kept = plan.kept == plan.decoded ? 0 : pixelsOf(plan.kept) * bytesPerPixel;
     if (image > largestImage) {
-        return image + passes + largestDecoding; // no image of Qt becomes as large
+        return image + whole + largestDecoding; // no image of Qt becomes as large
     }
-    return std::max(passes + image, image + converted + kept);
+    return std::max(whole + image, image + converted + kept);
+}
+
+// The most that decoding the picture is going to hold; nothing for one that is too large.
+std::optional<qint64> memoryFor(QImageReader& reader, QSize size, PictureUse use) {
+    const bool isJpeg = isJpegFile(reader);
+    if (isJpeg && pixelsOf(size) > largestJpeg) {
+        return std::nullopt;
+    }
+    const Plan plan = planFor(reader, size, use);
+    const QImage::Format told = reader.imageFormat();
+    const QImage::Format format = told == QImage::Format_Invalid ? QImage::Format_ARGB32 : told;
+    const qint64 needed = bytesFor(plan, format, isJpeg ? pixelsOf(size) * jpegBytesPerPixel : 0);
+    const bool fits = pixelsOf(plan.decoded) <= largestPixels && needed <= largestDecoding;
+    return fits ? std::optional(needed) : std::nullopt;
 }
 
 struct Read {
@@ -98,7 +118,6 @@ struct Read {
 };
 
 Read readImage(QFile& file, PictureUse use, const MakeRoom& makeRoom) {
-    const qint64 passes = jpegPassesBytes(file);
     QImageReader reader(&file);
     // By the content, since names of files lie.
     reader.setDecideFormatFromContent(true);
@@ -107,14 +126,11 @@ Read readImage(QFile& file, PictureUse use, const MakeRoom& makeRoom) {
     }
     const QSize size = reader.size();
     if (!size.isEmpty()) {
-        const Plan plan = planFor(reader, size, use);
-        const QImage::Format told = reader.imageFormat();
-        const QImage::Format format = told == QImage::Format_Invalid ? QImage::Format_ARGB32 : told;
-        const qint64 needed = bytesFor(plan, format, passes);
-        if (pixelsOf(plan.decoded) > largestPixels || needed > largestDecoding) {
+        const auto needed = memoryFor(reader, size, use);
+        if (!needed) {
             return {{}, QStringLiteral("too large"), size};
         }
-        makeRoom(needed);
+        makeRoom(*needed);
     }
     QImage image = reader.read();
     if (image.isNull()) {
