@@ -19,9 +19,10 @@ constexpr qint64 sourcePixels = qint64{8} << 20;
 constexpr int unscaledSide = 4096;
 constexpr qint64 bytesPerPixel = 4; // of what is kept
 constexpr qint64 largestImage = largestPixels * bytesPerPixel;
-// A JPEG file that comes in several passes is held whole until the last one is read: two bytes for
-// each of up to four colours.
-constexpr qint64 jpegBytesPerPixel = 8;
+// A JPEG file that comes in several passes is held whole until the last one is read: this many
+// bytes for a colour of each pixel.
+constexpr qint64 jpegColorBytes = 2;
+constexpr qint64 jpegColors = 4; // at most
 
 qint64 pixelsOf(QSize size) {
     return qint64{size.width()} * size.height();
@@ -39,6 +40,10 @@ QSize within(QSize size, qint64 pixels) {
             std::max(1, static_cast<int>(size.height() * factor))};
 }
 
+bool isJpegFile(const QImageReader& reader) {
+    return reader.format() == "jpeg";
+}
+
 // A JPEG picture is decoded at as many eighths of its size as the wanted one needs, and then made
 // smaller.
 QSize decodedJpegSize(QSize size, QSize wanted) {
@@ -54,10 +59,6 @@ struct Plan {
     QSize decoded; // the image that comes out of the format
     QSize kept;    // and what is made of it
 };
-
-bool isJpegFile(const QImageReader& reader) {
-    return reader.format() == "jpeg";
-}
 
 // Has the reader decode a smaller image where the format can do that.
 Plan planFor(QImageReader& reader, QSize size, PictureUse use) {
@@ -99,14 +100,18 @@ qint64 bytesFor(const Plan& plan, QImage::Format format, qint64 whole) {
 
 // The most that decoding the picture is going to hold; nothing for one that is too large.
 std::optional<qint64> memoryFor(QImageReader& reader, QSize size, PictureUse use) {
-    const bool isJpeg = isJpegFile(reader);
-    if (isJpeg && pixelsOf(size) > largestJpeg) {
-        return std::nullopt;
-    }
-    const Plan plan = planFor(reader, size, use);
     const QImage::Format told = reader.imageFormat();
     const QImage::Format format = told == QImage::Format_Invalid ? QImage::Format_ARGB32 : told;
-    const qint64 needed = bytesFor(plan, format, isJpeg ? pixelsOf(size) * jpegBytesPerPixel : 0);
+    qint64 whole = 0;
+    if (isJpegFile(reader)) {
+        const qint64 colors = format == QImage::Format_Grayscale8 ? 1 : jpegColors;
+        if (pixelsOf(size) * colors > largestJpeg * jpegColors) {
+            return std::nullopt;
+        }
+        whole = pixelsOf(size) * colors * jpegColorBytes;
+    }
+    const Plan plan = planFor(reader, size, use);
+    const qint64 needed = bytesFor(plan, format, whole);
     const bool fits = pixelsOf(plan.decoded) <= largestPixels && needed <= largestDecoding;
     return fits ? std::optional(needed) : std::nullopt;
 }

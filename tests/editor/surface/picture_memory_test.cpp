@@ -133,6 +133,7 @@ void PictureMemoryTest::peakStaysLow_data() {
     writeBytes(folder_.path("allowed.jpg"), claimingSize(colored, 6'144, 6'144));
     writeBytes(folder_.path("fourcolors.jpg"),
                claimingSize(withFourWholeColors(colored), 6'144, 6'144));
+    writeBytes(folder_.path("allowedgrey.jpg"), claimingSize(grey, 12'288, 12'288));
     const QByteArray rows = jpegBytes(coloredPicture({64, 64}), false);
     writeBytes(folder_.path("widest.jpg"), claimingSize(rows, 65'000, 65'000));
     QFile nothing(folder_.path("nothing.png"));
@@ -144,6 +145,7 @@ void PictureMemoryTest::peakStaysLow_data() {
     QTest::newRow("refused") << "grey.jpg colored.jpg nothing.png";
     QTest::newRow("JPEG in passes that is shown") << "allowed.jpg";
     QTest::newRow("JPEG in passes with four colours that is shown") << "fourcolors.jpg";
+    QTest::newRow("grey JPEG in passes that is shown") << "allowedgrey.jpg";
     QTest::newRow("JPEG by rows") << "widest.jpg";
     QTest::newRow("no picture") << "nothing.png";
     QTest::newRow("two large PNG") << "vast.png vast2.png";
@@ -165,27 +167,35 @@ void PictureMemoryTest::peakStaysLow() {
 void PictureMemoryTest::jpegsAreRefusedByTheirPixels_data() {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("passes");
-    QTest::addColumn<QString>("problem");
+    QTest::addColumn<bool>("grey");
+    QTest::addColumn<bool>("refused");
     constexpr int side = 6'144;
     static_assert(qint64{side} * side == largestJpeg);
-    QTest::newRow("in passes") << QSize(5'000, 5'000) << true << "";
-    QTest::newRow("the most in passes") << QSize(side, side) << true << "";
-    QTest::newRow("the most by rows") << QSize(side, side) << false << "";
-    QTest::newRow("a column more in passes") << QSize(side + 1, side) << true << "too large";
-    QTest::newRow("a row more by rows") << QSize(side, side + 1) << false << "too large";
-    QTest::newRow("far too large in passes") << QSize(14'000, 14'000) << true << "too large";
-    QTest::newRow("as large by rows") << QSize(14'000, 14'000) << false << "too large";
+    const auto row = [](const char* name, QSize size, bool passes, bool grey, bool refused) {
+        QTest::newRow(name) << size << passes << grey << refused;
+    };
+    row("in passes", {5'000, 5'000}, true, false, false);
+    row("the most in passes", {side, side}, true, false, false);
+    row("the most by rows", {side, side}, false, false, false);
+    row("a column more in passes", {side + 1, side}, true, false, true);
+    row("a row more by rows", {side, side + 1}, false, false, true);
+    row("far too large in passes", {14'000, 14'000}, true, false, true);
+    row("as large by rows", {14'000, 14'000}, false, false, true);
+    row("the most grey in passes", {2 * side, 2 * side}, true, true, false);
+    row("a column more, grey", {2 * side + 1, 2 * side}, true, true, true);
 }
 
 void PictureMemoryTest::jpegsAreRefusedByTheirPixels() {
     QFETCH(QSize, size);
     QFETCH(bool, passes);
-    QFETCH(QString, problem);
+    QFETCH(bool, grey);
+    QFETCH(bool, refused);
     const QString path = folder_.path("pixels.jpg");
-    const QByteArray jpeg = jpegBytes(coloredPicture({640, 640}), passes);
-    writeBytes(path, claimingSize(jpeg, size.width(), size.height()));
+    const QImage image = grey ? greyPicture({640, 640}) : coloredPicture({640, 640});
+    writeBytes(path, claimingSize(jpegBytes(image, passes), size.width(), size.height()));
     PictureCache cache;
     const std::string file = documentPath(path.toStdString());
+    const QString problem = refused ? "too large" : "";
     QCOMPARE(cache.stretched(file, {20, 20}).problem, problem);
     QCOMPARE(cache.unscaled(file).problem, problem);
     QCOMPARE(cache.pictureSize(file), size);
