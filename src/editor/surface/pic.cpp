@@ -4,6 +4,7 @@
 #include "document/element_kinds.h"
 #include "surface/picture_cache.h"
 #include "widgets/accessible_roles.h"
+#include "widgets/control_names.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -53,8 +54,7 @@ Pic::Pic(PictureCache& pictures, QWidget* parent)
     : QWidget(parent)
     , pictures_(pictures)
     , painter_(pictures) {
-    setObjectName("Pic");
-    setAccessibleName(tr("Drawing surface"));
+    named(this, "Pic", tr("Drawing surface"));
     beCanvas(*this);
     setFixedSize(mapping_.screen().size().toSize());
     setMouseTracking(true);
