@@ -67,7 +67,7 @@ inline SkinSettings fullSettings() {
     settings.delays = {0.1, -1e300, 3};
     settings.systemColors.boxes = {SampleBox{1, 2}, SampleBox{3, 4}};
     settings.systemColors.texts = {5, 6, 7, 8, 9, 10};
-    settings.systemColors.txtAlpha = {"abc", ""};
+    settings.systemColors.opacityTexts = {"abc", ""};
     settings.background = {true, "back.bmp"};
     settings.resources = {{"r1", "p1", true, true}, {"r2", "<x/>", false, false}};
     return settings;

@@ -35,4 +35,19 @@ inline QByteArray claimingSize(QByteArray jpeg, int width, int height) {
     return jpeg;
 }
 
+/// The same progressive file, of three colours, claiming to have a fourth, and each for every
+/// pixel: nothing takes more memory.
+inline QByteArray withFourWholeColors(QByteArray jpeg) {
+    constexpr int colorsAt = 9; // bytes after the frame's marker
+    constexpr int colorBytes = 3;
+    const auto frame = jpeg.indexOf(QByteArray::fromHex("ffc2"));
+    jpeg[frame + 3] = 8 + 4 * colorBytes;
+    jpeg[frame + colorsAt] = 4;
+    jpeg.insert(frame + colorsAt + 1 + 3 * colorBytes, QByteArray::fromHex("041100"));
+    for (int color = 0; color < 4; ++color) {
+        jpeg[frame + colorsAt + 2 + color * colorBytes] = 0x11;
+    }
+    return jpeg;
+}
+
 } // namespace tarvel::test

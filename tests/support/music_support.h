@@ -13,10 +13,10 @@ namespace tarvel::test {
 /// The four options, and no files.
 inline MusicSettings musicOptions(bool yes, bool global, bool custom, bool random) {
     MusicSettings settings;
-    settings.optYesMusic = yes;
-    settings.chkGlobal = global;
-    settings.chkCustom = custom;
-    settings.chkRandom = random;
+    settings.hasMusic = yes;
+    settings.playGlobal = global;
+    settings.customMusic = custom;
+    settings.playRandom = random;
     return settings;
 }
 
@@ -59,7 +59,7 @@ class MusicFixture {
             folder_.file(name, "music");
             value.musicFiles.push_back(folder_.document(name));
         }
-        value.lstMusic = {0, 1, 2};
+        value.rows = {0, 1, 2};
         setMusic(value);
     }
     /// The dialog, whose player is player_ until the next one is made.

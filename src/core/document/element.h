@@ -27,7 +27,7 @@ enum class TextAlignment : std::uint8_t { left = 0, right = 1, center = 2 };
 /// What an image control shows.
 enum class PictureContent : std::uint8_t {
     file,        ///< the control's file; unreadable files show as a crossed frame
-    programIcon, ///< the built-in picture imgCustom
+    programIcon, ///< the built-in picture of a program
     barred       ///< a file outside the skin's folder, which is never opened
 };
 

@@ -20,12 +20,12 @@ SkinSettings keptSettings(const SkinSettings& settings) {
         return field.value.empty() || equalsIgnoringCase(field.name, "madeusing");
     });
     kept.music = {};
-    if (settings.music.optYesMusic) {
-        kept.music.optYesMusic = true;
-        kept.music.chkGlobal = settings.music.chkGlobal;
-        kept.music.chkRandom = settings.music.chkRandom;
+    if (settings.music.hasMusic) {
+        kept.music.hasMusic = true;
+        kept.music.playGlobal = settings.music.playGlobal;
+        kept.music.playRandom = settings.music.playRandom;
     }
-    kept.systemColors.txtAlpha = SystemColors{}.txtAlpha;
+    kept.systemColors.opacityTexts = SystemColors{}.opacityTexts;
     kept.background = {};
     if (settings.background.loaded) {
         kept.resources.insert(kept.resources.begin(),

@@ -30,14 +30,14 @@ struct InformationField {
 };
 
 struct MusicSettings {
-    bool optYesMusic = false;
-    bool chkGlobal = false;
-    bool chkCustom = false;
-    bool chkRandom = false;
+    bool hasMusic = false;
+    bool playGlobal = false;  ///< the music that the console has anyway
+    bool customMusic = false; ///< the skin's own; its file does not tell of it
+    bool playRandom = false;  ///< in random order
     /// Every path ever added; entries are never taken away.
     std::vector<std::string> musicFiles;
     /// The rows of the list: indexes into musicFiles.
-    std::vector<int> lstMusic;
+    std::vector<int> rows;
 
     bool operator==(const MusicSettings&) const = default;
 };
@@ -71,7 +71,7 @@ struct SystemColors {
                                      makeColor(255, 210, 90),  makeColor(255, 232, 170),
                                      makeColor(240, 244, 255), makeColor(176, 200, 232)};
     /// Opacity boxes as typed, percent; not part of a skin file.
-    std::array<std::string, 2> txtAlpha{"100", "100"};
+    std::array<std::string, 2> opacityTexts{"100", "100"};
 
     // Each takes a colour text of the file; an empty one changes nothing.
     void setBoxColor(std::string_view text, std::size_t index);

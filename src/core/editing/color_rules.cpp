@@ -33,8 +33,8 @@ bool isProperOpacity(std::string_view text) {
 }
 
 int firstImproperOpacity(const SystemColors& colors) {
-    for (std::size_t box = 0; box < colors.txtAlpha.size(); ++box) {
-        if (!isProperOpacity(colors.txtAlpha[box])) {
+    for (std::size_t box = 0; box < colors.opacityTexts.size(); ++box) {
+        if (!isProperOpacity(colors.opacityTexts[box])) {
             return static_cast<int>(box);
         }
     }

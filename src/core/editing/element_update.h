@@ -10,7 +10,7 @@
 namespace tarvel {
 
 /// Copies the panel into an element of the same kind: colours, text, menu settings or resource, and
-/// the opacity, rounded with halves to even and held at the limits of 16 bits. The label stays.
+/// the opacity, rounded with halves to even and held at -32,768 to 32,767. The label stays.
 ///
 /// An image takes the chosen resource, of `resources` as the skin lists them: its source, its file,
 /// and a control of the right kind for the file in the same place. A resource without a file shows

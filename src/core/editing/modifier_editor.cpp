@@ -74,7 +74,7 @@ void ModifierEditor::open(ModifierCatalogue catalogue, ElementKind kind, const X
     catalogue_ = std::move(catalogue);
     kind_ = kind;
     mods_ = catalogue_.typesFor(kind);
-    lstMods_Click(0);
+    chooseType(0);
     const XmlNode modifier = modifiers.root();
     // Deliberate: a modifier that is nothing but its type and target is not shown.
     if (modifier && modifier.firstChild()) {
@@ -84,7 +84,7 @@ void ModifierEditor::open(ModifierCatalogue catalogue, ElementKind kind, const X
 
 void ModifierEditor::showModifier(XmlNode modifier) {
     const std::string_view type = getAttrib(modifier, "Type");
-    lstMods_Click(getModNum(type));
+    chooseType(getModNum(type));
     if (modRow_ == 0) {
         return;
     }
@@ -92,7 +92,7 @@ void ModifierEditor::showModifier(XmlNode modifier) {
         throw ModifierShowError("The modifier \"" + std::string(type) + "\" has no targets in " +
                                 std::string(catalogueFileName));
     }
-    lstTargets_Click(getTarNum(getAttrib(modifier, "Target")));
+    chooseTarget(getTarNum(getAttrib(modifier, "Target")));
     // Deliberate: everything but a range goes through the channels, bounds included. They have no
     // channels, so their boxes keep what they showed.
     if (equalsIgnoringCase(catalogue_.panelName(type), "range")) {
@@ -102,7 +102,7 @@ void ModifierEditor::showModifier(XmlNode modifier) {
     }
 }
 
-void ModifierEditor::lstMods_Click(int row) {
+void ModifierEditor::chooseType(int row) {
     modRow_ = row;
     targets_.clear();
     targetRow_ = -1;
@@ -111,11 +111,11 @@ void ModifierEditor::lstMods_Click(int row) {
         targets_ = catalogue_.targetsOf(kind_, mods_[static_cast<std::size_t>(row)]);
     }
     if (!targets_.empty()) {
-        lstTargets_Click(0);
+        chooseTarget(0);
     }
 }
 
-void ModifierEditor::lstTargets_Click(int row) {
+void ModifierEditor::chooseTarget(int row) {
     targetRow_ = row;
     frame_ = catalogue_.panelOf(mods_[static_cast<std::size_t>(modRow_)]);
 }

@@ -51,9 +51,9 @@ class ModifierEditor {
     [[nodiscard]] ParameterPanel frame() const { return frame_; }
 
     /// Chooses a type, 0 for "None", and with it the first of its targets.
-    void lstMods_Click(int row);
+    void chooseType(int row);
     /// Chooses a target; row < targets().size().
-    void lstTargets_Click(int row);
+    void chooseTarget(int row);
 
     /// The last row of that text, letter case included; 0 when there is none.
     [[nodiscard]] int getModNum(std::string_view name) const;

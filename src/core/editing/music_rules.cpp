@@ -16,22 +16,22 @@ bool isMusicFile(std::string_view name) {
 }
 
 void addMusicFile(MusicSettings& music, std::string path) {
-    music.lstMusic.push_back(static_cast<int>(music.musicFiles.size()));
+    music.rows.push_back(static_cast<int>(music.musicFiles.size()));
     music.musicFiles.push_back(std::move(path));
 }
 
 void removeMusicRow(MusicSettings& music, int row) {
-    if (row >= 0 && static_cast<std::size_t>(row) < music.lstMusic.size()) {
-        music.lstMusic.erase(music.lstMusic.begin() + row);
+    if (row >= 0 && static_cast<std::size_t>(row) < music.rows.size()) {
+        music.rows.erase(music.rows.begin() + row);
     }
 }
 
 std::string musicPath(const MusicSettings& music, int row) {
     const auto index = static_cast<std::size_t>(row); // a negative one is too large
-    if (index >= music.lstMusic.size()) {
+    if (index >= music.rows.size()) {
         return {};
     }
-    const auto file = static_cast<std::size_t>(music.lstMusic[index]);
+    const auto file = static_cast<std::size_t>(music.rows[index]);
     return file < music.musicFiles.size() ? music.musicFiles[file] : std::string();
 }
 

@@ -224,22 +224,22 @@ Element readElement(ByteReader& in) {
 
 void writeMusic(ByteWriter& out, const MusicSettings& music) {
     for (const bool choice :
-         {music.optYesMusic, music.chkGlobal, music.chkCustom, music.chkRandom}) {
+         {music.hasMusic, music.playGlobal, music.customMusic, music.playRandom}) {
         out.value(choice);
     }
     out.count(music.musicFiles.size());
     for (const std::string& file : music.musicFiles) {
         out.text(file);
     }
-    out.count(music.lstMusic.size());
-    for (const int index : music.lstMusic) {
+    out.count(music.rows.size());
+    for (const int index : music.rows) {
         out.value(index);
     }
 }
 
 void readMusic(ByteReader& in, MusicSettings& music) {
     for (bool* choice :
-         {&music.optYesMusic, &music.chkGlobal, &music.chkCustom, &music.chkRandom}) {
+         {&music.hasMusic, &music.playGlobal, &music.customMusic, &music.playRandom}) {
         *choice = in.truth();
     }
     for (std::size_t left = in.count(textBytes); left > 0; --left) {
@@ -247,7 +247,7 @@ void readMusic(ByteReader& in, MusicSettings& music) {
     }
     const int last = static_cast<int>(music.musicFiles.size()) - 1;
     for (std::size_t left = in.count(idBytes); left > 0; --left) {
-        music.lstMusic.push_back(in.intBetween(0, last));
+        music.rows.push_back(in.intBetween(0, last));
     }
 }
 
@@ -259,7 +259,7 @@ void writeColors(ByteWriter& out, const SystemColors& colors) {
     for (const ColorNumber color : colors.texts) {
         out.value(color);
     }
-    for (const std::string& alpha : colors.txtAlpha) {
+    for (const std::string& alpha : colors.opacityTexts) {
         out.text(alpha);
     }
 }
@@ -272,7 +272,7 @@ void readColors(ByteReader& in, SystemColors& colors) {
     for (ColorNumber& color : colors.texts) {
         color = in.value<ColorNumber>();
     }
-    for (std::string& alpha : colors.txtAlpha) {
+    for (std::string& alpha : colors.opacityTexts) {
         alpha = in.text();
     }
 }

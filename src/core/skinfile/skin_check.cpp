@@ -171,7 +171,7 @@ class SkinCheck {
 
     void checkSave() {
         SkinWriter writer;
-        writer.generateXML(document_);
+        writer.write(document_);
         const std::string& text = writer.xmlText();
         if (!fitsWindows1252(text)) {
             checkCharacters(text);

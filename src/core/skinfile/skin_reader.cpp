@@ -20,9 +20,9 @@ namespace {
 
 void readMusic(SkinSettings& settings, XmlNode section) {
     // A Directory element has no effect, and the list of music files is not in the file.
-    settings.music.optYesMusic = true;
-    settings.music.chkGlobal = reverseOnOff(getContent(section, "PlayGlobal"));
-    settings.music.chkRandom = reverseOnOff(getContent(section, "PlayRandom"));
+    settings.music.hasMusic = true;
+    settings.music.playGlobal = reverseOnOff(getContent(section, "PlayGlobal"));
+    settings.music.playRandom = reverseOnOff(getContent(section, "PlayRandom"));
 }
 
 void readInformation(SkinSettings& settings, XmlNode section) {

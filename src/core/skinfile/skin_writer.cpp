@@ -32,11 +32,16 @@ ColorNumber sampleText(const SystemColors& colors, SampleText text) {
 } // namespace
 
 void SkinWriter::generateXML(SkinDocument& document) {
+    write(document, [&](int screen) { document.setCurrentLayout(screen); });
+    document.setCurrentLayout(menuScreen);
+}
+
+void SkinWriter::write(const SkinDocument& document, const ScreenBegins& screenBegins) {
     clear();
-    const SkinSettings settings = document.settings();
+    const SkinSettings settings = document.settings(); // a copy: screenBegins may reach observers
     line(R"(<Skin name=")", settings.skinName, R"(">)");
     writeInformation(settings);
-    if (settings.music.optYesMusic) {
+    if (settings.music.hasMusic) {
         writeMusic(settings.music);
     }
     writeDelays(settings);
@@ -44,12 +49,13 @@ void SkinWriter::generateXML(SkinDocument& document) {
     writeResources(settings);
     for (int screen = 0; screen < screenCount; ++screen) {
         if (document.screenElementCount(screen) != 0) {
-            document.setCurrentLayout(screen);
+            if (screenBegins) {
+                screenBegins(screen);
+            }
             writeLayout(document, screen);
         }
     }
     writeLine("</Skin>");
-    document.setCurrentLayout(menuScreen);
 }
 
 void SkinWriter::writeInformation(const SkinSettings& settings) {
@@ -65,15 +71,9 @@ void SkinWriter::writeInformation(const SkinSettings& settings) {
 
 void SkinWriter::writeMusic(const MusicSettings& music) {
     writeLine("<Music>");
-    tagLine("PlayGlobal", onOff(music.chkGlobal));
-    tagLine("PlayRandom", onOff(music.chkRandom));
-    // The dashboard finds the folder by itself: a ticked box has the state 1, so the line never
-    // comes.
-    const int customState = music.chkCustom ? 1 : 0;
-    if (!music.lstMusic.empty() && customState == -1) {
-        tagLine("Directory", "Music");
-    }
-    writeLine("</Music>");
+    tagLine("PlayGlobal", onOff(music.playGlobal));
+    tagLine("PlayRandom", onOff(music.playRandom));
+    writeLine("</Music>"); // customMusic is not told: the dashboard finds the folder by itself
 }
 
 void SkinWriter::writeDelays(const SkinSettings& settings) {

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,9 +21,13 @@ class SkinWriter : private LineWriter {
     explicit SkinWriter(std::filesystem::path folder)
         : tempFolder_(std::move(folder)) {}
 
-    /// Fills xmlText with the document's text (UTF-8, TAB indentation, CR LF after every line). The
-    /// document's currentLayout follows the screen being written and ends at the "Menu" screen.
+    /// Fills xmlText with the document's text (UTF-8, TAB indentation, CR LF after every line).
     /// Throws FileError when a modifier cannot pass through "temp.xml".
+    void write(const SkinDocument& document) { write(document, {}); }
+
+    /// Does the same for the save command, which shows what it is at: the document's currentLayout
+    /// follows the screen being written, where it stays when this throws, and ends at the "Menu"
+    /// screen.
     void generateXML(SkinDocument& document);
 
     // Lines that others add, and the last generated text.
@@ -31,6 +36,10 @@ class SkinWriter : private LineWriter {
     using LineWriter::xmlText;
 
   private:
+    /// Told of each screen before its lines are written.
+    using ScreenBegins = std::function<void(int screen)>;
+
+    void write(const SkinDocument& document, const ScreenBegins& screenBegins);
     void writeInformation(const SkinSettings& settings);
     void writeMusic(const MusicSettings& music);
     void writeDelays(const SkinSettings& settings);

@@ -2,6 +2,7 @@
 #include "dialogs/color_samples.h"
 
 #include "editing/color_rules.h"
+#include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 
 #include <QLabel>
@@ -33,8 +34,8 @@ void paintGround(QPainter& painter, const QRect& rect) {
 ColorSample::ColorSample(std::size_t box, QWidget* parent)
     : QWidget(parent)
     , box_(box) {
-    setObjectName(QStringLiteral("shp(%1)").arg(box));
-    setAccessibleName(box == 0 ? tr("Sample of the message box") : tr("Sample of the system menu"));
+    named(this, QStringLiteral("shp(%1)").arg(box),
+          box == 0 ? tr("Sample of the message box") : tr("Sample of the system menu"));
     if (box == 0) {
         addText(SampleText::messageShadow);
         addText(SampleText::messageText); // in front of its shadow
@@ -59,7 +60,7 @@ void ColorSample::addText(SampleText which) {
 
 void ColorSample::showColors(const SystemColors& colors) {
     look_ = colors.boxes.at(box_);
-    opacity_ = std::clamp(val(colors.txtAlpha.at(box_)) / 100, 0.0, 1.0);
+    opacity_ = std::clamp(val(colors.opacityTexts.at(box_)) / 100, 0.0, 1.0);
     for (const auto& [index, label] : texts_) {
         QPalette palette = label->palette();
         palette.setColor(QPalette::WindowText, qtColor(colors.texts.at(index)));

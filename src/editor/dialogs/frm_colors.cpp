@@ -86,7 +86,7 @@ void FrmColors::readDocument() {
     const SystemColors& colors = document().settings().systemColors;
     for (std::size_t box = 0; box < txtAlpha_.size(); ++box) {
         const QSignalBlocker quiet(txtAlpha_[box]);
-        txtAlpha_[box]->setText(qtText(colors.txtAlpha[box]));
+        txtAlpha_[box]->setText(qtText(colors.opacityTexts[box]));
     }
     showColors();
 }
@@ -113,7 +113,7 @@ void FrmColors::Col_Click(const Row& row) {
 
 void FrmColors::txtAlpha_Change(std::size_t box) {
     document().editSettings([&](SkinSettings& settings) {
-        settings.systemColors.txtAlpha.at(box) = coreText(txtAlpha_.at(box)->text());
+        settings.systemColors.opacityTexts.at(box) = coreText(txtAlpha_.at(box)->text());
     });
     showColors();
 }

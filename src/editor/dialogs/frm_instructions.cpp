@@ -1,6 +1,8 @@
 // The Instructions dialog.
 #include "dialogs/frm_instructions.h"
 
+#include "widgets/control_names.h"
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -26,9 +28,7 @@ QString instructions() {
 
 // Read-only, and exactly as large as its lines.
 QPlainTextEdit* makeText(QWidget* parent) {
-    auto* text = new QPlainTextEdit(parent);
-    text->setObjectName("txtIns");
-    text->setAccessibleName(QObject::tr("Instructions"));
+    auto* text = named(new QPlainTextEdit(parent), "txtIns", QObject::tr("Instructions"));
     text->setReadOnly(true);
     text->setLineWrapMode(QPlainTextEdit::NoWrap);
     text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -63,9 +63,8 @@ QLayout* makeHeading(QWidget* parent) {
 }
 
 QPushButton* makeButton(QWidget* parent) {
-    auto* button = new QPushButton(QObject::tr("OK"), parent);
-    button->setObjectName("Command1");
-    button->setAccessibleName(QObject::tr("Close the instructions"));
+    auto* button = named(new QPushButton(QObject::tr("OK"), parent), "Command1",
+                         QObject::tr("Close the instructions"));
     button->setDefault(true);
     return button;
 }

@@ -68,7 +68,7 @@ FrmMusic::FrmMusic(SkinDocument& document, Prompts& prompts, QWidget* parent,
                        QStringLiteral("chkRandom"), tr("Play music in random order")))
     , cmdOK_(makeOk())
     , player_(std::move(player))
-    , easing_(30, 0.2, this) { // 3 twips
+    , easing_(30, 0.2, this) { // a fifth of a pixel is near enough
     QFont bold = caption_->font();
     bold.setBold(true);
     caption_->setFont(bold);
@@ -107,18 +107,18 @@ void FrmMusic::buildMusic() {
 
 void FrmMusic::connectControls() {
     connect(optYesMusic_, &QRadioButton::toggled, this, [this](bool yes) {
-        editMusic([&](MusicSettings& music) { music.optYesMusic = yes; });
+        editMusic([&](MusicSettings& music) { music.hasMusic = yes; });
         layOut(true);
     });
     connect(chkCustom_, &QCheckBox::toggled, this, [this](bool custom) {
-        editMusic([&](MusicSettings& music) { music.chkCustom = custom; });
+        editMusic([&](MusicSettings& music) { music.customMusic = custom; });
         layOut(true);
     });
     connect(chkGlobal_, &QCheckBox::toggled, this, [this](bool global) {
-        editMusic([&](MusicSettings& music) { music.chkGlobal = global; });
+        editMusic([&](MusicSettings& music) { music.playGlobal = global; });
     });
     connect(chkRandom_, &QCheckBox::toggled, this, [this](bool random) {
-        editMusic([&](MusicSettings& music) { music.chkRandom = random; });
+        editMusic([&](MusicSettings& music) { music.playRandom = random; });
     });
     connect(cmdAdd_, &QPushButton::clicked, this, &FrmMusic::cmdAdd_Click);
     connect(cmdPlay_, &QPushButton::clicked, this, &FrmMusic::playOrStop);
@@ -134,15 +134,15 @@ void FrmMusic::readDocument() {
     const MusicSettings& music = document().settings().music;
     {
         const QSignalBlocker quiet(optYesMusic_);
-        (music.optYesMusic ? optYesMusic_ : optNoMusic_)->setChecked(true);
+        (music.hasMusic ? optYesMusic_ : optNoMusic_)->setChecked(true);
     }
-    setCheckedQuietly(*chkGlobal_, music.chkGlobal);
-    setCheckedQuietly(*chkCustom_, music.chkCustom);
-    setCheckedQuietly(*chkRandom_, music.chkRandom);
+    setCheckedQuietly(*chkGlobal_, music.playGlobal);
+    setCheckedQuietly(*chkCustom_, music.customMusic);
+    setCheckedQuietly(*chkRandom_, music.playRandom);
     showList();
     measure();
     layOut(false);
-    (music.optYesMusic ? optYesMusic_ : optNoMusic_)->setFocus();
+    (music.hasMusic ? optYesMusic_ : optNoMusic_)->setFocus();
 }
 
 void FrmMusic::hideEvent(QHideEvent* event) {
@@ -156,10 +156,10 @@ void FrmMusic::showList() {
     const MusicSettings& music = document().settings().music;
     const QSignalBlocker quiet(lstMusic_);
     lstMusic_->clear();
-    for (std::size_t row = 0; row < music.lstMusic.size(); ++row) {
+    for (std::size_t row = 0; row < music.rows.size(); ++row) {
         const std::string path = musicPath(music, static_cast<int>(row));
         auto* item = new QListWidgetItem(shownPath(path), lstMusic_); // NOLINT: owned by the list
-        item->setData(Qt::UserRole, music.lstMusic[row]);
+        item->setData(Qt::UserRole, music.rows[row]);
         item->setToolTip(item->text());
         if (!FileExists(path)) {
             item->setForeground(faintText(lstMusic_->palette()));

@@ -49,7 +49,7 @@ class FrmMusic : public SkinDialog {
     void layOut(bool animated);
     [[nodiscard]] static Easing::Move moveToY(int y, QWidget* control);
     [[nodiscard]] static Easing::Move growToHeight(int height, QWidget* control);
-    [[nodiscard]] Easing::Move growToTwipz(int height);
+    [[nodiscard]] Easing::Move growForm(int height);
 
     void showList();
     void addFiles(QStringList files);

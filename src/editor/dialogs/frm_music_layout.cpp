@@ -89,7 +89,7 @@ void FrmMusic::layOut(bool animated) {
     fraMusic_->setVisible(to.musicShown);
     easing_.start({growToHeight(to.musicHeight, fraMusic_), moveToY(to.randomTop, chkRandom_),
                    growToHeight(to.stuffHeight, fraStuff_), moveToY(to.okTop, cmdOK_),
-                   growToTwipz(to.formHeight)});
+                   growForm(to.formHeight)});
     if (!animated || !isVisible()) {
         easing_.finish();
     }
@@ -106,7 +106,7 @@ Easing::Move FrmMusic::growToHeight(int height, QWidget* control) {
 }
 
 // The form's own height.
-Easing::Move FrmMusic::growToTwipz(int height) {
+Easing::Move FrmMusic::growForm(int height) {
     return {double(this->height()), double(height),
             [this](double now) { setFixedHeight(rounded(now)); }};
 }

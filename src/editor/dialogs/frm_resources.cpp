@@ -2,8 +2,9 @@
 #include "dialogs/frm_resources.h"
 
 #include "dialogs/resource_frames.h"
-#include "dialogs/resource_preview.h"
 #include "dialogs/resource_thumbnails.h"
+#include "panels/resource_looks.h"
+#include "panels/resource_preview.h"
 #include "surface/picture_cache.h"
 #include "widgets/control_names.h"
 #include "widgets/path_label.h"
@@ -32,9 +33,12 @@ FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCach
     , fraPreset_(new PresetFrame(document, pictures))
     , lstRes_(named(new QListWidget, QStringLiteral("lstRes"), tr("Resources of the skin")))
     , thumbnails_(new ResourceThumbnails(document, pictures, *lstRes_, this))
-    , imgPreview_(named(new ResourcePreview(pictures), QStringLiteral("imgPreview"),
-                        tr("Preview of the resource")))
+    , imgPreview_(named(new ResourcePreview(pictures, {320, 240},
+                                            tr("Select a resource to see it,\n"
+                                               "or drop a file here to add it")),
+                        QStringLiteral("imgPreview"), tr("Preview of the resource")))
     , lblPreview_(new PathLabel)
+    , pictures_(pictures)
     , cmdOK_(makeOk()) {
     setAcceptDrops(true);
     buildColumns();
@@ -80,6 +84,7 @@ QWidget* FrmResources::makeCurrentFrame() {
 
 QWidget* FrmResources::makePreviewFrame() {
     auto* frame = new QGroupBox(tr("PREVIEW"));
+    imgPreview_->setMinimumSize(240, 180);
     lblPreview_->setObjectName(QStringLiteral("lblPreview"));
     auto* box = new QVBoxLayout(frame);
     box->addWidget(imgPreview_, 1);
@@ -105,7 +110,8 @@ void FrmResources::hideEvent(QHideEvent* event) {
     SkinDialog::hideEvent(event);
     if (!event->spontaneous()) {
         thumbnails_->stop();
-        preview({});
+        imgPreview_->showNothing();
+        lblPreview_->setPath({});
         added_ = addedHeight();
         forgetInput();
     }
@@ -201,7 +207,7 @@ void FrmResources::lstRes_Click() {
 
 void FrmResources::preview(const Resource& resource) {
     imgPreview_->showResource(resource);
-    lblPreview_->setPath(imgPreview_->description());
+    lblPreview_->setPath(lineAbout(resource, pictures_));
 }
 
 void FrmResources::takeFile(const QString& file) {

@@ -55,6 +55,7 @@ class FrmResources : public SkinDialog {
     ResourceThumbnails* thumbnails_;
     ResourcePreview* imgPreview_;
     PathLabel* lblPreview_;
+    PictureCache& pictures_;
     QPushButton* cmdOK_;
     int fitted_ = 0; // the height that resizeForm found last
     int added_ = 0;  // what the user had added to it when the dialog closed

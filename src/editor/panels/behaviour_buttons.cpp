@@ -1,6 +1,8 @@
 // Behaviour buttons and their marks.
 #include "panels/behaviour_buttons.h"
 
+#include "widgets/control_names.h"
+
 #include <QAction>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -33,8 +35,8 @@ BehaviourButtons::BehaviourButtons(std::array<QAction*, count> menuEntries, QWid
     for (int i = 0; i < count; ++i) {
         const auto at = static_cast<std::size_t>(i);
         auto* button = new QPushButton(QLatin1String(captions[at]));
-        button->setObjectName(QStringLiteral("cmdModifier(%1)").arg(i));
-        button->setAccessibleName(tr("%1 of the selected element").arg(button->text()));
+        named(button, QStringLiteral("cmdModifier(%1)").arg(i),
+              tr("%1 of the selected element").arg(button->text()));
         connect(button, &QPushButton::clicked, this, [this, i] { emit cmdModifier_Click(i); });
         connect(menuEntries[at], &QAction::triggered, this,
                 [this, i] { emit cmdModifier_Click(i); });

@@ -71,8 +71,7 @@ QString spokenName(ChannelValue which) {
 ColorFrame::ColorFrame(std::array<ColorChannel, channelCount>& channels, QWidget* parent)
     : QGroupBox(QStringLiteral("COLOR"), parent)
     , channels_(channels) {
-    setObjectName(QStringLiteral("fraColor"));
-    setAccessibleName(tr("Color values"));
+    named(this, QStringLiteral("fraColor"), tr("Color values"));
     auto* grid = new QGridLayout(this);
     grid->setHorizontalSpacing(2);
     grid->setVerticalSpacing(6);

@@ -3,6 +3,7 @@
 
 #include "surface/element_looks.h"
 #include "widgets/accessible_roles.h"
+#include "widgets/control_names.h"
 
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -11,8 +12,7 @@ namespace tarvel {
 
 CreatePanel::CreatePanel(QWidget* parent)
     : QGroupBox(QStringLiteral("CREATE"), parent) {
-    setObjectName(QStringLiteral("fraCreate"));
-    setAccessibleName(tr("Create elements"));
+    named(this, QStringLiteral("fraCreate"), tr("Create elements"));
     auto* row = new QHBoxLayout(this);
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const KindLook::Tool& tool = kindLooks[i]->tool;

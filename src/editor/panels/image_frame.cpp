@@ -3,7 +3,8 @@
 
 #include "document/kinds/panel_texts.h"
 #include "document/skin_document.h"
-#include "panels/preview_area.h"
+#include "panels/resource_preview.h"
+#include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 
 #include <QAbstractItemView>
@@ -18,7 +19,8 @@ namespace tarvel {
 
 namespace {
 
-constexpr int roomAcross = 12; // pixels beside the text of a button, beyond the style's
+constexpr QSize previewSize{200, 150}; // pixels
+constexpr int roomAcross = 12;         // pixels beside the text of a button, beyond the style's
 
 QLabel* captionLabel(const char* name, std::string_view text) {
     auto* label = new QLabel(qtText(text));
@@ -33,16 +35,14 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
     : QGroupBox(tr("Image"), parent)
     , values_(values)
     , document_(document) {
-    setObjectName(QStringLiteral("fraImg"));
-    setAccessibleName(tr("Resource of the image"));
+    named(this, QStringLiteral("fraImg"), tr("Resource of the image"));
     auto* column = new QVBoxLayout(this);
     buildPicker();
     auto* lblRes = captionLabel("lblRes", caption::chooseResource);
     lblRes->setBuddy(lstR_);
     column->addWidget(lblRes);
-    auto* cmdAddRes = new QPushButton(qtText(caption::resourceManager));
-    cmdAddRes->setObjectName(QStringLiteral("cmdAddRes"));
-    cmdAddRes->setAccessibleName(tr("Open the resource manager"));
+    auto* cmdAddRes = named(new QPushButton(qtText(caption::resourceManager)),
+                            QStringLiteral("cmdAddRes"), tr("Open the resource manager"));
     cmdAddRes->setMinimumWidth(cmdAddRes->sizeHint().width() + roomAcross);
     connect(cmdAddRes, &QPushButton::clicked, this, &ImageFrame::addResourceClicked);
     auto* row = new QHBoxLayout;
@@ -50,15 +50,14 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
     row->addWidget(cmdAddRes);
     column->addLayout(row);
     column->addWidget(captionLabel("lblPreview", caption::resourcePreview));
-    preview_ = new PreviewArea(pictures);
+    preview_ = new ResourcePreview(pictures, previewSize);
+    preview_->nameParts();
     column->addWidget(preview_, 1);
     resourcesChanged();
 }
 
 void ImageFrame::buildPicker() {
-    lstR_ = new QComboBox;
-    lstR_->setObjectName(QStringLiteral("lstR"));
-    lstR_->setAccessibleName(tr("Resource of the image"));
+    lstR_ = named(new QComboBox, QStringLiteral("lstR"), tr("Resource of the image"));
     lstR_->view()->setAccessibleName(tr("Resources of the skin"));
     lstR_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lstR_->setMinimumContentsLength(12);
@@ -123,13 +122,13 @@ void ImageFrame::refresh() {
     if (resource != nullptr) {
         preview_->showResource(shown);
     } else {
-        preview_->clear();
+        preview_->showNothing();
     }
 }
 
 void ImageFrame::leave() {
     previewed_.reset();
-    preview_->clear();
+    preview_->showNothing();
 }
 
 void ImageFrame::stopPreview() {

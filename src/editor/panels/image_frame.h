@@ -12,7 +12,7 @@ class QComboBox;
 namespace tarvel {
 
 class PictureCache;
-class PreviewArea;
+class ResourcePreview;
 class SkinDocument;
 
 /// Shows the resource of the values with a preview, and puts into them what the user chooses. The
@@ -44,7 +44,7 @@ class ImageFrame : public QGroupBox {
     PanelValues& values_;
     const SkinDocument& document_;
     QComboBox* lstR_ = nullptr;
-    PreviewArea* preview_ = nullptr;
+    ResourcePreview* preview_ = nullptr;
     std::optional<Resource> previewed_; // none while the frame is out of sight
 };
 

@@ -23,9 +23,9 @@ LayoutPanel::LayoutPanel(const SkinDocument& document, QWidget* parent)
     grid->setRowStretch(screenCount, 1);
     for (int screen = 0; screen < screenCount; ++screen) {
         const LayoutScreen& shown = layoutScreens[static_cast<std::size_t>(screen)];
-        auto* button = new QRadioButton(qtText(shown.caption));
-        button->setObjectName(QStringLiteral("optScreen(%1)").arg(screen));
-        button->setAccessibleName(QStringLiteral("Screen %1").arg(qtText(shown.caption)));
+        auto* button = named(new QRadioButton(qtText(shown.caption)),
+                             QStringLiteral("optScreen(%1)").arg(screen),
+                             QStringLiteral("Screen %1").arg(qtText(shown.caption)));
         // Bold captions are wider: without the room the panel would jump.
         QFont bold = button->font();
         bold.setBold(true);
@@ -46,7 +46,8 @@ LayoutPanel::LayoutPanel(const SkinDocument& document, QWidget* parent)
 }
 
 void LayoutPanel::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+    if (event->type() == QEvent::PaletteChange ||
+        event->type() == QEvent::ApplicationPaletteChange) {
         colorNotes();
     }
     QGroupBox::changeEvent(event);

@@ -3,6 +3,7 @@
 
 #include "document/kinds/panel_texts.h"
 #include "widgets/color_well.h"
+#include "widgets/control_names.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
 #include "widgets/skin_fonts.h"
@@ -86,8 +87,7 @@ MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget
     : QGroupBox(tr("Item Menu"), parent)
     , values_(frame)
     , prompts_(prompts) {
-    setObjectName(QStringLiteral("fraQor"));
-    setAccessibleName(tr("Settings of the item menu"));
+    named(this, QStringLiteral("fraQor"), tr("Settings of the item menu"));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(smallGap);
     column->addLayout(checksAndNumbers());
@@ -151,8 +151,7 @@ QLayout* MenuSettingsFrame::checksAndNumbers() {
 QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,
                                        bool MenuFrame::*value) {
     auto* box = new QCheckBox(qtText(text));
-    box->setObjectName(QLatin1String(name));
-    box->setAccessibleName(box->text());
+    named(box, QLatin1String(name), box->text());
     connect(box, &QCheckBox::clicked, this, [this, value](bool on) { values_.*value = on; });
     checks_.push_back({box, value});
     return box;
@@ -160,9 +159,7 @@ QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,
 
 QLineEdit* MenuSettingsFrame::addNumber(const char* name, const QString& spoken,
                                         std::string MenuFrame::*value) {
-    auto* edit = new FieldEdit;
-    edit->setObjectName(QLatin1String(name));
-    edit->setAccessibleName(spoken);
+    auto* edit = named(new FieldEdit, QLatin1String(name), spoken);
     edit->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000")));
     connect(edit, &QLineEdit::textEdited, this,
             [this, value](const QString& text) { values_.*value = coreText(text); });
@@ -193,9 +190,7 @@ void MenuSettingsFrame::addGroup(QBoxLayout& column, const Group& group) {
 }
 
 QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
-    auto* list = new QComboBox;
-    list->setObjectName(QLatin1String(group.list));
-    list->setAccessibleName(group.spoken);
+    auto* list = named(new QComboBox, QLatin1String(group.list), group.spoken);
     list->view()->setAccessibleName(group.spoken);
     for (const std::string_view entry : alignmentEntries) {
         list->addItem(qtText(entry));
@@ -210,9 +205,7 @@ QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
 
 QLayout* MenuSettingsFrame::colorRow(const Group& group, std::size_t which) {
     const Group::ColorNames& names = group.colors.at(which);
-    auto* well = new ColorWell;
-    well->setObjectName(QLatin1String(names.well));
-    well->setAccessibleName(names.spoken);
+    auto* well = named(new ColorWell, QLatin1String(names.well), names.spoken);
     auto* row = new QHBoxLayout;
     row->addWidget(well);
     const Color color{.well = well,

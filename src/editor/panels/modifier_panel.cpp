@@ -194,12 +194,12 @@ void ModifierPanel::store(Element& element) const {
 }
 
 void ModifierPanel::lstMods_Click(int row) {
-    editor_.lstMods_Click(row);
+    editor_.chooseType(row);
     refreshLists();
 }
 
 void ModifierPanel::lstTargets_Click(int row) {
-    editor_.lstTargets_Click(row);
+    editor_.chooseTarget(row);
     refreshFrames();
 }
 

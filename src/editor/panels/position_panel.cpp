@@ -1,6 +1,7 @@
 // Position fields.
 #include "panels/position_panel.h"
 
+#include "widgets/control_names.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
 
@@ -23,13 +24,11 @@ PositionPanel::PositionPanel(QWidget* parent)
          {"txtT", "Top, or first end down"},
          {"txtW", "Width, or second end across"},
          {"txtH", "Height, or second end down"}}};
-    setObjectName(QStringLiteral("fraPos"));
-    setAccessibleName(tr("Position in skin pixels"));
+    named(this, QStringLiteral("fraPos"), tr("Position in skin pixels"));
     auto* row = new QHBoxLayout(this);
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        auto* edit = new FieldEdit;
-        edit->setObjectName(QLatin1String(fields[i].name));
-        edit->setAccessibleName(QLatin1String(fields[i].meaning));
+        auto* edit =
+            named(new FieldEdit, QLatin1String(fields[i].name), QLatin1String(fields[i].meaning));
         edit->setToolTip(edit->accessibleName());
         edit->installEventFilter(this);
         connect(edit, &QLineEdit::editingFinished, this, [this, i] { leave(i); });

@@ -8,6 +8,7 @@
 #include "panels/menu_settings_frame.h"
 #include "panels/shared_frame.h"
 #include "panels/text_frame.h"
+#include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 
 #include <QLabel>
@@ -64,9 +65,8 @@ void PropertyPanel::buildFrames() {
 }
 
 void PropertyPanel::buildRow() {
-    cmdApply_ = new QPushButton(qtText(caption::applyChanges));
-    cmdApply_->setObjectName(QStringLiteral("cmdApply"));
-    cmdApply_->setAccessibleName(tr("Apply the changes to the element"));
+    cmdApply_ = named(new QPushButton(qtText(caption::applyChanges)), QStringLiteral("cmdApply"),
+                      tr("Apply the changes to the element"));
     connect(cmdApply_, &QPushButton::clicked, this, &PropertyPanel::applyClicked);
     row_ = new QHBoxLayout;
     row_->addWidget(cmdApply_, 1);

@@ -2,7 +2,9 @@
 #include "panels/resource_looks.h"
 
 #include "surface/picture_cache.h"
+#include "widgets/qt_text.h"
 
+#include <QObject>
 #include <QPainter>
 
 #include <array>
@@ -65,6 +67,24 @@ ResourceLook lookOf(const Resource& resource) {
         return ResourceLook::outside;
     }
     return isVideoFile(resource.content) ? ResourceLook::video : ResourceLook::picture;
+}
+
+QString lineAbout(const Resource& resource, PictureCache& pictures) {
+    const QString name = qtText(trimtofile(resource.content));
+    switch (lookOf(resource)) {
+    case ResourceLook::preset:
+        return QObject::tr("Supplied by the dashboard");
+    case ResourceLook::outside:
+        return QObject::tr("%1: outside the skin's folder, not opened").arg(name);
+    case ResourceLook::video:
+        return name;
+    case ResourceLook::picture:
+        break;
+    }
+    const QSize size = pictures.pictureSize(resource.content);
+    return size.isEmpty()
+               ? name
+               : QObject::tr("%1, %2 x %3").arg(name).arg(size.width()).arg(size.height());
 }
 
 void paintCheckerboard(QPainter& painter, const QRectF& rect, int square) {

@@ -26,6 +26,9 @@ enum class ResourceLook : std::uint8_t {
 
 [[nodiscard]] ResourceLook lookOf(const Resource& resource);
 
+/// A line that says what the resource is, for under its preview.
+[[nodiscard]] QString lineAbout(const Resource& resource, PictureCache& pictures);
+
 /// The built-in icon picture, for a PictureCache.
 inline constexpr std::string_view presetPicture = ":/tarvel/imgCustom.png";
 

@@ -2,6 +2,7 @@
 #include "panels/text_frame.h"
 
 #include "document/kinds/panel_texts.h"
+#include "widgets/control_names.h"
 #include "widgets/font_button.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
@@ -26,8 +27,7 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     : QGroupBox(qtText(caption::text), parent)
     , values_(values)
     , prompts_(prompts) {
-    setObjectName(QStringLiteral("fraText"));
-    setAccessibleName(tr("Text and font"));
+    named(this, QStringLiteral("fraText"), tr("Text and font"));
     auto* column = new QVBoxLayout(this);
     buildText();
     auto* lblText = new QLabel(qtText(caption::chooseText));
@@ -37,9 +37,8 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     column->addWidget(lblText);
     column->addWidget(txtText_);
     auto* row = new QHBoxLayout;
-    cmdFont_ = new FontButton(qtText(caption::font));
-    cmdFont_->setObjectName(QStringLiteral("cmdFont"));
-    cmdFont_->setAccessibleName(tr("Choose the font"));
+    cmdFont_ = named(new FontButton(qtText(caption::font)), QStringLiteral("cmdFont"),
+                     tr("Choose the font"));
     connect(cmdFont_, &FontButton::clicked, this, &TextFrame::cmdFont_Click);
     fontName_ = new QLabel;
     fontName_->setObjectName(QStringLiteral("fontName"));
@@ -52,9 +51,8 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
 }
 
 void TextFrame::buildText() {
-    txtText_ = new QComboBox;
-    txtText_->setObjectName(QStringLiteral("txtText"));
-    txtText_->setAccessibleName(tr("Text, or a field of the dashboard"));
+    txtText_ =
+        named(new QComboBox, QStringLiteral("txtText"), tr("Text, or a field of the dashboard"));
     for (const std::string_view entry : predefinedTexts) {
         txtText_->addItem(qtText(entry));
     }

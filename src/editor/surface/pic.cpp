@@ -4,6 +4,7 @@
 #include "document/element_kinds.h"
 #include "surface/picture_cache.h"
 #include "widgets/accessible_roles.h"
+#include "widgets/control_names.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -53,9 +54,8 @@ Pic::Pic(PictureCache& pictures, QWidget* parent)
     : QWidget(parent)
     , pictures_(pictures)
     , painter_(pictures) {
-    setObjectName("Pic");
     beCanvas(*this); // before anything about it is told
-    setAccessibleName(tr("Drawing surface"));
+    named(this, "Pic", tr("Drawing surface"));
     setFixedSize(mapping_.screen().size().toSize());
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);

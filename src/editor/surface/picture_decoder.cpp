@@ -1,12 +1,11 @@
 // From a file to an image, with an account of the memory before it is taken.
 #include "surface/picture_decoder.h"
 
-#include "surface/jpeg_passes.h"
-
 #include <QImageReader>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace tarvel {
@@ -20,6 +19,10 @@ constexpr qint64 sourcePixels = qint64{8} << 20;
 constexpr int unscaledSide = 4096;
 constexpr qint64 bytesPerPixel = 4; // of what is kept
 constexpr qint64 largestImage = largestPixels * bytesPerPixel;
+// A JPEG file that comes in several passes is held whole until the last one is read: this many
+// bytes for a colour of each pixel.
+constexpr qint64 jpegColorBytes = 2;
+constexpr qint64 jpegColors = 4; // at most
 
 qint64 pixelsOf(QSize size) {
     return qint64{size.width()} * size.height();
@@ -35,6 +38,10 @@ QSize within(QSize size, qint64 pixels) {
         std::sqrt(static_cast<double>(pixels) / static_cast<double>(pixelsOf(size)));
     return {std::max(1, static_cast<int>(size.width() * factor)),
             std::max(1, static_cast<int>(size.height() * factor))};
+}
+
+bool isJpegFile(const QImageReader& reader) {
+    return reader.format() == "jpeg";
 }
 
 // A JPEG picture is decoded at as many eighths of its size as the wanted one needs, and then made
@@ -55,7 +62,7 @@ struct Plan {
 
 // Has the reader decode a smaller image where the format can do that.
 Plan planFor(QImageReader& reader, QSize size, PictureUse use) {
-    const bool isJpeg = reader.format() == "jpeg";
+    const bool isJpeg = isJpegFile(reader);
     if (use == PictureUse::unscaled) {
         const QSize corner = size.boundedTo({unscaledSide, unscaledSide});
         if (!isJpeg) {
@@ -80,15 +87,33 @@ bool isFormatKept(QImage::Format format) {
            format == QImage::Format_ARGB32_Premultiplied;
 }
 
-// The most that is held at a time.
-qint64 bytesFor(const Plan& plan, QImage::Format format, qint64 passes) {
+// The most that is held at a time; `whole` is held while the image is decoded.
+qint64 bytesFor(const Plan& plan, QImage::Format format, qint64 whole) {
     const qint64 image = pixelsOf(plan.decoded) * QImage::toPixelFormat(format).bitsPerPixel() / 8;
     const qint64 converted = isFormatKept(format) ? 0 : pixelsOf(plan.decoded) * bytesPerPixel;
     const qint64 kept = plan.kept == plan.decoded ? 0 : pixelsOf(plan.kept) * bytesPerPixel;
     if (image > largestImage) {
-        return image + passes + largestDecoding; // no image of Qt becomes as large
+        return image + whole + largestDecoding; // no image of Qt becomes as large
     }
-    return std::max(passes + image, image + converted + kept);
+    return std::max(whole + image, image + converted + kept);
+}
+
+// The most that decoding the picture is going to hold; nothing for one that is too large.
+std::optional<qint64> memoryFor(QImageReader& reader, QSize size, PictureUse use) {
+    const QImage::Format told = reader.imageFormat();
+    const QImage::Format format = told == QImage::Format_Invalid ? QImage::Format_ARGB32 : told;
+    qint64 whole = 0;
+    if (isJpegFile(reader)) {
+        const qint64 colors = format == QImage::Format_Grayscale8 ? 1 : jpegColors;
+        if (pixelsOf(size) * colors > largestJpeg * jpegColors) {
+            return std::nullopt;
+        }
+        whole = pixelsOf(size) * colors * jpegColorBytes;
+    }
+    const Plan plan = planFor(reader, size, use);
+    const qint64 needed = bytesFor(plan, format, whole);
+    const bool fits = pixelsOf(plan.decoded) <= largestPixels && needed <= largestDecoding;
+    return fits ? std::optional(needed) : std::nullopt;
 }
 
 struct Read {
@@ -98,7 +123,6 @@ struct Read {
 };
 
 Read readImage(QFile& file, PictureUse use, const MakeRoom& makeRoom) {
-    const qint64 passes = jpegPassesBytes(file);
     QImageReader reader(&file);
     // By the content, since names of files lie.
     reader.setDecideFormatFromContent(true);
@@ -107,14 +131,11 @@ Read readImage(QFile& file, PictureUse use, const MakeRoom& makeRoom) {
     }
     const QSize size = reader.size();
     if (!size.isEmpty()) {
-        const Plan plan = planFor(reader, size, use);
-        const QImage::Format told = reader.imageFormat();
-        const QImage::Format format = told == QImage::Format_Invalid ? QImage::Format_ARGB32 : told;
-        const qint64 needed = bytesFor(plan, format, passes);
-        if (pixelsOf(plan.decoded) > largestPixels || needed > largestDecoding) {
+        const auto needed = memoryFor(reader, size, use);
+        if (!needed) {
             return {{}, QStringLiteral("too large"), size};
         }
-        makeRoom(needed);
+        makeRoom(*needed);
     }
     QImage image = reader.read();
     if (image.isNull()) {

@@ -42,6 +42,11 @@ enum class PictureUse : std::uint8_t {
 /// part.
 inline constexpr qint64 largestPixels = qint64{64} << 20;
 
+/// JPEG pictures of more pixels are refused, by what their head says and before anything is
+/// decoded: one that comes in passes, with four colours, then holds most of what decoding may. Grey
+/// ones, of a single colour, may have four times as many.
+inline constexpr qint64 largestJpeg = qint64{36} << 20;
+
 /// Decoding never holds more than this at a time. What would need more is refused as too large, so
 /// that a small file cannot take the memory of the whole machine.
 inline constexpr qint64 largestDecoding = qint64{360} << 20;

@@ -9,7 +9,7 @@ namespace tarvel {
 
 namespace {
 
-// Far enough out that the edge of what is cut off is never seen, near enough for 16 bits.
+// Far enough out that the edge of what is cut off is never seen, near enough to draw exactly.
 constexpr double nearest = -4096;
 constexpr double farthest = 8192;
 constexpr double largestSide = 1'000'000; // device pixels

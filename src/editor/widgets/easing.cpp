@@ -1,5 +1,7 @@
-// Steps and frames of gliding numbers.
+// Steps of a fixed part of what is left, by the clock of Qt's animations.
 #include "widgets/easing.h"
+
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <cmath>
@@ -11,33 +13,35 @@ Easing::Easing(int divisor, double nearEnough, QObject* parent)
     : QObject(parent)
     , left_(1.0 - 1.0 / divisor)
     , nearEnough_(nearEnough) {
-    constexpr int frame = 16; // ms
-    frames_.setInterval(frame);
-    frames_.setTimerType(Qt::PreciseTimer);
-    connect(&frames_, &QTimer::timeout, this, &Easing::stepFrame);
+    passed_.setDuration(duration);
+    passed_.setStartValue(0.0);
+    passed_.setEndValue(1.0);
+    connect(&passed_, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant& passed) { show(passed.toDouble()); });
+    connect(&passed_, &QVariantAnimation::finished, this, &Easing::finished);
 }
 
 void Easing::start(std::vector<Move> moves) {
+    {
+        const QSignalBlocker quiet(passed_); // moves that are left where they are do not finish
+        passed_.stop();
+    }
     steps_ = 0;
     for (const Move& move : moves) {
         steps_ = std::max(steps_, stepsFor(move));
     }
     moves_ = std::make_shared<const Moves>(std::move(moves));
-    clock_.start();
-    frames_.start();
+    passed_.start();
 }
 
 void Easing::finish() {
-    if (!isRunning()) {
-        return;
+    if (isRunning()) {
+        passed_.setCurrentTime(duration);
     }
-    frames_.stop();
-    // The applied functions may start something new.
-    const auto moves = std::exchange(moves_, nullptr);
-    for (const Move& move : *moves) {
-        move.apply(move.to);
-    }
-    emit finished();
+}
+
+bool Easing::isRunning() const {
+    return passed_.state() == QAbstractAnimation::Running;
 }
 
 double Easing::stepsFor(const Move& move) const {
@@ -51,15 +55,13 @@ double Easing::valueAfter(const Move& move, double steps) const {
     return std::abs(rest) <= nearEnough_ ? move.to : move.to - rest;
 }
 
-void Easing::stepFrame() {
-    const double passed = static_cast<double>(clock_.elapsed()) / duration;
-    if (passed >= 1) {
-        finish();
-        return;
+void Easing::show(double passed) {
+    if (passed == 0) {
+        return; // nothing has moved yet
     }
     const auto moves = moves_;
     for (const Move& move : *moves) {
-        move.apply(valueAfter(move, std::ceil(steps_ * passed)));
+        move.apply(passed < 1 ? valueAfter(move, std::ceil(steps_ * passed)) : move.to);
         if (moves != moves_) {
             return; // started anew meanwhile
         }

@@ -1,9 +1,8 @@
 // Numbers that glide to their targets: fast at first, slower and slower, exact at the end.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
+#include <QVariantAnimation>
 
 #include <functional>
 #include <memory>
@@ -37,7 +36,7 @@ class Easing : public QObject {
     void start(std::vector<Move> moves);
     /// Takes all moves to their targets at once.
     void finish();
-    [[nodiscard]] bool isRunning() const { return frames_.isActive(); }
+    [[nodiscard]] bool isRunning() const;
 
   signals:
     /// All moves are at their targets.
@@ -48,14 +47,13 @@ class Easing : public QObject {
 
     [[nodiscard]] double stepsFor(const Move& move) const;
     [[nodiscard]] double valueAfter(const Move& move, double steps) const;
-    void stepFrame();
+    void show(double passed);
 
     double left_; // part of the distance that a step leaves
     double nearEnough_;
     double steps_ = 0; // that the longest move needs
     std::shared_ptr<const Moves> moves_;
-    QElapsedTimer clock_;
-    QTimer frames_;
+    QVariantAnimation passed_; // the part of the duration that has passed, from 0 to 1
 };
 
 } // namespace tarvel

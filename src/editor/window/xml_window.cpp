@@ -1,6 +1,8 @@
 // The XML window.
 #include "window/xml_window.h"
 
+#include "widgets/control_names.h"
+
 #include <QFontDatabase>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
@@ -11,9 +13,7 @@ XmlWindow::XmlWindow(const QString& text, QWidget* parent)
     : QDialog(parent) {
     setObjectName(QStringLiteral("frmXml"));
     setWindowTitle(QStringLiteral("QOR_Skin.xml"));
-    auto* edit = new QPlainTextEdit;
-    edit->setObjectName(QStringLiteral("txtXml"));
-    edit->setAccessibleName(tr("Text of the skin file"));
+    auto* edit = named(new QPlainTextEdit, QStringLiteral("txtXml"), tr("Text of the skin file"));
     edit->setReadOnly(true);
     edit->setLineWrapMode(QPlainTextEdit::NoWrap);
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);

@@ -103,12 +103,12 @@ class RandomSkin {
                                 {"R&D", text()},
                                 {name(), text()},
                                 {name(), "z"}};
-        settings.music = {.optYesMusic = chance(),
-                          .chkGlobal = chance(),
-                          .chkCustom = chance(),
-                          .chkRandom = chance(),
+        settings.music = {.hasMusic = chance(),
+                          .playGlobal = chance(),
+                          .customMusic = chance(),
+                          .playRandom = chance(),
                           .musicFiles = {folder.document("from\\pic.bmp")},
-                          .lstMusic = {0}};
+                          .rows = {0}};
         settings.delays = {0.1, -5, 1e9 + below(1000)};
         for (SampleBox& box : settings.systemColors.boxes) {
             box = {color(), color()};
@@ -116,7 +116,7 @@ class RandomSkin {
         for (ColorNumber& sample : settings.systemColors.texts) {
             sample = color();
         }
-        settings.systemColors.txtAlpha = {"5", ""};
+        settings.systemColors.opacityTexts = {"5", ""};
         settings.background = {chance(), folder.document("from\\pic.bmp")};
     }
 

@@ -50,7 +50,7 @@ TEST(NewDocument, HasTheSettingsOfANewSkin) {
     EXPECT_EQ(settings.delays, (std::array<double, 3>{0, 0, 0}));
     EXPECT_EQ(settings.background, (Background{false, ""}));
     EXPECT_TRUE(settings.resources.empty());
-    EXPECT_EQ(settings.systemColors.txtAlpha, (std::array<std::string, 2>{"100", "100"}));
+    EXPECT_EQ(settings.systemColors.opacityTexts, (std::array<std::string, 2>{"100", "100"}));
 }
 
 TEST(NewDocument, HasReadableSystemColours) {

@@ -81,11 +81,11 @@ TEST(ProperOpacity, IsANumberOtherThanZeroOrExactlyZero) {
 TEST(FirstImproperOpacity, NamesTheFirstBox) {
     SystemColors colors;
     EXPECT_EQ(firstImproperOpacity(colors), -1);
-    colors.txtAlpha = {"0", "250"};
+    colors.opacityTexts = {"0", "250"};
     EXPECT_EQ(firstImproperOpacity(colors), -1);
-    colors.txtAlpha = {"100", "0.0"};
+    colors.opacityTexts = {"100", "0.0"};
     EXPECT_EQ(firstImproperOpacity(colors), 1);
-    colors.txtAlpha = {"", ""};
+    colors.opacityTexts = {"", ""};
     EXPECT_EQ(firstImproperOpacity(colors), 0);
 }
 

@@ -42,8 +42,8 @@ ModifierEditor opened(const std::string& xml, ElementKind kind = ElementKind::Bo
 // An editor in which a type and a target are chosen by their rows.
 ModifierEditor chosen(std::string_view type, int target) {
     ModifierEditor editor = opened("");
-    editor.lstMods_Click(editor.getModNum(type));
-    editor.lstTargets_Click(target);
+    editor.chooseType(editor.getModNum(type));
+    editor.chooseTarget(target);
     return editor;
 }
 
@@ -241,12 +241,12 @@ TEST(Choosing, OfferTheTargetsAndTheFrameOfTheType) {
     };
     ModifierEditor editor = opened(tint);
     for (const Case& c : cases) {
-        editor.lstMods_Click(editor.getModNum(c.type));
+        editor.chooseType(editor.getModNum(c.type));
         EXPECT_EQ(editor.targets(), c.targets) << c.type;
         EXPECT_EQ(shown(editor), c.shown);
     }
-    editor.lstMods_Click(editor.getModNum("Fade"));
-    editor.lstTargets_Click(2);
+    editor.chooseType(editor.getModNum("Fade"));
+    editor.chooseTarget(2);
     EXPECT_EQ(shown(editor), "Fade > (Both), range");
 }
 
@@ -260,7 +260,7 @@ TEST(Rows, AreFoundByTheirExactText) {
     EXPECT_EQ(editor.getModNum("Twice"), 9);
     EXPECT_EQ(editor.getModNum(""), 0);
     EXPECT_EQ(editor.getTarNum("Fill"), 0);
-    editor.lstMods_Click(editor.getModNum("Unlisted"));
+    editor.chooseType(editor.getModNum("Unlisted"));
     EXPECT_EQ(editor.getTarNum("Fill"), 1);
     EXPECT_EQ(editor.getTarNum("fill"), 0);
 }
@@ -303,7 +303,7 @@ TEST(Storing, RemovesTheModifierWhereNoTargetIsChosen) {
     EXPECT_EQ(opened(bare).stored(parse(bare)), XmlTree()); // opens on "None"
     ModifierEditor editor = opened(tint);
     for (const std::string_view type : {"None", "Bare"}) {
-        editor.lstMods_Click(editor.getModNum(type));
+        editor.chooseType(editor.getModNum(type));
         EXPECT_EQ(editor.stored(parse(tint)), XmlTree()) << type;
         EXPECT_EQ(editor.stored({}), XmlTree()) << type;
     }

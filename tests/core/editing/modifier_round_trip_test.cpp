@@ -84,9 +84,9 @@ TEST(ModifierRoundTrip, ComesBackForEachTypeTargetAndKind) {
         ModifierEditor editor;
         editor.open(catalogue, elementKind, {});
         for (int row = 1; row < static_cast<int>(editor.mods().size()); ++row) {
-            editor.lstMods_Click(row);
+            editor.chooseType(row);
             for (int target = 0; target < static_cast<int>(editor.targets().size()); ++target) {
-                editor.lstTargets_Click(target);
+                editor.chooseTarget(target);
                 fill(editor.values(), ++modifiers);
                 addElement(document, elementKind, editor.stored({}));
             }
@@ -119,8 +119,8 @@ TEST(ModifierRoundTrip, LeavesUnknownTypesAndChildrenAlone) {
 XmlTree storedFor(std::string_view type, int target) {
     ModifierEditor editor;
     editor.open(starterCatalogue(), ElementKind::Box, {});
-    editor.lstMods_Click(editor.getModNum(type));
-    editor.lstTargets_Click(target);
+    editor.chooseType(editor.getModNum(type));
+    editor.chooseTarget(target);
     return editor.stored({});
 }
 

@@ -30,14 +30,14 @@ TEST(IsMusicFile, GoesByTheEndingInAnyCase) {
 TEST(AddMusicFile, GivesEachRowTheIndexOfItsFile) {
     const MusicSettings music = threeFiles();
     EXPECT_EQ(music.musicFiles, (Files{"\\a.wma", "\\b.wma", "\\c.wma"}));
-    EXPECT_EQ(music.lstMusic, (Rows{0, 1, 2}));
+    EXPECT_EQ(music.rows, (Rows{0, 1, 2}));
 }
 
 TEST(RemoveMusicRow, LeavesTheFilesAndTheOtherIndexes) {
     MusicSettings music = threeFiles();
     removeMusicRow(music, 1);
     EXPECT_EQ(music.musicFiles, (Files{"\\a.wma", "\\b.wma", "\\c.wma"}));
-    EXPECT_EQ(music.lstMusic, (Rows{0, 2}));
+    EXPECT_EQ(music.rows, (Rows{0, 2}));
     EXPECT_EQ(musicPath(music, 1), "\\c.wma");
 }
 
@@ -47,7 +47,7 @@ TEST(RemoveMusicRow, IsNoObstacleToAddingMore) {
     removeMusicRow(music, 0);
     addMusicFile(music, "\\a.wma");
     EXPECT_EQ(music.musicFiles, (Files{"\\a.wma", "\\b.wma", "\\c.wma", "\\a.wma"}));
-    EXPECT_EQ(music.lstMusic, (Rows{1, 3}));
+    EXPECT_EQ(music.rows, (Rows{1, 3}));
 }
 
 TEST(RemoveMusicRow, IgnoresRowsThatAreNotThere) {
@@ -62,7 +62,7 @@ TEST(MusicPath, IsEmptyForWhatIsNotThere) {
     EXPECT_EQ(musicPath(music, 0), "\\a.wma");
     EXPECT_EQ(musicPath(music, -1), "");
     EXPECT_EQ(musicPath(music, 3), "");
-    music.lstMusic = {7};
+    music.rows = {7};
     EXPECT_EQ(musicPath(music, 0), "");
 }
 

@@ -197,7 +197,7 @@ TEST(Recovery, RefusesRowsThatNoDocumentHas) {
         {"more locked than there", [](DocumentParts& p) { p.lockCount[1] = 3; }},
         {"fewer locked than none", [](DocumentParts& p) { p.lockCount[1] = -1; }},
         {"no such screen", [](DocumentParts& p) { p.currentLayout = 6; }},
-        {"no such music", [](DocumentParts& p) { p.settings.music.lstMusic = {0}; }},
+        {"no such music", [](DocumentParts& p) { p.settings.music.rows = {0}; }},
         {"an element of no screen",
          [](DocumentParts& p) { p.elements.edit(1).elementLayout = -1; }},
     };

@@ -29,7 +29,7 @@ class SkinFolderTest : public testing::Test {
     }
     void addMusic(const std::string& path) {
         document_.editSettings([&](SkinSettings& settings) {
-            settings.music.lstMusic.push_back(static_cast<int>(settings.music.musicFiles.size()));
+            settings.music.rows.push_back(static_cast<int>(settings.music.musicFiles.size()));
             settings.music.musicFiles.push_back(path);
         });
     }
@@ -65,9 +65,8 @@ TEST_F(SkinFolderTest, CopiesResourcesBackgroundAndMusic) {
     });
     addMusic(folder_.document("c\\removed.wma"));
     addMusic(folder_.document("c\\Song.wma"));
-    document_.editSettings([](SkinSettings& settings) {
-        settings.music.lstMusic.erase(settings.music.lstMusic.begin());
-    });
+    document_.editSettings(
+        [](SkinSettings& settings) { settings.music.rows.erase(settings.music.rows.begin()); });
     const SkinDocument before = document_;
     EXPECT_TRUE(save().succeeded());
     EXPECT_EQ(content("Media/pic.PNG"), "picture");

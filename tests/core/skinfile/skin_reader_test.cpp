@@ -56,15 +56,15 @@ TEST_F(SkinReaderTest, TheFieldsOfEveryInformationSection) {
 
 TEST_F(SkinReaderTest, Music) {
     read("<MUSIC><playglobal>ON</playglobal><PlayRandom>off</PlayRandom></MUSIC>");
-    EXPECT_TRUE(settings().music.optYesMusic);
-    EXPECT_TRUE(settings().music.chkGlobal);
-    EXPECT_FALSE(settings().music.chkRandom);
+    EXPECT_TRUE(settings().music.hasMusic);
+    EXPECT_TRUE(settings().music.playGlobal);
+    EXPECT_FALSE(settings().music.playRandom);
     const MusicSettings before = settings().music;
     read("<Music><PlayGlobal>On</PlayGlobal><Directory>music</Directory></Music>");
     EXPECT_EQ(settings().music, before); // a Directory changes nothing
     read("<Music><PlayGlobal>yes</PlayGlobal><PlayRandom>On</PlayRandom></Music>");
-    EXPECT_FALSE(settings().music.chkGlobal);
-    EXPECT_TRUE(settings().music.chkRandom);
+    EXPECT_FALSE(settings().music.playGlobal);
+    EXPECT_TRUE(settings().music.playRandom);
 }
 
 TEST_F(SkinReaderTest, WithoutMusicItStaysOff) {

@@ -48,6 +48,26 @@ Element ofKind(ElementKind kind) {
     return element;
 }
 
+// The screens that the document shows, in order, while this watches it.
+struct Follower : DocumentObserver {
+    explicit Follower(SkinDocument& watched)
+        : document(watched)
+        , watch(document.watch(*this)) {}
+    ~Follower() override = default;
+    Follower(const Follower&) = delete;
+    Follower& operator=(const Follower&) = delete;
+    void documentChanged(const DocumentChange& change) override {
+        if (change.what == DocumentChange::What::currentLayout) {
+            screens.push_back(document.currentLayout());
+        }
+        ++changes;
+    }
+    SkinDocument& document;
+    DocumentWatch watch;
+    std::vector<int> screens;
+    int changes = 0;
+};
+
 constexpr auto position = "\t\t\t<Pos L=\"1\" T=\"2\" W=\"3\" H=\"4\"/>\n";
 
 std::string elementOf(const std::string& layout) {
@@ -109,23 +129,6 @@ TEST_F(SkinWriterTest, IndentationStaysAtItsLimits) {
 }
 
 TEST_F(SkinWriterTest, CurrentLayoutFollowsTheScreenThatIsWritten) {
-    struct Follower : DocumentObserver {
-        explicit Follower(SkinDocument& watched)
-            : document(watched) {
-            watch = document.watch(*this);
-        }
-        ~Follower() override = default;
-        Follower(const Follower&) = delete;
-        Follower& operator=(const Follower&) = delete;
-        void documentChanged(const DocumentChange& change) override {
-            if (change.what == DocumentChange::What::currentLayout) {
-                screens.push_back(document.currentLayout());
-            }
-        }
-        SkinDocument& document;
-        DocumentWatch watch;
-        std::vector<int> screens;
-    };
     for (const int screen : {5, 3, 0}) {
         document_.setCurrentLayout(screen);
         document_.addElement(ofKind(ElementKind::Box));
@@ -134,6 +137,33 @@ TEST_F(SkinWriterTest, CurrentLayoutFollowsTheScreenThatIsWritten) {
     const Follower follower(document_);
     (void)generated();
     EXPECT_EQ(follower.screens, (std::vector<int>{0, 3, 5, menuScreen}));
+}
+
+TEST_F(SkinWriterTest, AFailureLeavesTheScreenThatWasBeingWritten) {
+    Element element = ofKind(ElementKind::Box);
+    element.elementModifiers.edit().addChild(XmlTree::top, "Modifier");
+    document_.setCurrentLayout(3);
+    document_.addElement(std::move(element));
+    document_.setCurrentLayout(2);
+    const Follower follower(document_);
+    EXPECT_THROW(SkinWriter(folder_ / "missing").generateXML(document_), FileError);
+    EXPECT_EQ(follower.screens, (std::vector<int>{3}));
+}
+
+TEST_F(SkinWriterTest, WritesTheSameTextOfADocumentThatMayNotChange) {
+    for (const int screen : {5, 3, 0}) {
+        document_.setCurrentLayout(screen);
+        document_.addElement(ofKind(ElementKind::Box));
+    }
+    document_.setCurrentLayout(2);
+    const SkinDocument before = document_;
+    {
+        const Follower follower(document_);
+        writer_.write(document_);
+        EXPECT_EQ(follower.changes, 0);
+    }
+    EXPECT_EQ(document_, before);
+    EXPECT_EQ(withLineFeeds(writer_.xmlText()), generated());
 }
 
 TEST_F(SkinWriterTest, NewSkinWithoutElements) {
@@ -180,12 +210,12 @@ TEST_F(SkinWriterTest, InformationLeavesOutEmptyFieldsAndMadeUsing) {
 
 TEST_F(SkinWriterTest, MusicOnlyWhenItIsOnAndNeverADirectory) {
     settings([](SkinSettings& s) {
-        s.music.chkGlobal = s.music.chkCustom = true;
+        s.music.playGlobal = s.music.customMusic = true;
         s.music.musicFiles = {"\\m\\a.wma"};
-        s.music.lstMusic = {0};
+        s.music.rows = {0};
     });
     EXPECT_EQ(generated().find("Music"), std::string::npos);
-    settings([](SkinSettings& s) { s.music.optYesMusic = true; });
+    settings([](SkinSettings& s) { s.music.hasMusic = true; });
     EXPECT_EQ(section("\t<Music>", "</Music>\n"), "\t<Music>\n"
                                                   "\t\t<PlayGlobal>On</PlayGlobal>\n"
                                                   "\t\t<PlayRandom>Off</PlayRandom>\n"

@@ -131,7 +131,7 @@ void FrmColorsTest::showsTheDocumentEachTimeItIsOpened() {
         for (unsigned i = 0; i < 6; ++i) {
             value.texts[i] = base + 4 + i;
         }
-        value.txtAlpha = {"40", "050 %"};
+        value.opacityTexts = {"40", "050 %"};
         setColors(value);
         QVERIFY(test::open(dialog));
         const auto shown = [&](const char* name) {
@@ -243,11 +243,11 @@ void FrmColorsTest::opacityGoesToTheDocumentAtOnce() {
     QVERIFY(test::open(dialog));
     typeOver(control<QLineEdit>(dialog, "txtAlpha(0)"), "75");
     typeOver(control<QLineEdit>(dialog, "txtAlpha(1)"), "x");
-    QCOMPARE(colors().txtAlpha, (std::array<std::string, 2>{"75", "x"}));
+    QCOMPARE(colors().opacityTexts, (std::array<std::string, 2>{"75", "x"}));
     typeOver(control<QLineEdit>(dialog, "txtAlpha(1)"), "");
-    QCOMPARE(colors().txtAlpha[1], "");
+    QCOMPARE(colors().opacityTexts[1], "");
     SystemColors expected;
-    expected.txtAlpha = {"75", ""};
+    expected.opacityTexts = {"75", ""};
     QCOMPARE(colors(), expected);
 }
 
@@ -358,7 +358,7 @@ void FrmColorsTest::everyWayOfClosingChecks() {
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QVERIFY(stayedOpen);
     QCOMPARE(prompts_->messages, QStringList{"Enter a proper opacity value"});
-    QCOMPARE(colors().txtAlpha[1], "80");
+    QCOMPARE(colors().opacityTexts[1], "80");
 }
 
 void FrmColorsTest::worksByKeysAlone() {

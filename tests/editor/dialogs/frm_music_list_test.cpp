@@ -64,7 +64,7 @@ void FrmMusicListTest::severalFilesAreAdded() {
     QCOMPARE(music().musicFiles.size(), 5U);
     QCOMPARE(music().musicFiles[3], folder_.document("new\\First Song.mp3"));
     QCOMPARE(music().musicFiles[4], folder_.document("gone.wma"));
-    QCOMPARE(music().lstMusic, (std::vector<int>{0, 1, 2, 3, 4}));
+    QCOMPARE(music().rows, (std::vector<int>{0, 1, 2, 3, 4}));
 }
 
 void FrmMusicListTest::nothingIsAdded_data() {
@@ -89,7 +89,7 @@ void FrmMusicListTest::nothingIsAdded() {
 void FrmMusicListTest::deleteRemovesTheEntryOnly() {
     setThreeFiles();
     MusicSettings expected = music();
-    expected.lstMusic = {0, 2};
+    expected.rows = {0, 2};
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     auto& list = control<MusicList>(*dialog, "lstMusic");
@@ -107,7 +107,7 @@ void FrmMusicListTest::deleteRemovesTheEntryOnly() {
 void FrmMusicListTest::rightClickRemovesTheEntryOnly() {
     setThreeFiles();
     MusicSettings expected = music();
-    expected.lstMusic = {0, 1};
+    expected.rows = {0, 1};
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     auto& list = control<MusicList>(*dialog, "lstMusic");
@@ -122,7 +122,7 @@ void FrmMusicListTest::rightClickRemovesTheEntryOnly() {
 void FrmMusicListTest::rightClickBelowTheRowsRemovesTheSelectedEntry() {
     setThreeFiles();
     MusicSettings expected = music();
-    expected.lstMusic = {1, 2};
+    expected.rows = {1, 2};
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     auto& list = control<MusicList>(*dialog, "lstMusic");
@@ -130,7 +130,7 @@ void FrmMusicListTest::rightClickBelowTheRowsRemovesTheSelectedEntry() {
     const QPoint below = list.viewport()->rect().bottomRight() - QPoint(5, 5);
     QVERIFY(list.itemAt(below) == nullptr);
     QTest::mouseClick(list.viewport(), Qt::RightButton, {}, below);
-    QCOMPARE(music().lstMusic, expected.lstMusic);
+    QCOMPARE(music().rows, expected.rows);
     QCOMPARE(music(), expected);
     QCOMPARE(list.count(), 2);
 }
@@ -177,7 +177,7 @@ void FrmMusicListTest::droppedMusicIsAdded() {
     QCOMPARE(list.item(3)->text(), song);
     QCOMPARE(list.item(4)->text(), other);
     QCOMPARE(music().musicFiles[3], folder_.document("SONG.WMA"));
-    QCOMPARE(music().lstMusic.back(), 4);
+    QCOMPARE(music().rows.back(), 4);
 }
 
 void FrmMusicListTest::filesThatASkinCannotHoldAreRefused() {

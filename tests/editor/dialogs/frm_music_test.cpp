@@ -113,8 +113,8 @@ void FrmMusicTest::showsTheDocumentEachTimeItIsOpened() {
     QVERIFY(test::close(*dialog));
     setThreeFiles();
     MusicSettings value = music();
-    value.chkGlobal = true;
-    value.lstMusic = {2, 0};
+    value.playGlobal = true;
+    value.rows = {2, 0};
     setMusic(value);
     QVERIFY(test::open(*dialog));
     QVERIFY(control<QRadioButton>(*dialog, "optYesMusic").isChecked());
@@ -144,15 +144,15 @@ void FrmMusicTest::optionsGoToTheDocumentAtOnce() {
         endGliding(*dialog);
     };
     press("optYesMusic");
-    expected.optYesMusic = true;
+    expected.hasMusic = true;
     QCOMPARE(music(), expected);
     press("chkCustom");
-    expected.chkCustom = true;
+    expected.customMusic = true;
     QCOMPARE(music(), expected);
     press("chkGlobal");
     press("chkRandom");
-    expected.chkGlobal = true;
-    expected.chkRandom = true;
+    expected.playGlobal = true;
+    expected.playRandom = true;
     QCOMPARE(music(), expected);
     press("chkCustom");
     press("chkGlobal");
@@ -268,7 +268,7 @@ void FrmMusicTest::furtherClicksWhileItGrowsAreHarmless() {
     click(control<QWidget>(*dialog, "optNoMusic"));
     QVERIFY(waitForGliding(*dialog));
     QCOMPARE(geometries(*dialog), small);
-    QCOMPARE(music().optYesMusic, false);
+    QCOMPARE(music().hasMusic, false);
 }
 
 void FrmMusicTest::closingWhileItGrowsIsHarmless() {
@@ -295,7 +295,7 @@ void FrmMusicTest::worksByKeysAlone() {
     const auto press = [&](Qt::Key key) { QTest::keyClick(dialog->focusWidget(), key); };
     QVERIFY(control<QWidget>(*dialog, "optNoMusic").hasFocus());
     press(Qt::Key_Up);
-    QVERIFY(music().optYesMusic);
+    QVERIFY(music().hasMusic);
     endGliding(*dialog);
     QStringList visited;
     press(Qt::Key_Tab);
@@ -303,13 +303,13 @@ void FrmMusicTest::worksByKeysAlone() {
     press(Qt::Key_Tab);
     visited << dialog->focusWidget()->objectName();
     press(Qt::Key_Space);
-    QVERIFY(music().chkCustom);
+    QVERIFY(music().customMusic);
     endGliding(*dialog);
     prompts_->fileChoices = {{QString::fromStdString(folder_.file("k.wma", "x").string())}};
     press(Qt::Key_Tab);
     visited << dialog->focusWidget()->objectName();
     press(Qt::Key_Space);
-    QCOMPARE(music().lstMusic.size(), 1U);
+    QCOMPARE(music().rows.size(), 1U);
     for (int i = 0; i < 4; ++i) {
         press(Qt::Key_Tab);
         visited << dialog->focusWidget()->objectName();
@@ -343,7 +343,7 @@ void FrmMusicTest::closes() {
         }
     });
     QCOMPARE(dialog->exec(), int(QDialog::Accepted));
-    QVERIFY(music().optYesMusic);
+    QVERIFY(music().hasMusic);
 }
 
 void FrmMusicTest::controlsHaveAccessibleNames() {

@@ -1,6 +1,6 @@
 // Thumbnails and preview of the Resources dialog.
-#include "dialogs/resource_preview.h"
 #include "dialogs/resource_thumbnails.h"
+#include "panels/resource_preview.h"
 #include "support/resources_support.h"
 #include "support/ui_test.h"
 

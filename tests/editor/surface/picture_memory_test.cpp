@@ -5,13 +5,13 @@
 #include "support/jpeg_support.h"
 #include "support/surface_support.h"
 #include "support/ui_test.h"
-#include "surface/jpeg_passes.h"
 #include "surface/picture_cache.h"
 
 #include <QFile>
 #include <QProcess>
 
 #include <cstdio>
+#include <ctime>
 
 using namespace tarvel;
 using namespace tarvel::test;
@@ -110,11 +110,10 @@ class PictureMemoryTest : public QObject {
     void initTestCase();
     void peakStaysLow_data();
     void peakStaysLow();
-    void picturesInPassesAreRefusedByTheirMemory_data();
-    void picturesInPassesAreRefusedByTheirMemory();
+    void jpegsAreRefusedByTheirPixels_data();
+    void jpegsAreRefusedByTheirPixels();
+    void largestClaimIsRefusedAtOnce();
     void largeDecodingsMakeTheirRoom();
-    void passesAreCounted();
-    void partOfTheColoursMeansPasses();
 
   private:
     PictureFolder folder_;
@@ -131,7 +130,10 @@ void PictureMemoryTest::peakStaysLow_data() {
     const QByteArray colored = jpegBytes(coloredPicture({64, 64}), true);
     writeBytes(folder_.path("grey.jpg"), claimingSize(grey, 20'000, 20'000));
     writeBytes(folder_.path("colored.jpg"), claimingSize(colored, 14'000, 14'000));
-    writeBytes(folder_.path("allowed.jpg"), claimingSize(colored, 9'000, 8'000));
+    writeBytes(folder_.path("allowed.jpg"), claimingSize(colored, 6'144, 6'144));
+    writeBytes(folder_.path("fourcolors.jpg"),
+               claimingSize(withFourWholeColors(colored), 6'144, 6'144));
+    writeBytes(folder_.path("allowedgrey.jpg"), claimingSize(grey, 12'288, 12'288));
     const QByteArray rows = jpegBytes(coloredPicture({64, 64}), false);
     writeBytes(folder_.path("widest.jpg"), claimingSize(rows, 65'000, 65'000));
     QFile nothing(folder_.path("nothing.png"));
@@ -142,6 +144,8 @@ void PictureMemoryTest::peakStaysLow_data() {
     (void)folder_.save(greyPicture({8'192, 8'192}), "vastgrey.png");
     QTest::newRow("refused") << "grey.jpg colored.jpg nothing.png";
     QTest::newRow("JPEG in passes that is shown") << "allowed.jpg";
+    QTest::newRow("JPEG in passes with four colours that is shown") << "fourcolors.jpg";
+    QTest::newRow("grey JPEG in passes that is shown") << "allowedgrey.jpg";
     QTest::newRow("JPEG by rows") << "widest.jpg";
     QTest::newRow("no picture") << "nothing.png";
     QTest::newRow("two large PNG") << "vast.png vast2.png";
@@ -163,25 +167,52 @@ void PictureMemoryTest::peakStaysLow() {
     QVERIFY2(peak < largestPeak, qPrintable(QStringLiteral("%1 MB").arg(peak / megabyte)));
 }
 
-void PictureMemoryTest::picturesInPassesAreRefusedByTheirMemory_data() {
-    QTest::addColumn<int>("side");
+void PictureMemoryTest::jpegsAreRefusedByTheirPixels_data() {
+    QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("passes");
-    QTest::addColumn<QString>("problem");
-    QTest::newRow("in passes") << 5'000 << true << "";
-    QTest::newRow("far too large in passes") << 14'000 << true << "too large";
-    QTest::newRow("as large by rows") << 14'000 << false << "";
+    QTest::addColumn<bool>("grey");
+    QTest::addColumn<bool>("refused");
+    constexpr int side = 6'144;
+    static_assert(qint64{side} * side == largestJpeg);
+    const auto row = [](const char* name, QSize size, bool passes, bool grey, bool refused) {
+        QTest::newRow(name) << size << passes << grey << refused;
+    };
+    row("in passes", {5'000, 5'000}, true, false, false);
+    row("the most in passes", {side, side}, true, false, false);
+    row("the most by rows", {side, side}, false, false, false);
+    row("a column more in passes", {side + 1, side}, true, false, true);
+    row("a row more by rows", {side, side + 1}, false, false, true);
+    row("far too large in passes", {14'000, 14'000}, true, false, true);
+    row("as large by rows", {14'000, 14'000}, false, false, true);
+    row("the most grey in passes", {2 * side, 2 * side}, true, true, false);
+    row("a column more, grey", {2 * side + 1, 2 * side}, true, true, true);
 }
 
-void PictureMemoryTest::picturesInPassesAreRefusedByTheirMemory() {
-    QFETCH(int, side);
+void PictureMemoryTest::jpegsAreRefusedByTheirPixels() {
+    QFETCH(QSize, size);
     QFETCH(bool, passes);
-    QFETCH(QString, problem);
-    const QString path = folder_.path("passes.jpg");
-    writeBytes(path, claimingSize(jpegBytes(coloredPicture({640, 640}), passes), side, side));
+    QFETCH(bool, grey);
+    QFETCH(bool, refused);
+    const QString path = folder_.path("pixels.jpg");
+    const QImage image = grey ? greyPicture({640, 640}) : coloredPicture({640, 640});
+    writeBytes(path, claimingSize(jpegBytes(image, passes), size.width(), size.height()));
     PictureCache cache;
     const std::string file = documentPath(path.toStdString());
+    const QString problem = refused ? "too large" : "";
     QCOMPARE(cache.stretched(file, {20, 20}).problem, problem);
-    QCOMPARE(cache.pictureSize(file), QSize(side, side));
+    QCOMPARE(cache.unscaled(file).problem, problem);
+    QCOMPARE(cache.pictureSize(file), size);
+}
+
+void PictureMemoryTest::largestClaimIsRefusedAtOnce() {
+    const QString path = folder_.path("claim.jpg");
+    writeBytes(path, claimingSize(jpegBytes(coloredPicture({64, 64}), false), 65'500, 65'500));
+    const std::string file = documentPath(path.toStdString());
+    PictureCache cache;
+    const std::clock_t start = std::clock(); // other work on the machine does not count
+    QCOMPARE(cache.stretched(file, {20, 20}).problem, "too large");
+    QCOMPARE(cache.unscaled(file).problem, "too large");
+    QVERIFY(std::clock() - start < CLOCKS_PER_SEC / 10);
 }
 
 void PictureMemoryTest::largeDecodingsMakeTheirRoom() {
@@ -199,36 +230,6 @@ void PictureMemoryTest::largeDecodingsMakeTheirRoom() {
     QVERIFY(QFile::rename(small_, small_ + ".away"));
     QVERIFY(cache.stretched(small, {40, 30}).state == Picture::State::ready);
     QVERIFY(QFile::rename(small_ + ".away", small_));
-}
-
-void PictureMemoryTest::passesAreCounted() {
-    const auto counted = [](const QByteArray& bytes) {
-        QBuffer buffer;
-        buffer.setData(bytes);
-        buffer.open(QIODevice::ReadOnly);
-        const qint64 result = jpegPassesBytes(buffer);
-        return buffer.pos() == 0 ? result : -1;
-    };
-    QCOMPARE(counted(jpegBytes(greyPicture({640, 480}), false)), 0);
-    QCOMPARE(counted(jpegBytes(greyPicture({640, 480}), true)), 640 * 480 * 2);
-    QCOMPARE(counted(jpegBytes(greyPicture({641, 481}), true)), 648 * 488 * 2);
-    const qint64 colored = counted(jpegBytes(coloredPicture({640, 480}), true));
-    QVERIFY(colored >= 640 * 480 * 3 && colored <= 640 * 480 * 6);
-    QCOMPARE(counted("nothing like a picture"), 0);
-    QCOMPARE(counted({}), 0);
-    const QByteArray whole = jpegBytes(coloredPicture({640, 480}), true);
-    for (int size = 0; size < 700; ++size) {
-        QVERIFY(counted(whole.left(size)) >= 0);
-    }
-}
-
-void PictureMemoryTest::partOfTheColoursMeansPasses() {
-    // Three colours in the frame, of 16 by 8 pixels; one of them in the first pass.
-    QBuffer buffer;
-    buffer.setData(QByteArray::fromHex("ffd8 ffc0 0011 08 0008 0010 03 011100 021101 031101"
-                                       "ffda 0008 01 0100 003f00"));
-    buffer.open(QIODevice::ReadOnly);
-    QCOMPARE(jpegPassesBytes(buffer), 16 * 8 * 3 * 2);
 }
 
 // The child takes the option in the place of options of the test.

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -19,11 +20,13 @@ class EasingTest : public QObject {
     void endsExactlyInTime_data();
     void endsExactlyInTime();
     void slowsDown();
+    void stepsCoverAFixedPartOfWhatIsLeft();
     void movesStayTogether();
     void eventsRunInBetween();
     void aNewStartDropsTheOldMoves();
     void finishTakesTheTargets();
     void aMoveMayStartAnother();
+    void theLastStepMayStartAnother();
     void nothingToMoveIsFinishedToo();
 };
 
@@ -72,6 +75,24 @@ void EasingTest::slowsDown() {
                    }}});
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 2000);
     QVERIFY2(atHalfTime > 850, qPrintable(QString::number(atHalfTime)));
+}
+
+void EasingTest::stepsCoverAFixedPartOfWhatIsLeft() {
+    Easing easing(15, 3);
+    QSignalSpy finished(&easing, &Easing::finished);
+    std::vector<double> rests;
+    easing.start({{0, 1000, [&](double value) { rests.push_back(1000 - value); }}});
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 2000);
+    for (const double rest : rests) {
+        if (rest == 0) {
+            continue;
+        }
+        QVERIFY2(rest > 3, qPrintable(QString::number(rest)));
+        const double steps = std::log(rest / 1000) / std::log(14.0 / 15);
+        QVERIFY2(std::abs(steps - std::round(steps)) < 1e-6 && steps > 0.5,
+                 qPrintable(QString::number(steps)));
+    }
+    QCOMPARE(rests.back(), 0.0);
 }
 
 void EasingTest::movesStayTogether() {
@@ -147,6 +168,21 @@ void EasingTest::aMoveMayStartAnother() {
     QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 2000);
     QCOMPARE(second, 500.0);
     QVERIFY(!thirdCalled);
+}
+
+void EasingTest::theLastStepMayStartAnother() {
+    Easing easing(30, 3);
+    QSignalSpy finished(&easing, &Easing::finished);
+    double second = 0;
+    easing.start({{0, 1000, [&](double value) {
+                       if (value == 1000) {
+                           easing.start({{0, 500, [&](double now) { second = now; }}});
+                       }
+                   }}});
+    easing.finish();
+    QVERIFY(easing.isRunning());
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 2000);
+    QCOMPARE(second, 500.0);
 }
 
 void EasingTest::nothingToMoveIsFinishedToo() {

@@ -61,7 +61,7 @@ void addResource(Editor& editor, const QString& name) {
 void addMusic(Editor& editor, const QString& name) {
     editor.document().editSettings([&](SkinSettings& settings) {
         MusicSettings& music = settings.music;
-        music.lstMusic.push_back(static_cast<int>(music.musicFiles.size()));
+        music.rows.push_back(static_cast<int>(music.musicFiles.size()));
         music.musicFiles.push_back(documentPath(hostPathOf(editor.path(name))));
     });
 }

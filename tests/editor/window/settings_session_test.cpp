@@ -216,7 +216,7 @@ void SettingsSessionTest::setColors(Editor& editor) {
         typeOver(control<QLineEdit>(dialog, "txtAlpha(1)"), "250");
     }));
     QCOMPARE(editor.prompts.colors.size(), 0);
-    const auto& opacities = editor.document().settings().systemColors.txtAlpha;
+    const auto& opacities = editor.document().settings().systemColors.opacityTexts;
     QCOMPARE(opacities[0], std::string("70"));
     QCOMPARE(opacities[1], std::string("250"));
 }
@@ -243,8 +243,8 @@ void SettingsSessionTest::setMusic(Editor& editor) {
         QCOMPARE(list.count(), 2);
     }));
     const MusicSettings& music = editor.document().settings().music;
-    QVERIFY(music.optYesMusic && music.chkGlobal && music.chkCustom && music.chkRandom);
-    QCOMPARE(music.lstMusic, std::vector<int>({0, 2}));
+    QVERIFY(music.hasMusic && music.playGlobal && music.customMusic && music.playRandom);
+    QCOMPARE(music.rows, std::vector<int>({0, 2}));
 }
 
 void SettingsSessionTest::addPreset(QWidget& dialog, int row, const QString& name) {

@@ -1,7 +1,4 @@
 // The frame of the item menu's settings, and how its values come from an element and go back.
-//
-// The booleans of a menu's record are plain bools: true stands for the 16-bit number -1, false for
-// 0; a ticked box is true.
 #pragma once
 
 #include "document/skin_document.h"
@@ -21,10 +18,10 @@ struct MenuFrame {
     bool smoothScroll = true;
     bool glowSelected = false;
     bool showDescription = true;
-    std::string scrollFactor = "3";
-    std::string itemsShown = "5";
-    int titleAlignment = 0; ///< position in alignmentEntries
-    int descriptionAlignment = 1;
+    std::string scrollFactor = "3"; ///< as typed
+    std::string itemsShown = "5";   ///< as typed
+    int titleAlignment = 0;         ///< position in alignmentEntries
+    int descriptionAlignment = 1;   ///< position in alignmentEntries
     ColorNumber selectedTitleColor = makeColor(255, 255, 255);
     ColorNumber unselectedTitleColor = makeColor(255, 255, 255);
     ColorNumber selectedDescriptionColor = makeColor(255, 255, 255);
@@ -42,7 +39,7 @@ struct MenuFrame {
 void showMenuSettings(const MenuSettings& settings, MenuFrame& frame);
 
 /// The settings that the frame shows. Numbers are read leniently, rounded with halves to even and
-/// held at the limits of 16 bits; only one that is exactly 0 becomes 1.
+/// held at -32,768 to 32,767; only one that is exactly 0 becomes 1.
 [[nodiscard]] MenuSettings menuSettingsOf(const MenuFrame& frame);
 
 /// The user chose an entry (0 to 2) for the titles or the descriptions.
