@@ -76,7 +76,7 @@ class Planner {
         if (settings_.background.loaded) {
             plan(PlannedCopy::What::background, settings_.background.path, mediaFolder);
         }
-        for (const int index : settings_.music.lstMusic) {
+        for (const int index : settings_.music.rows) {
             plan(PlannedCopy::What::music,
                  settings_.music.musicFiles.at(static_cast<std::size_t>(index)), musicFolder);
         }
