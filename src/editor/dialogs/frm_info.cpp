@@ -42,13 +42,11 @@ FrmInfo::FrmInfo(SkinDocument& document, Prompts& prompts, QWidget* parent)
             [&](SkinSettings& settings) { settings.skinName = coreText(text); });
     });
     connect(fields_, &FieldsFrame::fieldClicked, this, [this](int field) {
-        const auto& information = this->document().settings().information;
-        fields_->setValue(qtText(information.at(static_cast<std::size_t>(field)).value));
+        fields_->setValue(qtText(fieldValue(this->document().settings(), field)));
     });
     connect(fields_, &FieldsFrame::valueChanged, this, [this](int field, const QString& text) {
-        this->document().editSettings([&](SkinSettings& settings) {
-            settings.information.at(static_cast<std::size_t>(field)).value = coreText(text);
-        });
+        this->document().editSettings(
+            [&](SkinSettings& settings) { setFieldValue(settings, field, coreText(text)); });
     });
 }
 
