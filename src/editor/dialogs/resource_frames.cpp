@@ -67,6 +67,7 @@ CustomFrame::CustomFrame(SkinDocument& document, Prompts& prompts, QWidget* owne
                     tr("Add the file as a resource"))) {
     setObjectName(QStringLiteral("fraCustom"));
     buildGrid();
+    connect(txtRes_, &QLineEdit::textChanged, this, &CustomFrame::inputChanged);
     connect(cmdBrowse_, &QPushButton::clicked, this, &CustomFrame::cmdBrowse_Click);
     connect(cmdAdd_, &QPushButton::clicked, this, &CustomFrame::cmdAdd_Click);
 }
@@ -105,7 +106,7 @@ void CustomFrame::takeFile(const QString& file) {
     if (txtRes_->text().isEmpty()) {
         txtRes_->setText(qtText(suggestedName(documentPath(hostPathOf(file)))));
     }
-    cmdAdd_->setDefault(true);
+    emit inputChanged(); // Add is the default button now
     cmdAdd_->setFocus();
     emit fileTaken(file);
 }
@@ -134,6 +135,20 @@ bool CustomFrame::hasFile() const {
     return !lblFile_->text().isEmpty();
 }
 
+bool CustomFrame::hasName() const {
+    return !txtRes_->text().isEmpty();
+}
+
+void CustomFrame::takeReturn() {
+    if (isComplete()) {
+        cmdAdd_Click();
+    } else if (hasFile()) {
+        txtRes_->setFocus();
+    } else {
+        cmdBrowse_->setFocus();
+    }
+}
+
 void CustomFrame::clear() {
     lblFile_->setPath({});
     txtRes_->clear();
@@ -157,6 +172,7 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
     connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::lstResDef_Click);
     connect(lstResDef_, &QListWidget::itemClicked, this, &PresetFrame::lstResDef_Click);
     connect(cmdAddDef_, &QPushButton::clicked, this, &PresetFrame::cmdAddDef_Click);
+    connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::inputChanged);
 }
 
 void PresetFrame::buildGrid(PictureCache& pictures) {
@@ -211,6 +227,18 @@ void PresetFrame::clear() {
 }
 
 void PresetFrame::cmdAddDef_Click() {
+bool PresetFrame::hasName() const {
+    return !txtResDef_->text().isEmpty();
+}
+
+void PresetFrame::takeReturn() {
+    if (isComplete()) {
+        cmdAddDef_Click();
+    } else {
+        lstResDef_->setFocus();
+    }
+}
+
     const auto outcome =
         addPresetResource(document_, selectedPreset(), coreText(txtResDef_->text()));
     if (outcome != AddOutcome::taken) {
