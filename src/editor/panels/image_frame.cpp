@@ -5,10 +5,10 @@
 #include "document/skin_document.h"
 #include "panels/resource_preview.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/qt_text.h"
 
 #include <QAbstractItemView>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -57,7 +57,7 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
 }
 
 void ImageFrame::buildPicker() {
-    lstR_ = named(new QComboBox, QStringLiteral("lstR"), tr("Resource of the image"));
+    lstR_ = named(new DropDown, QStringLiteral("lstR"), tr("Resource of the image"));
     lstR_->view()->setAccessibleName(tr("Resources of the skin"));
     lstR_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lstR_->setMinimumContentsLength(12);

@@ -4,10 +4,10 @@
 #include "editing/step_names.h"
 #include "panels/color_frame.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -70,9 +70,9 @@ ModifierPanel::ModifierPanel(SkinDocument& document, Prompts& prompts,
                      QStringLiteral("MODIFIER:"), parent)
     , prompts_(prompts)
     , programFolder_(std::move(programFolder))
-    , lstMods_(named(new QComboBox, QStringLiteral("lstMods"), tr("Modifier type")))
+    , lstMods_(named(new DropDown, QStringLiteral("lstMods"), tr("Type of modifier")))
     , lblTargets_(new QLabel(tr("Target")))
-    , lstTargets_(named(new QComboBox, QStringLiteral("lstTargets"), tr("Modifier target")))
+    , lstTargets_(named(new DropDown, QStringLiteral("lstTargets"), tr("Target of the modifier")))
     , frames_(new QStackedWidget)
     , lblNoValues_(new QLabel)
     , fraColor_(new ColorFrame(editor_.values().channels)) {

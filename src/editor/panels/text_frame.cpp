@@ -3,12 +3,12 @@
 
 #include "document/kinds/panel_texts.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/font_button.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
 
 #include <QAbstractItemView>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -52,7 +52,7 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
 
 void TextFrame::buildText() {
     txtText_ =
-        named(new QComboBox, QStringLiteral("txtText"), tr("Text, or a field of the dashboard"));
+        named(new DropDown, QStringLiteral("txtText"), tr("Text, or a field of the dashboard"));
     for (const std::string_view entry : predefinedTexts) {
         txtText_->addItem(qtText(entry));
     }
