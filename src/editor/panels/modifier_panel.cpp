@@ -17,6 +17,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <utility>
@@ -51,6 +52,29 @@ QWidget* pageOf(QWidget* frame) {
     column->addWidget(frame);
     column->addStretch();
     return page;
+}
+
+QString spokenType(const std::string& type) {
+    return type.empty() ? ModifierPanel::tr("without a type")
+                        : QStringLiteral("\"%1\"").arg(qtText(type));
+}
+
+// What "None" means for an element with modifiers of these types. OK takes the first away, which
+// the panel need not have shown.
+QString aboutNone(const std::vector<std::string>& types) {
+    if (types.empty()) {
+        return ModifierPanel::tr("The element has no modifier.");
+    }
+    if (types.size() == 1) {
+        return ModifierPanel::tr("The element has the modifier %1. OK removes it.")
+            .arg(spokenType(types.front()));
+    }
+    QStringList all;
+    for (const std::string& type : types) {
+        all << spokenType(type);
+    }
+    return ModifierPanel::tr("The element has the modifiers %1. OK removes the first of them.")
+        .arg(all.join(QStringLiteral(", ")));
 }
 
 void showRows(QComboBox& list, const std::vector<std::string>& rows, int chosen) {
@@ -108,7 +132,9 @@ void ModifierPanel::addLists() {
 }
 
 void ModifierPanel::addFrames() {
+    lblNoValues_->setObjectName(QStringLiteral("lblNoValues"));
     lblNoValues_->setWordWrap(true);
+    lblNoValues_->setTextFormat(Qt::PlainText); // types of a file may look like markup
     frames_->addWidget(pageOf(lblNoValues_));
     frames_->addWidget(pageOf(makeRange()));
     frames_->addWidget(pageOf(makeBounds()));
@@ -173,6 +199,7 @@ QWidget* ModifierPanel::makeColorPage() {
 }
 
 void ModifierPanel::fill(const Element& element) {
+    carried_ = modifierTypes(element.elementModifiers.get());
     try {
         editor_.open(ModifierCatalogue::read(catalogueFile(programFolder_)),
                      element.elementKind, element.elementModifiers.get());
@@ -194,11 +221,15 @@ void ModifierPanel::store(Element& element) const {
 }
 
 void ModifierPanel::lstMods_Click(int row) {
-    editor_.chooseType(row);
+    editor_.chooseType(std::max(row, 0)); // no row is as little as "None"
     refreshLists();
 }
 
 void ModifierPanel::lstTargets_Click(int row) {
+    if (row < 0) {
+        refreshLists(); // the chosen target stays
+        return;
+    }
     editor_.chooseTarget(row);
     refreshFrames();
 }
@@ -213,7 +244,7 @@ void ModifierPanel::refreshLists() {
 
 void ModifierPanel::refreshFrames() {
     if (editor_.modRow() == 0) {
-        lblNoValues_->setText(tr("The element has no modifier."));
+        lblNoValues_->setText(aboutNone(carried_));
     } else if (editor_.targets().empty()) {
         lblNoValues_->setText(tr("This type has no targets, so it cannot be attached."));
     } else {
