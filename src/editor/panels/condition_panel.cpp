@@ -67,8 +67,10 @@ void ConditionPanel::fill(const Element& element) {
 }
 
 void ConditionPanel::store(Element& element) const {
-    const auto row = static_cast<std::size_t>(lstCond_->currentRow());
-    element.elementCondition = conditionRows.at(row).text;
+    const auto row = static_cast<std::size_t>(lstCond_->currentRow()); // -1 is too large
+    if (row < conditionRows.size()) {
+        element.elementCondition = conditionRows[row].text;
+    }
 }
 
 } // namespace tarvel

@@ -71,6 +71,9 @@ void TextFrame::buildText() {
         values_.textIsEntry = false;
     });
     connect(txtText_, &QComboBox::activated, this, [this](int index) {
+        if (static_cast<std::size_t>(index) >= predefinedTexts.size()) {
+            return;
+        }
         values_.text = predefinedTexts.at(static_cast<std::size_t>(index));
         values_.textIsEntry = true;
     });
