@@ -21,7 +21,7 @@ enum Column { listColumn, valueColumn };
 
 FieldsFrame::FieldsFrame(const QString& caption, QWidget* parent)
     : QGroupBox(caption, parent)
-    , lstFields_(named(new QListWidget, QStringLiteral("lstFields"), tr("Fields")))
+    , lstFields_(named(new QListWidget, QStringLiteral("lstFields"), tr("Field (select one)")))
     , txtData_(named(new FieldEdit, QStringLiteral("txtData"), tr("Value of the selected field")))
     , grid_(new QGridLayout(this))
     , valueLine_(new QHBoxLayout) {

@@ -31,10 +31,9 @@ constexpr const char* fileFilter = "Pictures and videos|*.png *.jpg *.jpeg *.bmp
 SourceButtons::SourceButtons(const QString& suffix, QWidget* parent)
     : QWidget(parent)
     , optCustom_(named(new QRadioButton(QStringLiteral("Custom (from file)")),
-                       QStringLiteral("optCustom") + suffix, tr("Resource from a file")))
+                       QStringLiteral("optCustom") + suffix))
     , optPreset_(named(new QRadioButton(QStringLiteral("Preset (in QOR)")),
-                       QStringLiteral("optPreset") + suffix,
-                       tr("Resource that the dashboard supplies"))) {
+                       QStringLiteral("optPreset") + suffix)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(18);
@@ -59,13 +58,14 @@ CustomFrame::CustomFrame(SkinDocument& document, Prompts& prompts, QWidget* owne
     , prompts_(prompts)
     , owner_(owner)
     , source_(new SourceButtons({}))
-    , txtRes_(named(new QLineEdit, QStringLiteral("txtRes"), tr("Name of the resource")))
-    , lblFile_(named(new PathLabel, QStringLiteral("lblFile"), tr("Chosen file")))
+    , txtRes_(named(new QLineEdit, QStringLiteral("txtRes"), tr("Resource Name")))
+    , lblFile_(new PathLabel)
     , cmdBrowse_(named(new QPushButton(QStringLiteral("Browse")), QStringLiteral("cmdBrowse"),
                        tr("Browse for a file")))
     , cmdAdd_(named(new QPushButton(QStringLiteral("Add")), QStringLiteral("cmdAdd"),
                     tr("Add the file as a resource"))) {
     setObjectName(QStringLiteral("fraCustom"));
+    lblFile_->setObjectName(QStringLiteral("lblFile"));
     buildGrid();
     connect(txtRes_, &QLineEdit::textChanged, this, &CustomFrame::inputChanged);
     connect(cmdBrowse_, &QPushButton::clicked, this, &CustomFrame::cmdBrowse_Click);
@@ -159,11 +159,12 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
     , document_(document)
     , source_(new SourceButtons(QStringLiteral("2")))
     , lstResDef_(named(new QListWidget, QStringLiteral("lstResDef"), tr("Preset resources")))
-    , lblDesc_(named(new QLabel, QStringLiteral("lblDesc"), tr("Description of the preset")))
-    , txtResDef_(named(new QLineEdit, QStringLiteral("txtResDef"), tr("Name of the resource")))
-    , cmdAddDef_(named(new QPushButton(QStringLiteral("Add Resource")), QStringLiteral("cmdAddDef"),
-                       tr("Add the preset as a resource"))) {
+    , lblDesc_(new QLabel)
+    , txtResDef_(named(new QLineEdit, QStringLiteral("txtResDef"), tr("Resource name")))
+    , cmdAddDef_(
+          named(new QPushButton(QStringLiteral("Add Resource")), QStringLiteral("cmdAddDef"))) {
     setObjectName(QStringLiteral("fraPreset"));
+    lblDesc_->setObjectName(QStringLiteral("lblDesc"));
     for (const auto& preset : presetResources) {
         lstResDef_->addItem(qtText(preset.entry));
     }
@@ -171,8 +172,8 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
     buildGrid(pictures);
     connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::lstResDef_Click);
     connect(lstResDef_, &QListWidget::itemClicked, this, &PresetFrame::lstResDef_Click);
-    connect(cmdAddDef_, &QPushButton::clicked, this, &PresetFrame::cmdAddDef_Click);
     connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::inputChanged);
+    connect(cmdAddDef_, &QPushButton::clicked, this, &PresetFrame::cmdAddDef_Click);
 }
 
 void PresetFrame::buildGrid(PictureCache& pictures) {
@@ -226,7 +227,6 @@ void PresetFrame::clear() {
     txtResDef_->clear();
 }
 
-void PresetFrame::cmdAddDef_Click() {
 bool PresetFrame::hasName() const {
     return !txtResDef_->text().isEmpty();
 }
@@ -239,6 +239,7 @@ void PresetFrame::takeReturn() {
     }
 }
 
+void PresetFrame::cmdAddDef_Click() {
     const auto outcome =
         addPresetResource(document_, selectedPreset(), coreText(txtResDef_->text()));
     if (outcome != AddOutcome::taken) {

@@ -87,7 +87,7 @@ MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget
     : QGroupBox(tr("Item Menu"), parent)
     , values_(frame)
     , prompts_(prompts) {
-    named(this, QStringLiteral("fraQor"), tr("Settings of the item menu"));
+    named(this, QStringLiteral("fraQor"), tr("Item Menu settings"));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(smallGap);
     column->addLayout(checksAndNumbers());
@@ -143,7 +143,7 @@ QLayout* MenuSettingsFrame::checksAndNumbers() {
              addNumber("txtScrollFactor", tr("Scroll factor"), &MenuFrame::scrollFactor));
     row->addStretch();
     addField("lblNumItems", caption::itemsShown,
-             addNumber("txtNumItems", tr("Number of games shown"), &MenuFrame::itemsShown));
+             addNumber("txtNumItems", qtText(caption::itemsShown), &MenuFrame::itemsShown));
     grid->addLayout(row, 2, 0, 1, 2);
     return grid;
 }

@@ -38,7 +38,7 @@ struct BoxNames {
 };
 
 constexpr std::array<BoxNames, 2> rangeBoxes = {
-    {{"txtRangeX", "X", "Range X"}, {"txtRangeY", "Y", "Range Y"}}};
+    {{"txtRangeX", "X", "X of the range"}, {"txtRangeY", "Y", "Y of the range"}}};
 constexpr std::array<BoxNames, 4> boundsBoxes = {{{"txtBoundsL", "Left", "Left bound"},
                                                   {"txtBoundsT", "Top", "Top bound"},
                                                   {"txtBoundsR", "Right", "Right bound"},
@@ -103,7 +103,7 @@ ModifierPanel::ModifierPanel(SkinDocument& document, Prompts& prompts,
     setAccessibleName(tr("Modifier of the element"));
     addLists();
     addFrames();
-    addOk(QStringLiteral("cmdModifierOK"), tr("Store the modifier"));
+    addOk(QStringLiteral("cmdModifierOK"), tr("store the modifier"));
     setFirstControl(lstMods_);
     connect(lstMods_, &QComboBox::currentIndexChanged, this, &ModifierPanel::lstMods_Click);
     connect(lstTargets_, &QComboBox::currentIndexChanged, this, &ModifierPanel::lstTargets_Click);

@@ -37,8 +37,7 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     column->addWidget(lblText);
     column->addWidget(txtText_);
     auto* row = new QHBoxLayout;
-    cmdFont_ = named(new FontButton(qtText(caption::font)), QStringLiteral("cmdFont"),
-                     tr("Choose the font"));
+    cmdFont_ = named(new FontButton(qtText(caption::font)), QStringLiteral("cmdFont"));
     connect(cmdFont_, &FontButton::clicked, this, &TextFrame::cmdFont_Click);
     fontName_ = new QLabel;
     fontName_->setObjectName(QStringLiteral("fontName"));
@@ -51,8 +50,8 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
 }
 
 void TextFrame::buildText() {
-    txtText_ =
-        named(new DropDown, QStringLiteral("txtText"), tr("Text, or a field of the dashboard"));
+    txtText_ = named(new DropDown, QStringLiteral("txtText"),
+                     tr("Select predefined text below, or enter custom text"));
     for (const std::string_view entry : predefinedTexts) {
         txtText_->addItem(qtText(entry));
     }

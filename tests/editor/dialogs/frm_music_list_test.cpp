@@ -255,10 +255,12 @@ void FrmMusicListTest::selectedFileIsPlayed() {
     QCOMPARE(log_, QStringList{"play " + inFolder("b.wma")});
     QVERIFY(button.isPlaying());
     QCOMPARE(button.text(), "Stop");
+    QCOMPARE(button.accessibleName(), "Stop listening");
     click(button);
     QCOMPARE(log_.last(), "stop");
     QVERIFY(!button.isPlaying());
     QCOMPARE(button.text(), "Play");
+    QCOMPARE(button.accessibleName(), "Play the selected file");
     QTest::keyClick(&list, Qt::Key_Space);
     QVERIFY(button.isPlaying());
     QTest::keyClick(&list, Qt::Key_Space);
