@@ -41,9 +41,10 @@ inline constexpr std::array<SystemColor, 4> messageBoxColors = {{
 inline constexpr std::array<SystemColor, 6> systemMenuColors = {{
     {ColorUse::border, 1, "Boder Color", "Border color of the system menu"},
     {ColorUse::text, 4, "Text Color", "Text color of the system menu"},
-    {ColorUse::text, 2, "Select Color", "Color of the selected text in the system menu"},
+    {ColorUse::text, 2, "Select Color", "Select color, for the selected text of the system menu"},
     {ColorUse::text, 5, "Value Color", "Value color of the system menu"},
-    {ColorUse::text, 3, "Select Value Color", "Color of the selected value in the system menu"},
+    {ColorUse::text, 3, "Select Value Color",
+     "Select value color, for the selected value of the system menu"},
     {ColorUse::fill, 1, "", "Box color of the system menu"},
 }};
 

@@ -2,6 +2,7 @@
 #include "editing/information_rules.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvel {
 
@@ -19,6 +20,19 @@ bool addField(SkinSettings& settings, std::string_view answer) {
     }
     settings.information.push_back({std::move(name), {}});
     return true;
+}
+
+std::string_view fieldValue(const SkinSettings& settings, int field) {
+    const auto index = static_cast<std::size_t>(field); // a negative one is too large
+    return index < settings.information.size() ? settings.information[index].value
+                                               : std::string_view();
+}
+
+void setFieldValue(SkinSettings& settings, int field, std::string value) {
+    const auto index = static_cast<std::size_t>(field);
+    if (index < settings.information.size()) {
+        settings.information[index].value = std::move(value);
+    }
 }
 
 } // namespace tarvel

@@ -18,4 +18,9 @@ inline constexpr std::string_view fieldPrompt = "Enter name of field";
 /// answer.
 bool addField(SkinSettings& settings, std::string_view answer);
 
+/// The value of a field by its place, from 0 on; "" where there is no such field.
+[[nodiscard]] std::string_view fieldValue(const SkinSettings& settings, int field);
+/// Nothing happens where there is no such field.
+void setFieldValue(SkinSettings& settings, int field, std::string value);
+
 } // namespace tarvel

@@ -70,6 +70,14 @@ void addChannels(XmlTree& tree, XmlTree::Index modifier,
 
 } // namespace
 
+std::vector<std::string> modifierTypes(const XmlTree& modifiers) {
+    std::vector<std::string> types;
+    for (XmlNode each = modifiers.root(); each; each = each.nextSibling()) {
+        types.emplace_back(getAttrib(each, "Type"));
+    }
+    return types;
+}
+
 void ModifierEditor::open(ModifierCatalogue catalogue, ElementKind kind, const XmlTree& modifiers) {
     catalogue_ = std::move(catalogue);
     kind_ = kind;

@@ -28,6 +28,9 @@ struct ModifierValues {
     bool operator==(const ModifierValues&) const = default;
 };
 
+/// The types of Modifier nodes in their order, as spelt; "" for one without a type.
+[[nodiscard]] std::vector<std::string> modifierTypes(const XmlTree& modifiers);
+
 /// Edits the first modifier of one element at a time. An element's further modifiers are neither
 /// shown nor changed.
 class ModifierEditor {

@@ -21,7 +21,7 @@ enum Column { listColumn, valueColumn };
 
 FieldsFrame::FieldsFrame(const QString& caption, QWidget* parent)
     : QGroupBox(caption, parent)
-    , lstFields_(named(new QListWidget, QStringLiteral("lstFields"), tr("Fields")))
+    , lstFields_(named(new QListWidget, QStringLiteral("lstFields"), tr("Field (select one)")))
     , txtData_(named(new FieldEdit, QStringLiteral("txtData"), tr("Value of the selected field")))
     , grid_(new QGridLayout(this))
     , valueLine_(new QHBoxLayout) {
@@ -55,7 +55,11 @@ void FieldsFrame::setFields(const QStringList& names) {
         // Otherwise the focus alone would make the first field the current one.
         lstFields_->setCurrentIndex({});
     }
-    setValue({});
+    showNoValue();
+}
+
+void FieldsFrame::focusFields() {
+    lstFields_->setFocus();
 }
 
 void FieldsFrame::selectField(int field) {
@@ -70,6 +74,12 @@ int FieldsFrame::selectedField() const {
 void FieldsFrame::setValue(const QString& text) {
     const QSignalBlocker quiet(txtData_);
     txtData_->setText(text);
+}
+
+// What could be typed would belong to no field.
+void FieldsFrame::showNoValue() {
+    setValue({});
+    txtData_->setEnabled(false);
 }
 
 void FieldsFrame::addBesideValue(QWidget* widget) {
@@ -87,9 +97,10 @@ void FieldsFrame::addBelow(QWidget* widget) {
 void FieldsFrame::lstFields_Click() {
     const int field = selectedField();
     if (field < 0) {
-        setValue({}); // the old value would look as if it could be changed
+        showNoValue();
         return;
     }
+    txtData_->setEnabled(true);
     emit fieldClicked(field);
     txtData_->setFocus();
     txtData_->sel();

@@ -11,7 +11,7 @@ namespace tarvel {
 
 class FieldEdit;
 
-/// Choosing a field moves the focus to its value.
+/// Choosing a field moves the focus to its value. Without a chosen field there is no value to type.
 class FieldsFrame : public QGroupBox {
     Q_OBJECT
 
@@ -20,6 +20,8 @@ class FieldsFrame : public QGroupBox {
 
     /// Lists the fields, with none selected and no value.
     void setFields(const QStringList& names);
+    /// Gives the focus to the list, which selects nothing.
+    void focusFields();
     /// As a click on the field.
     void selectField(int field);
     /// From 0 on; -1 when none is selected.
@@ -41,6 +43,7 @@ class FieldsFrame : public QGroupBox {
     void valueChanged(int field, const QString& text);
 
   private:
+    void showNoValue();
     void lstFields_Click();
     void txtData_Change();
 

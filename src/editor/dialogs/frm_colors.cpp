@@ -61,9 +61,9 @@ QGroupBox* FrmColors::makeGroup(std::size_t box) {
         grid->addWidget(swatch, row, 1);
         ++row;
     }
-    auto* edit = named(new FieldEdit, QStringLiteral("txtAlpha(%1)").arg(box),
-                       box == 0 ? tr("Opacity of the message box in percent")
-                                : tr("Opacity of the system menu in percent"));
+    auto* edit =
+        named(new FieldEdit, QStringLiteral("txtAlpha(%1)").arg(box),
+              box == 0 ? tr("Opacity % of the message box") : tr("Opacity % of the system menu"));
     edit->setToolTip(tr("Shown in the sample. Skin files have no place for this opacity."));
     connect(edit, &QLineEdit::textChanged, this, [this, box] { txtAlpha_Change(box); });
     txtAlpha_.at(box) = edit;

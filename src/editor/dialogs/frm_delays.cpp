@@ -36,6 +36,7 @@ void FrmDelays::readDocument() {
         names << qtText(name);
     }
     fields_->setFields(names);
+    fields_->focusFields();
 }
 
 } // namespace tarvel

@@ -19,15 +19,14 @@ namespace tarvel {
 FrmInfo::FrmInfo(SkinDocument& document, Prompts& prompts, QWidget* parent)
     : SkinDialog(QStringLiteral("frmInfo"), QStringLiteral("  :: Skin Info ::"), document, prompts,
                  parent)
-    , txtName_(named(new FieldEdit, QStringLiteral("txtName"), tr("Name of the skin")))
+    , txtName_(named(new FieldEdit, QStringLiteral("txtName"), tr("Skin Name")))
     , fields_(new FieldsFrame(QStringLiteral("Optional Info"))) {
     auto* lblName = new QLabel(QStringLiteral("Skin Name:"));
     lblName->setBuddy(txtName_);
     auto* nameRow = new QHBoxLayout;
     nameRow->addWidget(lblName);
     nameRow->addWidget(txtName_, 1);
-    auto* cmdAdd = named(new QPushButton(QStringLiteral("Add Field")), QStringLiteral("cmdAdd"),
-                         tr("Add a field"));
+    auto* cmdAdd = named(new QPushButton(QStringLiteral("Add Field")), QStringLiteral("cmdAdd"));
     fields_->addBelowValue(cmdAdd);
     fields_->addBelow(new QLabel(QStringLiteral("*Remove fields by pressing delete")));
     auto* column = new QVBoxLayout(this);
@@ -42,13 +41,11 @@ FrmInfo::FrmInfo(SkinDocument& document, Prompts& prompts, QWidget* parent)
             [&](SkinSettings& settings) { settings.skinName = coreText(text); });
     });
     connect(fields_, &FieldsFrame::fieldClicked, this, [this](int field) {
-        const auto& information = this->document().settings().information;
-        fields_->setValue(qtText(information.at(static_cast<std::size_t>(field)).value));
+        fields_->setValue(qtText(fieldValue(this->document().settings(), field)));
     });
     connect(fields_, &FieldsFrame::valueChanged, this, [this](int field, const QString& text) {
-        this->document().editSettings([&](SkinSettings& settings) {
-            settings.information.at(static_cast<std::size_t>(field)).value = coreText(text);
-        });
+        this->document().editSettings(
+            [&](SkinSettings& settings) { setFieldValue(settings, field, coreText(text)); });
     });
 }
 

@@ -2,6 +2,7 @@
 #include "dialogs/frm_instructions.h"
 
 #include "widgets/control_names.h"
+#include "widgets/path_label.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -62,16 +63,27 @@ QLayout* makeHeading(QWidget* parent) {
     return row;
 }
 
+// Which of their folders "the folder you selected" was.
+QLayout* makeFolder(const QString& folder, QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    auto* path = new PathLabel(parent);
+    path->setObjectName("lblFolder");
+    path->setPath(folder);
+    row->addWidget(new QLabel(QObject::tr("Folder:"), parent));
+    row->addWidget(path, 1);
+    return row;
+}
+
 QPushButton* makeButton(QWidget* parent) {
-    auto* button = named(new QPushButton(QObject::tr("OK"), parent), "Command1",
-                         QObject::tr("Close the instructions"));
+    auto* button = named(new QPushButton(QObject::tr("OK"), parent), QStringLiteral("Command1"),
+                         QObject::tr("OK: close the instructions"));
     button->setDefault(true);
     return button;
 }
 
 } // namespace
 
-FrmInstructions::FrmInstructions(QWidget* parent)
+FrmInstructions::FrmInstructions(const QString& folder, QWidget* parent)
     : QDialog(parent) {
     setObjectName("frmInstructions");
     setWindowTitle(tr("Instructions"));
@@ -83,6 +95,7 @@ FrmInstructions::FrmInstructions(QWidget* parent)
     column->setContentsMargins(20, 18, 20, 16);
     column->setSpacing(14);
     column->addLayout(makeHeading(this));
+    column->addLayout(makeFolder(folder, this));
     column->addWidget(makeText(this));
     column->addWidget(button, 0, Qt::AlignRight);
     column->setSizeConstraint(QLayout::SetFixedSize);

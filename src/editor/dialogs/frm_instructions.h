@@ -10,7 +10,8 @@ class FrmInstructions : public QDialog {
     Q_OBJECT
 
   public:
-    explicit FrmInstructions(QWidget* parent = nullptr);
+    /// `folder` is where the skin was saved to, as the user knows it.
+    explicit FrmInstructions(const QString& folder, QWidget* parent = nullptr);
 };
 
 } // namespace tarvel

@@ -53,19 +53,19 @@ FrmMusic::FrmMusic(SkinDocument& document, Prompts& prompts, QWidget* parent,
                  prompts, parent)
     , caption_(new QLabel(QStringLiteral("BACKGROUND MUSIC"), this))
     , optYesMusic_(named(new QRadioButton(QStringLiteral("Use Background Music"), this),
-                         QStringLiteral("optYesMusic"), tr("Use background music")))
-    , optNoMusic_(named(new QRadioButton(QStringLiteral("No Music"), this),
-                        QStringLiteral("optNoMusic"), tr("No music")))
+                         QStringLiteral("optYesMusic")))
+    , optNoMusic_(
+          named(new QRadioButton(QStringLiteral("No Music"), this), QStringLiteral("optNoMusic")))
     , fraStuff_(named(new QFrame(this), QStringLiteral("fraStuff"), tr("Music settings")))
     , chkGlobal_(named(
           new QCheckBox(QStringLiteral("Use Global Music (from your xbox soundtracks)"), fraStuff_),
-          QStringLiteral("chkGlobal"), tr("Use global music")))
+          QStringLiteral("chkGlobal")))
     , chkCustom_(named(new QCheckBox(QStringLiteral("Use Custom Music"), fraStuff_),
-                       QStringLiteral("chkCustom"), tr("Use custom music")))
+                       QStringLiteral("chkCustom")))
     , fraMusic_(named(new QFrame(fraStuff_), QStringLiteral("fraMusic"), tr("Custom music")))
     , musicInside_(new QWidget(fraMusic_))
     , chkRandom_(named(new QCheckBox(QStringLiteral("Play Music in Random Order"), fraStuff_),
-                       QStringLiteral("chkRandom"), tr("Play music in random order")))
+                       QStringLiteral("chkRandom")))
     , cmdOK_(makeOk())
     , player_(std::move(player))
     , easing_(30, 0.2, this) { // a fifth of a pixel is near enough
@@ -78,10 +78,9 @@ FrmMusic::FrmMusic(SkinDocument& document, Prompts& prompts, QWidget* parent,
 }
 
 void FrmMusic::buildMusic() {
-    cmdAdd_ = named(new QPushButton(QStringLiteral("Add Files")), QStringLiteral("cmdAdd"),
-                    tr("Add music files"));
-    cmdPlay_ = named(new PlayButton, QStringLiteral("cmdPlay"),
-                     tr("Listen to the selected file, or stop"));
+    cmdAdd_ = named(new QPushButton(QStringLiteral("Add Files")), QStringLiteral("cmdAdd"));
+    cmdPlay_ = new PlayButton; // which names itself
+    cmdPlay_->setObjectName(QStringLiteral("cmdPlay"));
     lblPlaying_ = new QLabel;
     lblPlaying_->setObjectName(QStringLiteral("lblPlaying"));
     lblPlaying_->setTextFormat(Qt::PlainText);

@@ -14,6 +14,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHideEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -24,6 +25,18 @@
 #include <algorithm>
 
 namespace tarvel {
+
+namespace {
+
+bool isReturn(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
 
 FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCache& pictures,
                            QWidget* parent)
@@ -42,6 +55,8 @@ FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCach
     , cmdOK_(makeOk()) {
     setAcceptDrops(true);
     buildColumns();
+    cmdOK_->setAutoDefault(false); // the focus alone does not make it what Return presses
+    cmdOK_->installEventFilter(this);
     connect(lstRes_, &QListWidget::itemSelectionChanged, this, &FrmResources::lstRes_Click);
     connect(fraCustom_->source(), &SourceButtons::chosen, this, &FrmResources::showSource);
     connect(fraPreset_->source(), &SourceButtons::chosen, this, &FrmResources::showSource);
@@ -49,6 +64,8 @@ FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCach
         lstRes_->setCurrentIndex({}); // something else is previewed
         preview({.name = {}, .content = documentPath(hostPathOf(file))});
     });
+    connect(fraCustom_, &CustomFrame::inputChanged, this, &FrmResources::showDefault);
+    connect(fraPreset_, &PresetFrame::inputChanged, this, &FrmResources::showDefault);
     connect(fraCustom_, &CustomFrame::done, this, &FrmResources::finishAdding);
     connect(fraPreset_, &PresetFrame::done, this, [this] { finishAdding(true); });
     showSource(false);
@@ -121,7 +138,6 @@ void FrmResources::hideEvent(QHideEvent* event) {
 void FrmResources::forgetInput() {
     fraCustom_->clear();
     fraPreset_->clear();
-    cmdOK_->setDefault(true);
     showSource(false);
 }
 
@@ -139,7 +155,44 @@ void FrmResources::showSource(bool preset) {
     }
     // An arrow key will still give the focus to the option that it chose, in the hidden frame.
     QTimer::singleShot(0, this, &FrmResources::keepFocusVisible);
+    showDefault();
     resizeForm(added);
+}
+
+// The default button adds what is filled in to be added, and otherwise closes.
+void FrmResources::showDefault() {
+    QPushButton* next = cmdOK_;
+    if (!fraPreset_->isHidden() && fraPreset_->isComplete()) {
+        next = fraPreset_->cmdAddDef();
+    } else if (!fraCustom_->isHidden() && fraCustom_->isComplete()) {
+        next = fraCustom_->cmdAdd();
+    }
+    next->setDefault(true);
+}
+
+// The Return key closes only over what is not filled in. False when it may.
+bool FrmResources::takeReturn() {
+    if (!fraPreset_->isHidden() && fraPreset_->isStarted()) {
+        fraPreset_->takeReturn();
+    } else if (fraCustom_->isStarted() && fraCustom_->isHidden()) {
+        showSource(false); // what would be lost is to be seen first
+    } else if (fraCustom_->isStarted()) {
+        fraCustom_->takeReturn();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void FrmResources::keyPressEvent(QKeyEvent* event) {
+    if (!isReturn(*event) || !takeReturn()) {
+        SkinDialog::keyPressEvent(event);
+    }
+}
+
+bool FrmResources::eventFilter(QObject* watched, QEvent* event) {
+    const bool pressesOk = watched == cmdOK_ && isReturn(*event);
+    return (pressesOk && takeReturn()) || SkinDialog::eventFilter(watched, event);
 }
 
 // The focus goes from an option in the hidden frame to the same one in the other.
@@ -190,7 +243,6 @@ void FrmResources::finishAdding(bool added) {
     if (added) {
         selectLast();
     }
-    cmdOK_->setDefault(true);
     showSource(false);
     if (added) {
         cmdOK_->setFocus();
@@ -199,10 +251,12 @@ void FrmResources::finishAdding(bool added) {
 
 void FrmResources::lstRes_Click() {
     const auto selected = lstRes_->selectedItems();
-    if (!selected.isEmpty()) {
-        const auto row = static_cast<std::size_t>(lstRes_->row(selected.front()));
-        preview(document().settings().resources.at(row));
+    if (selected.isEmpty()) {
+        return;
     }
+    const auto& resources = document().settings().resources;
+    const auto row = static_cast<std::size_t>(lstRes_->row(selected.front()));
+    preview(row < resources.size() ? resources[row] : Resource{});
 }
 
 void FrmResources::preview(const Resource& resource) {

@@ -16,7 +16,7 @@ class ResourceThumbnails;
 
 /// Lists the resources with a small picture of each, shows the selected one in large and adds new
 /// ones, from files or presets. Files can be dropped anywhere onto it. What was filled in but not
-/// added is forgotten when it closes.
+/// added is forgotten when it closes; the Return key does not close it then.
 class FrmResources : public SkinDialog {
     Q_OBJECT
 
@@ -33,6 +33,8 @@ class FrmResources : public SkinDialog {
     void hideEvent(QHideEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void buildColumns();
@@ -40,6 +42,8 @@ class FrmResources : public SkinDialog {
     QWidget* makePreviewFrame();
     void showSource(bool preset);
     void keepFocusVisible();
+    void showDefault();
+    bool takeReturn();
     [[nodiscard]] int addedHeight() const;
     void resizeForm(int added);
     void listNewResources();

@@ -51,8 +51,10 @@ void MusicList::keyPressEvent(QKeyEvent* event) {
 }
 
 void MusicList::mousePressEvent(QMouseEvent* event) {
-    QListWidget::mousePressEvent(event); // selects the entry below the pointer
-    if (event->button() == Qt::RightButton) {
+    if (event->button() != Qt::RightButton) {
+        QListWidget::mousePressEvent(event);
+    } else if (QListWidgetItem* entry = itemAt(event->position().toPoint())) {
+        setCurrentItem(entry, QItemSelectionModel::ClearAndSelect);
         emit removeWanted();
     }
 }

@@ -13,7 +13,7 @@ class MusicList : public QListWidget {
     explicit MusicList(QWidget* parent = nullptr);
 
   signals:
-    /// The Delete key, or a click with the right button.
+    /// The Delete key, or a click with the right button, which selects its entry first.
     void removeWanted();
     /// A double click.
     void playWanted();

@@ -31,10 +31,9 @@ constexpr const char* fileFilter = "Pictures and videos|*.png *.jpg *.jpeg *.bmp
 SourceButtons::SourceButtons(const QString& suffix, QWidget* parent)
     : QWidget(parent)
     , optCustom_(named(new QRadioButton(QStringLiteral("Custom (from file)")),
-                       QStringLiteral("optCustom") + suffix, tr("Resource from a file")))
+                       QStringLiteral("optCustom") + suffix))
     , optPreset_(named(new QRadioButton(QStringLiteral("Preset (in QOR)")),
-                       QStringLiteral("optPreset") + suffix,
-                       tr("Resource that the dashboard supplies"))) {
+                       QStringLiteral("optPreset") + suffix)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(18);
@@ -59,14 +58,16 @@ CustomFrame::CustomFrame(SkinDocument& document, Prompts& prompts, QWidget* owne
     , prompts_(prompts)
     , owner_(owner)
     , source_(new SourceButtons({}))
-    , txtRes_(named(new QLineEdit, QStringLiteral("txtRes"), tr("Name of the resource")))
-    , lblFile_(named(new PathLabel, QStringLiteral("lblFile"), tr("Chosen file")))
+    , txtRes_(named(new QLineEdit, QStringLiteral("txtRes"), tr("Resource Name")))
+    , lblFile_(new PathLabel)
     , cmdBrowse_(named(new QPushButton(QStringLiteral("Browse")), QStringLiteral("cmdBrowse"),
                        tr("Browse for a file")))
     , cmdAdd_(named(new QPushButton(QStringLiteral("Add")), QStringLiteral("cmdAdd"),
                     tr("Add the file as a resource"))) {
     setObjectName(QStringLiteral("fraCustom"));
+    lblFile_->setObjectName(QStringLiteral("lblFile"));
     buildGrid();
+    connect(txtRes_, &QLineEdit::textChanged, this, &CustomFrame::inputChanged);
     connect(cmdBrowse_, &QPushButton::clicked, this, &CustomFrame::cmdBrowse_Click);
     connect(cmdAdd_, &QPushButton::clicked, this, &CustomFrame::cmdAdd_Click);
 }
@@ -105,7 +106,7 @@ void CustomFrame::takeFile(const QString& file) {
     if (txtRes_->text().isEmpty()) {
         txtRes_->setText(qtText(suggestedName(documentPath(hostPathOf(file)))));
     }
-    cmdAdd_->setDefault(true);
+    emit inputChanged(); // Add is the default button now
     cmdAdd_->setFocus();
     emit fileTaken(file);
 }
@@ -134,6 +135,20 @@ bool CustomFrame::hasFile() const {
     return !lblFile_->text().isEmpty();
 }
 
+bool CustomFrame::hasName() const {
+    return !txtRes_->text().isEmpty();
+}
+
+void CustomFrame::takeReturn() {
+    if (isComplete()) {
+        cmdAdd_Click();
+    } else if (hasFile()) {
+        txtRes_->setFocus();
+    } else {
+        cmdBrowse_->setFocus();
+    }
+}
+
 void CustomFrame::clear() {
     lblFile_->setPath({});
     txtRes_->clear();
@@ -144,11 +159,12 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
     , document_(document)
     , source_(new SourceButtons(QStringLiteral("2")))
     , lstResDef_(named(new QListWidget, QStringLiteral("lstResDef"), tr("Preset resources")))
-    , lblDesc_(named(new QLabel, QStringLiteral("lblDesc"), tr("Description of the preset")))
-    , txtResDef_(named(new QLineEdit, QStringLiteral("txtResDef"), tr("Name of the resource")))
-    , cmdAddDef_(named(new QPushButton(QStringLiteral("Add Resource")), QStringLiteral("cmdAddDef"),
-                       tr("Add the preset as a resource"))) {
+    , lblDesc_(new QLabel)
+    , txtResDef_(named(new QLineEdit, QStringLiteral("txtResDef"), tr("Resource name")))
+    , cmdAddDef_(
+          named(new QPushButton(QStringLiteral("Add Resource")), QStringLiteral("cmdAddDef"))) {
     setObjectName(QStringLiteral("fraPreset"));
+    lblDesc_->setObjectName(QStringLiteral("lblDesc"));
     for (const auto& preset : presetResources) {
         lstResDef_->addItem(qtText(preset.entry));
     }
@@ -156,6 +172,7 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
     buildGrid(pictures);
     connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::lstResDef_Click);
     connect(lstResDef_, &QListWidget::itemClicked, this, &PresetFrame::lstResDef_Click);
+    connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::inputChanged);
     connect(cmdAddDef_, &QPushButton::clicked, this, &PresetFrame::cmdAddDef_Click);
 }
 
@@ -208,6 +225,18 @@ void PresetFrame::clear() {
     lstResDef_->setCurrentIndex({});
     lblDesc_->clear();
     txtResDef_->clear();
+}
+
+bool PresetFrame::hasName() const {
+    return !txtResDef_->text().isEmpty();
+}
+
+void PresetFrame::takeReturn() {
+    if (isComplete()) {
+        cmdAddDef_Click();
+    } else {
+        lstResDef_->setFocus();
+    }
 }
 
 void PresetFrame::cmdAddDef_Click() {

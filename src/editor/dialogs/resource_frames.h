@@ -49,17 +49,27 @@ class CustomFrame : public QGroupBox {
     /// Takes a file of the host as if it had been browsed to.
     void takeFile(const QString& file);
     [[nodiscard]] bool hasFile() const;
+    [[nodiscard]] bool isStarted() const { return hasFile() || hasName(); }
+    /// Whether there is a file and a name to add it by.
+    [[nodiscard]] bool isComplete() const { return hasFile() && hasName(); }
+    /// What the Return key does with what is started: it adds, or gives the focus to what is
+    /// missing.
+    void takeReturn();
     /// Empties name and file.
     void clear();
+    [[nodiscard]] QPushButton* cmdAdd() const { return cmdAdd_; }
     [[nodiscard]] SourceButtons* source() const { return source_; }
 
   signals:
     void fileTaken(const QString& file);
+    /// Another name or file.
+    void inputChanged();
     /// Add was pressed, and not refused.
     void done(bool added);
 
   private:
     void buildGrid();
+    [[nodiscard]] bool hasName() const;
     void cmdBrowse_Click();
     void cmdAdd_Click();
 
@@ -80,15 +90,24 @@ class PresetFrame : public QGroupBox {
   public:
     PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget* parent = nullptr);
 
+    [[nodiscard]] bool isStarted() const { return isComplete() || hasName(); }
+    /// Whether a preset is chosen.
+    [[nodiscard]] bool isComplete() const { return selectedPreset() >= 0; }
+    /// What the Return key does with what is started: it adds, or gives the focus to the list.
+    void takeReturn();
     /// Chooses nothing, with neither a name nor a description.
     void clear();
+    [[nodiscard]] QPushButton* cmdAddDef() const { return cmdAddDef_; }
     [[nodiscard]] SourceButtons* source() const { return source_; }
 
   signals:
     /// Add was pressed, and the name is not taken.
     void done();
+    /// Another preset, or none.
+    void inputChanged();
 
   private:
+    [[nodiscard]] bool hasName() const;
     void buildGrid(PictureCache& pictures);
     void lstResDef_Click();
     void cmdAddDef_Click();

@@ -48,7 +48,7 @@ void ResourceThumbnails::slice() {
         }
         const auto index = static_cast<std::size_t>(row);
         made_[index] = true;
-        if (index < resources.size()) {
+        if (index < resources.size() && row < list_.count()) {
             const QImage image =
                 thumbnailOf(resources[index], pictures_, size, list_.devicePixelRatioF());
             list_.item(row)->setIcon(QIcon(QPixmap::fromImage(image)));

@@ -43,8 +43,9 @@ BehaviourPanel::BehaviourPanel(SkinDocument& document, std::string_view step, co
     rows_->addWidget(title);
 }
 
-void BehaviourPanel::addOk(const QString& name, const QString& accessibleName) {
-    cmdOK_ = named(new QPushButton(QStringLiteral("OK")), name, accessibleName);
+void BehaviourPanel::addOk(const QString& name, const QString& deed) {
+    const auto caption = QStringLiteral("OK");
+    cmdOK_ = named(new QPushButton(caption), name, QStringLiteral("%1: %2").arg(caption, deed));
     connect(cmdOK_, &QPushButton::clicked, this, &BehaviourPanel::ok);
     rows_->addStretch(1);
     rows_->addWidget(cmdOK_, 0, Qt::AlignRight);

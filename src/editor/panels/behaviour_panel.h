@@ -49,7 +49,8 @@ class BehaviourPanel : public QFrame {
     /// The panel's rows, below the heading.
     [[nodiscard]] QVBoxLayout& rows() { return *rows_; }
     /// Ends the rows with the OK button, which stays at the bottom of a taller panel.
-    void addOk(const QString& name, const QString& accessibleName);
+    /// `deed` says what it does besides closing, in plain words.
+    void addOk(const QString& name, const QString& deed);
     /// The control that has the focus after opening.
     void setFirstControl(QWidget* control) { firstControl_ = control; }
 

@@ -85,7 +85,7 @@ void ColorFrame::addChannel(QGridLayout& grid, std::size_t channel) {
     const int row = static_cast<int>(channel);
     const QString name = qtText(channelNames[channel]);
     QCheckBox* check = named(new BareCheckBox(name), QStringLiteral("chkColr(%1)").arg(row),
-                             tr("Change %1").arg(name));
+                             tr("%1 is changed").arg(name));
     connect(check, &QCheckBox::toggled, this,
             [this, channel](bool checked) { channels_[channel].Enable = checked; });
     chkColr_[channel] = check;
@@ -113,9 +113,8 @@ void ColorFrame::addValue(QGridLayout& grid, std::size_t channel, ChannelValue w
     const QString name = qtText(channelValueName(which));
     const QString spoken =
         QStringLiteral("%1 %2").arg(qtText(channelNames[channel]), spokenName(which));
-    auto* caption = named(new ColorDropLabel(name),
-                          QStringLiteral("lbl") + name + QStringLiteral("1(%1)").arg(row),
-                          tr("%1, takes a dragged color name").arg(spoken));
+    auto* caption = new ColorDropLabel(name);
+    caption->setObjectName(QStringLiteral("lbl") + name + QStringLiteral("1(%1)").arg(row));
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     connect(caption, &ColorDropLabel::channelDropped, this, [this, channel, which](int source) {
         channels_[channel].setValue(which,

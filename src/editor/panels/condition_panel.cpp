@@ -24,9 +24,9 @@ ConditionPanel::ConditionPanel(SkinDocument& document, QWidget* parent)
     : BehaviourPanel(document, step::condition, QStringLiteral("fraModifier(2)"),
                      QStringLiteral("CONDITION:"), parent)
     , lstCond_(named(new QListWidget, QStringLiteral("lstCond"), tr("Conditions")))
-    , lblConditionDesc_(
-          named(new QLabel, QStringLiteral("lblConditionDesc"), tr("Meaning of the condition"))) {
+    , lblConditionDesc_(new QLabel) {
     setAccessibleName(tr("Condition of the element"));
+    lblConditionDesc_->setObjectName(QStringLiteral("lblConditionDesc"));
     for (const ConditionRow& row : conditionRows) {
         lstCond_->addItem(qtText(row.text));
     }
@@ -40,7 +40,7 @@ ConditionPanel::ConditionPanel(SkinDocument& document, QWidget* parent)
                                         lblConditionDesc_->fontMetrics().lineSpacing());
     rows().addWidget(lstCond_);
     rows().addWidget(lblConditionDesc_);
-    addOk(QStringLiteral("cmdConditionOK"), tr("Store the condition"));
+    addOk(QStringLiteral("cmdConditionOK"), tr("store the condition"));
     setFirstControl(lstCond_);
     connect(lstCond_, &QListWidget::currentRowChanged, this, &ConditionPanel::lstCond_Click);
     connect(lstCond_, &QListWidget::itemSelectionChanged, this, &ConditionPanel::keepRowSelected);
@@ -67,8 +67,10 @@ void ConditionPanel::fill(const Element& element) {
 }
 
 void ConditionPanel::store(Element& element) const {
-    const auto row = static_cast<std::size_t>(lstCond_->currentRow());
-    element.elementCondition = conditionRows.at(row).text;
+    const auto row = static_cast<std::size_t>(lstCond_->currentRow()); // -1 is too large
+    if (row < conditionRows.size()) {
+        element.elementCondition = conditionRows[row].text;
+    }
 }
 
 } // namespace tarvel

@@ -5,10 +5,10 @@
 #include "document/skin_document.h"
 #include "panels/resource_preview.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/qt_text.h"
 
 #include <QAbstractItemView>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -35,14 +35,14 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
     : QGroupBox(tr("Image"), parent)
     , values_(values)
     , document_(document) {
-    named(this, QStringLiteral("fraImg"), tr("Resource of the image"));
+    named(this, QStringLiteral("fraImg"), title());
     auto* column = new QVBoxLayout(this);
     buildPicker();
     auto* lblRes = captionLabel("lblRes", caption::chooseResource);
     lblRes->setBuddy(lstR_);
     column->addWidget(lblRes);
-    auto* cmdAddRes = named(new QPushButton(qtText(caption::resourceManager)),
-                            QStringLiteral("cmdAddRes"), tr("Open the resource manager"));
+    auto* cmdAddRes =
+        named(new QPushButton(qtText(caption::resourceManager)), QStringLiteral("cmdAddRes"));
     cmdAddRes->setMinimumWidth(cmdAddRes->sizeHint().width() + roomAcross);
     connect(cmdAddRes, &QPushButton::clicked, this, &ImageFrame::addResourceClicked);
     auto* row = new QHBoxLayout;
@@ -57,7 +57,7 @@ ImageFrame::ImageFrame(PanelValues& values, const SkinDocument& document, Pictur
 }
 
 void ImageFrame::buildPicker() {
-    lstR_ = named(new QComboBox, QStringLiteral("lstR"), tr("Resource of the image"));
+    lstR_ = named(new DropDown, QStringLiteral("lstR"), tr("Select Resource Below"));
     lstR_->view()->setAccessibleName(tr("Resources of the skin"));
     lstR_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     lstR_->setMinimumContentsLength(12);

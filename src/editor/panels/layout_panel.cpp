@@ -25,7 +25,7 @@ LayoutPanel::LayoutPanel(const SkinDocument& document, QWidget* parent)
         const LayoutScreen& shown = layoutScreens[static_cast<std::size_t>(screen)];
         auto* button = named(new QRadioButton(qtText(shown.caption)),
                              QStringLiteral("optScreen(%1)").arg(screen),
-                             QStringLiteral("Screen %1").arg(qtText(shown.caption)));
+                             QStringLiteral("%1 screen").arg(qtText(shown.caption)));
         // Bold captions are wider: without the room the panel would jump.
         QFont bold = button->font();
         bold.setBold(true);

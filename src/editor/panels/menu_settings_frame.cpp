@@ -4,13 +4,13 @@
 #include "document/kinds/panel_texts.h"
 #include "widgets/color_well.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
 #include "widgets/skin_fonts.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -87,7 +87,7 @@ MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget
     : QGroupBox(tr("Item Menu"), parent)
     , values_(frame)
     , prompts_(prompts) {
-    named(this, QStringLiteral("fraQor"), tr("Settings of the item menu"));
+    named(this, QStringLiteral("fraQor"), tr("Item Menu settings"));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(smallGap);
     column->addLayout(checksAndNumbers());
@@ -143,7 +143,7 @@ QLayout* MenuSettingsFrame::checksAndNumbers() {
              addNumber("txtScrollFactor", tr("Scroll factor"), &MenuFrame::scrollFactor));
     row->addStretch();
     addField("lblNumItems", caption::itemsShown,
-             addNumber("txtNumItems", tr("Number of games shown"), &MenuFrame::itemsShown));
+             addNumber("txtNumItems", qtText(caption::itemsShown), &MenuFrame::itemsShown));
     grid->addLayout(row, 2, 0, 1, 2);
     return grid;
 }
@@ -190,7 +190,7 @@ void MenuSettingsFrame::addGroup(QBoxLayout& column, const Group& group) {
 }
 
 QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
-    auto* list = named(new QComboBox, QLatin1String(group.list), group.spoken);
+    auto* list = named(new DropDown, QLatin1String(group.list), group.spoken);
     list->view()->setAccessibleName(group.spoken);
     for (const std::string_view entry : alignmentEntries) {
         list->addItem(qtText(entry));

@@ -4,10 +4,10 @@
 #include "editing/step_names.h"
 #include "panels/color_frame.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -17,6 +17,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <utility>
@@ -37,7 +38,7 @@ struct BoxNames {
 };
 
 constexpr std::array<BoxNames, 2> rangeBoxes = {
-    {{"txtRangeX", "X", "Range X"}, {"txtRangeY", "Y", "Range Y"}}};
+    {{"txtRangeX", "X", "X of the range"}, {"txtRangeY", "Y", "Y of the range"}}};
 constexpr std::array<BoxNames, 4> boundsBoxes = {{{"txtBoundsL", "Left", "Left bound"},
                                                   {"txtBoundsT", "Top", "Top bound"},
                                                   {"txtBoundsR", "Right", "Right bound"},
@@ -51,6 +52,29 @@ QWidget* pageOf(QWidget* frame) {
     column->addWidget(frame);
     column->addStretch();
     return page;
+}
+
+QString spokenType(const std::string& type) {
+    return type.empty() ? ModifierPanel::tr("without a type")
+                        : QStringLiteral("\"%1\"").arg(qtText(type));
+}
+
+// What "None" means for an element with modifiers of these types. OK takes the first away, which
+// the panel need not have shown.
+QString aboutNone(const std::vector<std::string>& types) {
+    if (types.empty()) {
+        return ModifierPanel::tr("The element has no modifier.");
+    }
+    if (types.size() == 1) {
+        return ModifierPanel::tr("The element has the modifier %1. OK removes it.")
+            .arg(spokenType(types.front()));
+    }
+    QStringList all;
+    for (const std::string& type : types) {
+        all << spokenType(type);
+    }
+    return ModifierPanel::tr("The element has the modifiers %1. OK removes the first of them.")
+        .arg(all.join(QStringLiteral(", ")));
 }
 
 void showRows(QComboBox& list, const std::vector<std::string>& rows, int chosen) {
@@ -70,16 +94,16 @@ ModifierPanel::ModifierPanel(SkinDocument& document, Prompts& prompts,
                      QStringLiteral("MODIFIER:"), parent)
     , prompts_(prompts)
     , programFolder_(std::move(programFolder))
-    , lstMods_(named(new QComboBox, QStringLiteral("lstMods"), tr("Modifier type")))
+    , lstMods_(named(new DropDown, QStringLiteral("lstMods"), tr("Type of modifier")))
     , lblTargets_(new QLabel(tr("Target")))
-    , lstTargets_(named(new QComboBox, QStringLiteral("lstTargets"), tr("Modifier target")))
+    , lstTargets_(named(new DropDown, QStringLiteral("lstTargets"), tr("Target of the modifier")))
     , frames_(new QStackedWidget)
     , lblNoValues_(new QLabel)
     , fraColor_(new ColorFrame(editor_.values().channels)) {
     setAccessibleName(tr("Modifier of the element"));
     addLists();
     addFrames();
-    addOk(QStringLiteral("cmdModifierOK"), tr("Store the modifier"));
+    addOk(QStringLiteral("cmdModifierOK"), tr("store the modifier"));
     setFirstControl(lstMods_);
     connect(lstMods_, &QComboBox::currentIndexChanged, this, &ModifierPanel::lstMods_Click);
     connect(lstTargets_, &QComboBox::currentIndexChanged, this, &ModifierPanel::lstTargets_Click);
@@ -108,7 +132,9 @@ void ModifierPanel::addLists() {
 }
 
 void ModifierPanel::addFrames() {
+    lblNoValues_->setObjectName(QStringLiteral("lblNoValues"));
     lblNoValues_->setWordWrap(true);
+    lblNoValues_->setTextFormat(Qt::PlainText); // types of a file may look like markup
     frames_->addWidget(pageOf(lblNoValues_));
     frames_->addWidget(pageOf(makeRange()));
     frames_->addWidget(pageOf(makeBounds()));
@@ -173,6 +199,7 @@ QWidget* ModifierPanel::makeColorPage() {
 }
 
 void ModifierPanel::fill(const Element& element) {
+    carried_ = modifierTypes(element.elementModifiers.get());
     try {
         editor_.open(ModifierCatalogue::read(catalogueFile(programFolder_)),
                      element.elementKind, element.elementModifiers.get());
@@ -194,11 +221,15 @@ void ModifierPanel::store(Element& element) const {
 }
 
 void ModifierPanel::lstMods_Click(int row) {
-    editor_.chooseType(row);
+    editor_.chooseType(std::max(row, 0)); // no row is as little as "None"
     refreshLists();
 }
 
 void ModifierPanel::lstTargets_Click(int row) {
+    if (row < 0) {
+        refreshLists(); // the chosen target stays
+        return;
+    }
     editor_.chooseTarget(row);
     refreshFrames();
 }
@@ -213,7 +244,7 @@ void ModifierPanel::refreshLists() {
 
 void ModifierPanel::refreshFrames() {
     if (editor_.modRow() == 0) {
-        lblNoValues_->setText(tr("The element has no modifier."));
+        lblNoValues_->setText(aboutNone(carried_));
     } else if (editor_.targets().empty()) {
         lblNoValues_->setText(tr("This type has no targets, so it cannot be attached."));
     } else {

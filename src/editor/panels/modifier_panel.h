@@ -53,6 +53,7 @@ class ModifierPanel : public BehaviourPanel {
     Prompts& prompts_;
     std::filesystem::path programFolder_;
     ModifierEditor editor_;
+    std::vector<std::string> carried_; // types of the element's modifiers when the panel opened
 
     QComboBox* lstMods_;
     QLabel* lblTargets_;

@@ -13,23 +13,38 @@
 
 namespace tarvel {
 
+namespace {
+
+// What is read out of a field, which begins as its caption does, and what is told beside it.
+struct Words {
+    const char* name;
+    const char* tip;
+};
+using FieldWords = std::array<Words, positionFields>;
+
+const FieldWords& wordsFor(ControlKind kind) {
+    static constexpr FieldWords rectangle = {{{"Left edge", "From the left of the screen"},
+                                              {"Top edge", "From the top of the screen"},
+                                              {"Width", "From the left to the right edge"},
+                                              {"Height", "From the top to the bottom edge"}}};
+    static constexpr FieldWords line = {{{"X1", "First end across"},
+                                         {"Y1", "First end down"},
+                                         {"X2", "Second end across"},
+                                         {"Y2", "Second end down"}}};
+    return kind == ControlKind::lin ? line : rectangle;
+}
+
+} // namespace
+
 PositionPanel::PositionPanel(QWidget* parent)
     : QGroupBox(QStringLiteral("POSITION"), parent) {
-    struct Field {
-        const char* name;
-        const char* meaning;
-    };
-    static constexpr std::array<Field, positionFields> fields = {
-        {{"txtL", "Left, or first end across"},
-         {"txtT", "Top, or first end down"},
-         {"txtW", "Width, or second end across"},
-         {"txtH", "Height, or second end down"}}};
+    static constexpr std::array<const char*, positionFields> names = {"txtL", "txtT", "txtW",
+                                                                      "txtH"};
     named(this, QStringLiteral("fraPos"), tr("Position in skin pixels"));
     auto* row = new QHBoxLayout(this);
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        auto* edit =
-            named(new FieldEdit, QLatin1String(fields[i].name), QLatin1String(fields[i].meaning));
-        edit->setToolTip(edit->accessibleName());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        auto* edit = new FieldEdit;
+        edit->setObjectName(QLatin1String(names[i]));
         edit->installEventFilter(this);
         connect(edit, &QLineEdit::editingFinished, this, [this, i] { leave(i); });
         auto* label = new QLabel;
@@ -48,6 +63,7 @@ PositionPanel::PositionPanel(QWidget* parent)
 void PositionPanel::show(const ElementControl& control) {
     shown_ = positionTexts(control);
     const auto& captions = positionCaptions(control.kind);
+    const FieldWords& words = wordsFor(control.kind);
     for (std::size_t i = 0; i < shown_.size(); ++i) {
         if (fields_[i]->text() != qtText(shown_[i])) {
             fields_[i]->setText(qtText(shown_[i]));
@@ -55,6 +71,8 @@ void PositionPanel::show(const ElementControl& control) {
         fields_[i]->setModified(false);
         fields_[i]->setEnabled(true);
         captions_[i]->setText(qtText(captions[i]));
+        fields_[i]->setAccessibleName(QLatin1String(words[i].name));
+        fields_[i]->setToolTip(QLatin1String(words[i].tip));
     }
 }
 

@@ -65,8 +65,7 @@ void PropertyPanel::buildFrames() {
 }
 
 void PropertyPanel::buildRow() {
-    cmdApply_ = named(new QPushButton(qtText(caption::applyChanges)), QStringLiteral("cmdApply"),
-                      tr("Apply the changes to the element"));
+    cmdApply_ = named(new QPushButton(qtText(caption::applyChanges)), QStringLiteral("cmdApply"));
     connect(cmdApply_, &QPushButton::clicked, this, &PropertyPanel::applyClicked);
     row_ = new QHBoxLayout;
     row_->addWidget(cmdApply_, 1);

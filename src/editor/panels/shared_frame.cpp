@@ -35,6 +35,13 @@ QString spoken(std::string_view text) {
     return all.left(1) + all.mid(1).toLower();
 }
 
+// What is read out is its text.
+ClickLabel* valueLabel(const char* name) {
+    auto* label = new ClickLabel;
+    label->setObjectName(QLatin1String(name));
+    return label;
+}
+
 } // namespace
 
 SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
@@ -43,7 +50,7 @@ SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     , prompts_(prompts)
     , border_(borderRow())
     , fill_(fillRow()) {
-    named(this, QStringLiteral("fraShared"), tr("Colors and opacity"));
+    named(this, QStringLiteral("fraShared"), tr("Shared: colors and opacity"));
     auto* column = new QVBoxLayout(this);
     addRow(*column, border_);
     fraBox_ = new QWidget;
@@ -72,17 +79,17 @@ SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
 SharedFrame::Row SharedFrame::borderRow() {
     return {.caption = captionLabel("lblBorderColor", caption::anyBorderColor),
             .well = named(new ColorWell, QStringLiteral("lColor"), tr("Border color")),
-            .value = named(new ClickLabel, QStringLiteral("lblL"), tr("Border color in numbers")),
-            .clear = named(new QPushButton(qtText(caption::clearBorder)),
-                           QStringLiteral("cmdClearL"), tr("Clear the border color"))};
+            .value = valueLabel("lblL"),
+            .clear =
+                named(new QPushButton(qtText(caption::clearBorder)), QStringLiteral("cmdClearL"))};
 }
 
 SharedFrame::Row SharedFrame::fillRow() {
     return {.caption = captionLabel("lblFillColor", caption::anyFillColor),
             .well = named(new ColorWell, QStringLiteral("fColor"), tr("Fill color")),
-            .value = named(new ClickLabel, QStringLiteral("lblF"), tr("Fill color in numbers")),
-            .clear = named(new QPushButton(qtText(caption::clearFill)), QStringLiteral("cmdClearF"),
-                           tr("Clear the fill color"))};
+            .value = valueLabel("lblF"),
+            .clear =
+                named(new QPushButton(qtText(caption::clearFill)), QStringLiteral("cmdClearF"))};
 }
 
 void SharedFrame::addRow(QBoxLayout& column, Row& row) {
@@ -98,7 +105,7 @@ void SharedFrame::addRow(QBoxLayout& column, Row& row) {
 QBoxLayout* SharedFrame::alphaRow() {
     auto* line = new QHBoxLayout;
     lblAlpha_ = captionLabel("lblAlpha", caption::opacity);
-    txtAlpha_ = named(new FieldEdit, QStringLiteral("txtAlpha"), tr("Opacity in percent"));
+    txtAlpha_ = named(new FieldEdit, QStringLiteral("txtAlpha"), tr("Opacity %"));
     lblAlpha_->setBuddy(txtAlpha_);
     txtAlpha_->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000000")));
     connect(txtAlpha_, &QLineEdit::textEdited, this,

@@ -3,12 +3,12 @@
 
 #include "document/kinds/panel_texts.h"
 #include "widgets/control_names.h"
+#include "widgets/drop_down.h"
 #include "widgets/font_button.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
 
 #include <QAbstractItemView>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -37,8 +37,7 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     column->addWidget(lblText);
     column->addWidget(txtText_);
     auto* row = new QHBoxLayout;
-    cmdFont_ = named(new FontButton(qtText(caption::font)), QStringLiteral("cmdFont"),
-                     tr("Choose the font"));
+    cmdFont_ = named(new FontButton(qtText(caption::font)), QStringLiteral("cmdFont"));
     connect(cmdFont_, &FontButton::clicked, this, &TextFrame::cmdFont_Click);
     fontName_ = new QLabel;
     fontName_->setObjectName(QStringLiteral("fontName"));
@@ -51,8 +50,8 @@ TextFrame::TextFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
 }
 
 void TextFrame::buildText() {
-    txtText_ =
-        named(new QComboBox, QStringLiteral("txtText"), tr("Text, or a field of the dashboard"));
+    txtText_ = named(new DropDown, QStringLiteral("txtText"),
+                     tr("Select predefined text below, or enter custom text"));
     for (const std::string_view entry : predefinedTexts) {
         txtText_->addItem(qtText(entry));
     }
@@ -71,6 +70,9 @@ void TextFrame::buildText() {
         values_.textIsEntry = false;
     });
     connect(txtText_, &QComboBox::activated, this, [this](int index) {
+        if (static_cast<std::size_t>(index) >= predefinedTexts.size()) {
+            return;
+        }
         values_.text = predefinedTexts.at(static_cast<std::size_t>(index));
         values_.textIsEntry = true;
     });

@@ -105,7 +105,7 @@ TimerPanel::TimerPanel(SkinDocument& document, QWidget* parent)
     setAccessibleName(tr("Timers of the element"));
     rows().addWidget(makeBoxes());
     rows().addWidget(makeMessage());
-    addOk(QStringLiteral("cmdTimersOK"), tr("Store the timers"));
+    addOk(QStringLiteral("cmdTimersOK"), tr("store the timers"));
     setFirstControl(txtTimer_.front());
 }
 
@@ -150,7 +150,8 @@ QWidget* TimerPanel::makeMessage() {
                                 ->standardIcon(QStyle::SP_MessageBoxWarning)
                                 .pixmap(QSize(size, size), devicePixelRatioF()));
     warningSign_->setFixedSize(size, size);
-    lblTimersMsg_ = named(new QLabel, QStringLiteral("lblTimersMsg"), tr("Warning on the timers"));
+    lblTimersMsg_ = new QLabel;
+    lblTimersMsg_->setObjectName(QStringLiteral("lblTimersMsg"));
     lblTimersMsg_->setWordWrap(true);
     // Room for the warning is kept, so that nothing moves under the user's hands.
     lblTimersMsg_->setMinimumHeight(2 * lblTimersMsg_->fontMetrics().lineSpacing());

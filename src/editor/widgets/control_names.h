@@ -13,4 +13,9 @@ Control* named(Control* control, const QString& name, const QString& accessibleN
     return control;
 }
 
+/// Gives a button with a caption its object name; what is read out is the caption.
+template <class Button> Button* named(Button* button, const QString& name) {
+    return named(button, name, button->text());
+}
+
 } // namespace tarvel

@@ -8,9 +8,13 @@
 
 namespace tarvel {
 
+void FieldEdit::sel() {
+    selectAll();
+    clicked_ = false;
+}
+
 void FieldEdit::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    focusedByPress_ = event->reason() == Qt::MouseFocusReason;
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
         sel();
     }
@@ -18,9 +22,9 @@ void FieldEdit::focusInEvent(QFocusEvent* event) {
 
 void FieldEdit::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
-    // The press that brought the focus has put the caret somewhere.
-    if (std::exchange(focusedByPress_, false) && !hasSelectedText()) {
-        sel();
+    // The press has put the caret somewhere.
+    if (event->button() == Qt::LeftButton && !std::exchange(clicked_, true) && !hasSelectedText()) {
+        selectAll();
     }
 }
 

@@ -39,16 +39,21 @@ PlayButton::PlayButton(QWidget* parent)
     setText(tr("Stop"));
     drawIcon();
     const int stopWidth = sizeHint().width();
-    setText(tr("Play"));
+    showState();
     setMinimumWidth(std::max(stopWidth, sizeHint().width()));
 }
 
 void PlayButton::setPlaying(bool playing) {
     if (playing != playing_) {
         playing_ = playing;
-        setText(playing ? tr("Stop") : tr("Play"));
-        drawIcon();
+        showState();
     }
+}
+
+void PlayButton::showState() {
+    setText(playing_ ? tr("Stop") : tr("Play"));
+    setAccessibleName(playing_ ? tr("Stop listening") : tr("Play the selected file"));
+    drawIcon();
 }
 
 void PlayButton::changeEvent(QEvent* event) {

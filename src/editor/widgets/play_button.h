@@ -5,7 +5,8 @@
 
 namespace tarvel {
 
-/// Reads "Play" with a triangle or "Stop" with a square, in the colours of its text.
+/// Reads "Play" with a triangle or "Stop" with a square, in the colours of its text. What is read
+/// out follows.
 class PlayButton : public QPushButton {
     Q_OBJECT
 
@@ -19,6 +20,7 @@ class PlayButton : public QPushButton {
     void changeEvent(QEvent* event) override;
 
   private:
+    void showState();
     void drawIcon();
 
     bool playing_ = false;

@@ -3,6 +3,7 @@
 
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -63,8 +64,12 @@ QStringList QtPrompts::files(QWidget* owner, const QString& filter, bool several
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
-    lastFolder_ = dialog.directory().absolutePath();
-    return dialog.selectedFiles();
+    QStringList chosen = dialog.selectedFiles();
+    if (!chosen.isEmpty()) {
+        // Not the folder that the dialog shows: a path that was typed leads out of it.
+        lastFolder_ = QFileInfo(chosen.front()).absolutePath();
+    }
+    return chosen;
 }
 
 std::optional<QColor> QtPrompts::color(QWidget* owner, const QColor& initial) {

@@ -68,7 +68,7 @@ bool SkinFileCommands::saveInto(const QString& folder) {
         return false;
     }
     emit told(tr("Saved to %1").arg(folder));
-    FrmInstructions(surroundings_.window).exec();
+    FrmInstructions(folder, surroundings_.window).exec();
     return true;
 }
 

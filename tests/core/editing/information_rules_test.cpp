@@ -48,5 +48,25 @@ TEST(AddField, AddsNothingWithoutAName) {
     }
 }
 
+TEST(FieldValue, IsThatOfTheField) {
+    SkinSettings settings;
+    setFieldValue(settings, 0, "Ann");
+    setFieldValue(settings, 2, "2026");
+    const std::vector<InformationField> expected = {
+        {"Author", "Ann"}, {"Version", ""}, {"Copyright", "2026"}};
+    EXPECT_EQ(settings.information, expected);
+    EXPECT_EQ(fieldValue(settings, 0), "Ann");
+    EXPECT_EQ(fieldValue(settings, 1), "");
+}
+
+TEST(FieldValue, IsLeftAloneWhereThereIsNoField) {
+    for (const int field : {-1, 3, 1000}) {
+        SkinSettings settings;
+        setFieldValue(settings, field, "x");
+        EXPECT_EQ(settings, SkinSettings{}) << field;
+        EXPECT_EQ(fieldValue(settings, field), "") << field;
+    }
+}
+
 } // namespace
 } // namespace tarvel

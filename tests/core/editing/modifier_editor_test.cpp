@@ -202,6 +202,17 @@ TEST(Opening, ShowsTheFirstOfSeveralModifiers) {
     EXPECT_EQ(editor.values().range[0], "1");
 }
 
+TEST(ModifierTypes, AreThoseOfAllNodesInTheirOrder) {
+    XmlTree all = parse(R"(<Modifier Type="Fade"><Range X="1"/></Modifier>)");
+    EXPECT_EQ(modifierTypes(all), Texts{"Fade"});
+    for (const char* further : {"<Modifier/>", R"(<Modifier Type="Burn" Target="Fill"/>)"}) {
+        const XmlTree tree = parse(further);
+        all.addCopy(XmlTree::top, tree.root());
+    }
+    EXPECT_EQ(modifierTypes(all), (Texts{"Fade", "", "Burn"}));
+    EXPECT_EQ(modifierTypes(XmlTree()), Texts());
+}
+
 TEST(Opening, TellsWhenAStoredTypeHasNoTargets) {
     ModifierEditor editor;
     const XmlTree stored = parse(R"(<Modifier Type="Bare"><Range X="1"/></Modifier>)");

@@ -27,7 +27,8 @@ class FrmDelaysTest : public QObject {
     void typedTextIsReadLeniently();
     void eachFieldHasItsDelay();
     void clickSelectsTheWholeValue();
-    void valueWithoutAFieldChangesNothing();
+    void typingAfterAClickReplacesTheValue();
+    void valueWithoutAFieldCannotBeTyped();
     void deselectedFieldShowsNoValue();
     void worksByKeysAlone();
     void closes_data();
@@ -124,7 +125,11 @@ void FrmDelaysTest::clickSelectsTheWholeValue() {
     clickRow(control<QListWidget>(dialog, "lstFields"), 0);
     QVERIFY(txtData.hasFocus());
     QCOMPARE(txtData.selectedText(), "1500");
-    click(txtData); // a click where the focus is places the caret
+    click(txtData);
+    QCOMPARE(txtData.selectedText(), "1500");
+    click(txtData); // a further click places the caret
+    QVERIFY(!txtData.hasSelectedText());
+    QTest::mouseClick(&txtData, Qt::RightButton);
     QVERIFY(!txtData.hasSelectedText());
     click(control<QListWidget>(dialog, "lstFields"));
     control<QPushButton>(dialog, "cmdOK").setFocus();
@@ -132,12 +137,36 @@ void FrmDelaysTest::clickSelectsTheWholeValue() {
     QCOMPARE(txtData.selectedText(), "1500");
 }
 
-void FrmDelaysTest::valueWithoutAFieldChangesNothing() {
-    setDelays({1, 2, 3});
+void FrmDelaysTest::typingAfterAClickReplacesTheValue() {
     FrmDelays dialog(document_, prompts_);
     QVERIFY(test::open(dialog));
-    typeOver(control<QLineEdit>(dialog, "txtData"), "900");
-    QCOMPARE(delays(), (Delays{1, 2, 3}));
+    auto& txtData = control<QLineEdit>(dialog, "txtData");
+    for (const int row : {0, 1}) {
+        clickRow(control<QListWidget>(dialog, "lstFields"), row);
+        click(txtData);
+        QTest::keyClicks(&txtData, "9000");
+        QCOMPARE(txtData.text(), "9000");
+    }
+    QCOMPARE(delays(), (Delays{9000, 9000, 0}));
+}
+
+void FrmDelaysTest::valueWithoutAFieldCannotBeTyped() {
+    setDelays({1, 2, 3});
+    FrmDelays dialog(document_, prompts_);
+    auto& list = control<QListWidget>(dialog, "lstFields");
+    auto& txtData = control<QLineEdit>(dialog, "txtData");
+    for (int time = 0; time < 2; ++time) {
+        QVERIFY(test::open(dialog));
+        QVERIFY(list.hasFocus());
+        QVERIFY(!txtData.isEnabled());
+        typeOver(txtData, "900");
+        QCOMPARE(txtData.text(), "");
+        QCOMPARE(delays(), (Delays{1, 2, 3}));
+        clickRow(list, 1);
+        QVERIFY(txtData.isEnabled());
+        QVERIFY(txtData.hasFocus());
+        QVERIFY(test::close(dialog));
+    }
 }
 
 void FrmDelaysTest::deselectedFieldShowsNoValue() {

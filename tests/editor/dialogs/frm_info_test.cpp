@@ -27,7 +27,9 @@ class FrmInfoTest : public QObject {
     void nameIsSelectedWhenItGetsTheFocus();
     void clickOnAFieldShowsItsValueAndMovesTheFocus();
     void valuesGoToTheirFields();
-    void valueWithoutAFieldChangesNothing();
+    void clickSelectsTheWholeValue();
+    void valueWithoutAFieldCannotBeTyped();
+    void fieldsThatAreNoMoreAreLeftAlone();
     void deselectedFieldShowsNoValue();
     void aFieldIsAdded_data();
     void aFieldIsAdded();
@@ -117,9 +119,11 @@ void FrmInfoTest::nameIsSelectedWhenItGetsTheFocus() {
     QVERIFY(test::open(dialog));
     auto& txtName = control<QLineEdit>(dialog, "txtName");
     QCOMPARE(txtName.selectedText(), "Aurora");
+    click(txtName);
+    QCOMPARE(txtName.selectedText(), "Aurora");
     click(txtName); // a second click places the caret
     QVERIFY(!txtName.hasSelectedText());
-    click(control<QLineEdit>(dialog, "txtData"));
+    clickRow(control<QListWidget>(dialog, "lstFields"), 0);
     QVERIFY(!txtName.hasFocus());
     click(txtName);
     QCOMPARE(txtName.selectedText(), "Aurora");
@@ -167,13 +171,46 @@ void FrmInfoTest::valuesGoToTheirFields() {
     QCOMPARE(information()[0].value, "");
 }
 
-void FrmInfoTest::valueWithoutAFieldChangesNothing() {
+void FrmInfoTest::clickSelectsTheWholeValue() {
+    document_.editSettings([](SkinSettings& settings) { settings.information[1].value = "1.0"; });
+    FrmInfo dialog(document_, prompts_);
+    QVERIFY(test::open(dialog));
+    clickRow(control<QListWidget>(dialog, "lstFields"), 1);
+    auto& txtData = control<QLineEdit>(dialog, "txtData");
+    click(txtData);
+    QTest::keyClicks(&txtData, "2");
+    QCOMPARE(information()[1].value, "2");
+}
+
+void FrmInfoTest::valueWithoutAFieldCannotBeTyped() {
     FrmInfo dialog(document_, prompts_);
     QVERIFY(test::open(dialog));
     auto& txtData = control<QLineEdit>(dialog, "txtData");
+    QVERIFY(!txtData.isEnabled());
     typeOver(txtData, "lost");
-    QCOMPARE(txtData.text(), "lost");
+    QCOMPARE(txtData.text(), "");
     QCOMPARE(document_, SkinDocument());
+    prompts_.inputs = {"Size"};
+    click(control<QPushButton>(dialog, "cmdAdd"));
+    QVERIFY(txtData.isEnabled());
+}
+
+void FrmInfoTest::fieldsThatAreNoMoreAreLeftAlone() {
+    FrmInfo dialog(document_, prompts_);
+    QVERIFY(test::open(dialog));
+    auto& list = control<QListWidget>(dialog, "lstFields");
+    auto& txtData = control<QLineEdit>(dialog, "txtData");
+    clickRow(list, 2);
+    document_.editSettings([](SkinSettings& settings) { settings.information.resize(1); });
+    const SkinDocument before = document_;
+    QTest::keyClicks(&txtData, "x");
+    clickRow(list, 1);
+    QCOMPARE(txtData.text(), "");
+    QTest::keyClicks(&txtData, "y");
+    QCOMPARE(document_, before);
+    clickRow(list, 0);
+    QTest::keyClicks(&txtData, "z");
+    QCOMPARE(information()[0].value, "z");
 }
 
 void FrmInfoTest::deselectedFieldShowsNoValue() {

@@ -25,7 +25,8 @@ class FrmMusicListTest : public QObject, protected test::MusicFixture {
     void nothingIsAdded();
     void deleteRemovesTheEntryOnly();
     void rightClickRemovesTheEntryOnly();
-    void rightClickBelowTheRowsRemovesTheSelectedEntry();
+    void rightClickBelowTheRowsRemovesNothing();
+    void rightClickRemovesTheEntryUnderIt();
     void removingWithoutASelectionDoesNothing();
     void removalGoesOnWithTheNextEntry();
     void droppedMusicIsAdded();
@@ -118,11 +119,9 @@ void FrmMusicListTest::rightClickRemovesTheEntryOnly() {
     QCOMPARE(list.count(), 2);
 }
 
-// The click removes what is selected; over a row that is the row itself, which it selects first.
-void FrmMusicListTest::rightClickBelowTheRowsRemovesTheSelectedEntry() {
+void FrmMusicListTest::rightClickBelowTheRowsRemovesNothing() {
     setThreeFiles();
-    MusicSettings expected = music();
-    expected.rows = {1, 2};
+    const MusicSettings before = music();
     const auto dialog = makeDialog();
     QVERIFY(test::open(*dialog));
     auto& list = control<MusicList>(*dialog, "lstMusic");
@@ -130,9 +129,23 @@ void FrmMusicListTest::rightClickBelowTheRowsRemovesTheSelectedEntry() {
     const QPoint below = list.viewport()->rect().bottomRight() - QPoint(5, 5);
     QVERIFY(list.itemAt(below) == nullptr);
     QTest::mouseClick(list.viewport(), Qt::RightButton, {}, below);
-    QCOMPARE(music().rows, expected.rows);
-    QCOMPARE(music(), expected);
-    QCOMPARE(list.count(), 2);
+    QCOMPARE(music(), before);
+    QCOMPARE(list.count(), 3);
+    QVERIFY(list.item(0)->isSelected());
+}
+
+// Whatever keys are held with it.
+void FrmMusicListTest::rightClickRemovesTheEntryUnderIt() {
+    setThreeFiles();
+    const auto dialog = makeDialog();
+    QVERIFY(test::open(*dialog));
+    auto& list = control<MusicList>(*dialog, "lstMusic");
+    clickRow(list, 0);
+    for (const auto key : {Qt::ControlModifier, Qt::ShiftModifier}) {
+        QTest::mouseClick(list.viewport(), Qt::RightButton, key,
+                          list.visualItemRect(list.item(1)).center());
+    }
+    QCOMPARE(music().rows, std::vector<int>{0});
 }
 
 void FrmMusicListTest::removingWithoutASelectionDoesNothing() {
@@ -200,7 +213,7 @@ void FrmMusicListTest::filesThatASkinCannotHoldAreRefused() {
     QVERIFY(test::dropFiles(*list.viewport(), {inFolder("b\\c.wma")}));
     QTRY_COMPARE(prompts_->messages, QStringList({both, problem("b\\c.wma")}));
     QCOMPARE(list.count(), 1);
-    QCOMPARE(music().lstMusic.size(), 1U);
+    QCOMPARE(music().rows.size(), 1U);
 }
 
 void FrmMusicListTest::otherDropsAreRefused() {
@@ -242,10 +255,12 @@ void FrmMusicListTest::selectedFileIsPlayed() {
     QCOMPARE(log_, QStringList{"play " + inFolder("b.wma")});
     QVERIFY(button.isPlaying());
     QCOMPARE(button.text(), "Stop");
+    QCOMPARE(button.accessibleName(), "Stop listening");
     click(button);
     QCOMPARE(log_.last(), "stop");
     QVERIFY(!button.isPlaying());
     QCOMPARE(button.text(), "Play");
+    QCOMPARE(button.accessibleName(), "Play the selected file");
     QTest::keyClick(&list, Qt::Key_Space);
     QVERIFY(button.isPlaying());
     QTest::keyClick(&list, Qt::Key_Space);

@@ -3,6 +3,7 @@
 #include "support/dialog_support.h"
 #include "support/ui_test.h"
 
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -12,11 +13,18 @@
 using namespace tarvel;
 using namespace tarvel::test;
 
+namespace {
+
+const QString folder = QStringLiteral("/home/somebody/skins/Aurora/");
+
+} // namespace
+
 class InstructionsTest : public QObject {
     Q_OBJECT
 
   private slots:
     void readsLineByLine();
+    void namesTheFolder();
     void textIsReadOnlyAndWhollyVisible();
     void closes_data();
     void closes();
@@ -24,7 +32,7 @@ class InstructionsTest : public QObject {
 };
 
 void InstructionsTest::readsLineByLine() {
-    FrmInstructions dialog;
+    FrmInstructions dialog(folder);
     QCOMPARE(dialog.objectName(), "frmInstructions");
     const QStringList lines = {
         "The skin files have been generated in the folder you selected",
@@ -34,8 +42,21 @@ void InstructionsTest::readsLineByLine() {
     QCOMPARE(control<QPlainTextEdit>(dialog, "txtIns").toPlainText().split('\n'), lines);
 }
 
+void InstructionsTest::namesTheFolder() {
+    FrmInstructions dialog(folder);
+    QVERIFY(open(dialog));
+    const auto& lblFolder = control<QLabel>(dialog, "lblFolder");
+    QVERIFY(lblFolder.isVisible());
+    QCOMPARE(lblFolder.text(), folder);
+    QVERIFY(lblFolder.width() > dialog.width() / 2);
+    FrmInstructions deep(QString(300, QLatin1Char('x')));
+    QVERIFY(open(deep));
+    QCOMPARE(deep.size(), dialog.size()); // a long path is shortened
+    QCOMPARE(control<QLabel>(deep, "lblFolder").toolTip().size(), 300);
+}
+
 void InstructionsTest::textIsReadOnlyAndWhollyVisible() {
-    FrmInstructions dialog;
+    FrmInstructions dialog(folder);
     QVERIFY(open(dialog));
     auto& text = control<QPlainTextEdit>(dialog, "txtIns");
     QVERIFY(text.isReadOnly());
@@ -57,7 +78,7 @@ void InstructionsTest::closes_data() {
 void InstructionsTest::closes() {
     QFETCH(QString, focus);
     QFETCH(int, key);
-    FrmInstructions dialog;
+    FrmInstructions dialog(folder);
     QTimer::singleShot(0, &dialog, [&] {
         QVERIFY(dialog.isModal());
         QVERIFY(QTest::qWaitForWindowActive(&dialog));
@@ -74,7 +95,7 @@ void InstructionsTest::closes() {
 }
 
 void InstructionsTest::controlsHaveAccessibleNames() {
-    const FrmInstructions dialog;
+    const FrmInstructions dialog(folder);
     QCOMPARE(withoutAccessibleName(dialog), QStringList());
 }
 

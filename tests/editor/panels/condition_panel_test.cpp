@@ -31,6 +31,7 @@ class ConditionPanelTest : public QObject {
     void worksByKeysAlone();
     void selectedRowStaysSelected_data();
     void selectedRowStaysSelected();
+    void withoutARowTheConditionStays();
     void escapeDoesNothing();
     void tellsTheDocumentsObserver();
     void storesIntoTheElementThatItWasOpenedFor();
@@ -171,6 +172,17 @@ void ConditionPanelTest::selectedRowStaysSelected() {
     QCOMPARE(lstCond.selectedItems(), QList{lstCond.item(5)});
     click(control<QPushButton>(panel, "cmdConditionOK"));
     QCOMPARE(condition(), "ItemPassCode");
+}
+
+void ConditionPanelTest::withoutARowTheConditionStays() {
+    setCondition("ItemEntry");
+    ConditionPanel panel(document_);
+    test::PanelWindow window(panel);
+    QVERIFY(window.openPanel(1));
+    control<QListWidget>(panel, "lstCond").setCurrentRow(-1);
+    click(control<QPushButton>(panel, "cmdConditionOK"));
+    QVERIFY(!panel.isVisible());
+    QCOMPARE(condition(), "ItemEntry");
 }
 
 void ConditionPanelTest::escapeDoesNothing() {

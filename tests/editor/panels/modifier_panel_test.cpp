@@ -75,6 +75,10 @@ class ModifierPanelTest : public QObject {
     void keepsTheBoundsBoxes();
     void opensOnNone_data();
     void opensOnNone();
+    void tellsWhatNoneMeans_data();
+    void tellsWhatNoneMeans();
+    void tellsWhatNoneMeansOnceItIsChosen();
+    void showsRowsWhateverIsTakenFromTheLists();
     void tellsWhatCannotBeShown();
     void keepsWhatItShowsFromElementToElement();
 
@@ -322,6 +326,65 @@ void ModifierPanelTest::opensOnNone() {
     QCOMPARE(modifiers(), parse(stored.toStdString()));
     ok();
     QCOMPARE(modifiers(), XmlTree());
+}
+
+void ModifierPanelTest::tellsWhatNoneMeans_data() {
+    QTest::addColumn<QStringList>("stored");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("none") << QStringList() << "The element has no modifier.";
+    QTest::newRow("one") << QStringList{R"(<Modifier Type="Wobble" Target="Place"/>)"}
+                         << R"(The element has the modifier "Wobble". OK removes it.)";
+    QTest::newRow("like markup") << QStringList{R"(<Modifier Type="&lt;b&gt;x&lt;/b&gt;"/>)"}
+                                 << R"(The element has the modifier "<b>x</b>". OK removes it.)";
+    QTest::newRow("without a type")
+        << QStringList{R"(<Modifier><Range X="1"/></Modifier>)"}
+        << "The element has the modifier without a type. OK removes it.";
+    QTest::newRow("several")
+        << QStringList{R"(<Modifier Type="Burn"><x/></Modifier>)", R"(<Modifier Type="Wobble"/>)"}
+        << R"(The element has the modifiers "Burn", "Wobble". OK removes the first of them.)";
+}
+
+void ModifierPanelTest::tellsWhatNoneMeans() {
+    QFETCH(QStringList, stored);
+    QFETCH(QString, text);
+    XmlTree all;
+    for (const QString& modifier : stored) {
+        const XmlTree tree = parse(modifier.toStdString());
+        all.addCopy(XmlTree::top, tree.root());
+    }
+    setModifiers(all);
+    QVERIFY(openFor(1));
+    QCOMPARE(lstMods().currentText(), "None");
+    const auto& label = control<QLabel>(*panel_, "lblNoValues");
+    QVERIFY(label.isVisible());
+    QCOMPARE(label.text(), text);
+    QCOMPARE(label.textFormat(), Qt::PlainText);
+    ok(); // as it says
+    QVERIFY(openFor(1));
+    QCOMPARE(label.text().contains("has no modifier"), stored.size() < 2);
+    QVERIFY(openFor(4));
+    QCOMPARE(label.text(), "The element has no modifier.");
+}
+
+void ModifierPanelTest::tellsWhatNoneMeansOnceItIsChosen() {
+    QVERIFY(openWith(tint));
+    const auto& label = control<QLabel>(*panel_, "lblNoValues");
+    QVERIFY(!label.isVisible());
+    chooseRow(lstMods(), None);
+    QVERIFY(label.isVisible());
+    QCOMPARE(label.text(), R"(The element has the modifier "Tint". OK removes it.)");
+    ok();
+    QVERIFY(modifiers().empty());
+}
+
+void ModifierPanelTest::showsRowsWhateverIsTakenFromTheLists() {
+    QVERIFY(openWith(tint));
+    lstTargets().setCurrentIndex(-1);
+    QCOMPARE(lstTargets().currentText(), "Border");
+    lstMods().setCurrentIndex(-1);
+    QCOMPARE(lstMods().currentText(), "None");
+    ok();
+    QVERIFY(modifiers().empty());
 }
 
 void ModifierPanelTest::tellsWhatCannotBeShown() {

@@ -80,6 +80,7 @@ class QtPromptsTest : public QObject {
     void cancelledFileChooserGivesNone();
     void folderIsChosen();
     void choosersStartWhereTheLastOneEnded();
+    void choosersStartWhereATypedPathLed();
     void colorIsChosen();
     void fontIsChosen();
 
@@ -264,6 +265,30 @@ void QtPromptsTest::choosersStartWhereTheLastOneEnded() {
     QtPrompts another; // within a run of the program there is only one
     QVERIFY(asking<QFileDialog>([&] { another.files(&owner_, {}, false); }, noteAndCancel));
     QVERIFY(start != path("sub"));
+}
+
+void QtPromptsTest::choosersStartWhereATypedPathLed() {
+    struct Case {
+        const char* shown; // folder when the path is typed
+        QString typed;
+    };
+    for (const auto& [shown, typed] : {Case{"", path("sub/c.jpg")}, Case{"", "sub/c.jpg"},
+                                       Case{"", "\"" + path("sub/c.jpg") + "\""}}) {
+        QtPrompts prompts;
+        QStringList chosen;
+        const auto ask = [&] { chosen = prompts.files(&owner_, {}, false); };
+        QVERIFY(asking<QFileDialog>(ask, [&](QFileDialog& dialog) {
+            dialog.setDirectory(path(shown));
+            take(dialog, typed);
+        }));
+        QCOMPARE(chosen, QStringList(path("sub/c.jpg")));
+        QString start;
+        QVERIFY(asking<QFileDialog>(ask, [&](QFileDialog& dialog) {
+            start = dialog.directory().absolutePath();
+            cancel(dialog);
+        }));
+        QCOMPARE(start, path("sub"));
+    }
 }
 
 void QtPromptsTest::colorIsChosen() {

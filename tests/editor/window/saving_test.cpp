@@ -2,6 +2,7 @@
 #include "support/editor.h"
 #include "support/ui_test.h"
 
+#include <QLabel>
 #include <QStatusBar>
 
 #include <chrono>
@@ -28,6 +29,9 @@ class DialogWatch {
             if (!seen_.contains(dialog->objectName())) {
                 seen_ << dialog->objectName();
             }
+            if (const auto* folder = dialog->findChild<QLabel*>(QStringLiteral("lblFolder"))) {
+                folder_ = folder->text();
+            }
             if (dialog->objectName() != QLatin1String("frmProgress")) {
                 QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
             }
@@ -35,10 +39,13 @@ class DialogWatch {
         poll_.start(10);
     }
     [[nodiscard]] const QStringList& seen() const { return seen_; }
+    /// The folder that the instructions named.
+    [[nodiscard]] const QString& folder() const { return folder_; }
 
   private:
     QTimer poll_;
     QStringList seen_;
+    QString folder_;
 };
 
 void write(const QString& path, const QByteArray& content) {
@@ -180,6 +187,7 @@ void SavingTest::aVanishedBackgroundIsPassedOver() {
     QCOMPARE(watch.seen(), QStringList("frmInstructions"));
     QCOMPARE(bytesOf(editor.path("out/Music/song.wma")), QByteArray("song"));
     QCOMPARE(status(editor), "Saved to " + editor.path("out/"));
+    QCOMPARE(watch.folder(), editor.path("out/"));
 }
 
 void SavingTest::theLaterOfTwoFilesOfOneNameIsKept() {

@@ -1,6 +1,8 @@
 // The main window without a pointer: the way of the Tab key, spoken names, and work by keys.
+#include "support/access_support.h"
 #include "support/editor.h"
 #include "support/ui_test.h"
+#include "widgets/drop_down.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -119,6 +121,8 @@ class WindowAccessTest : public QObject {
     void everythingFocusableHasAName_data() { tabOrder_data(); }
     void everythingFocusableHasAName();
     void panelsAndTextsHaveNames();
+    void buttonsAreReadOutByTheirCaptions();
+    void everyListLeavesTheWheelAlone();
     void rowsAreSpoken();
     void screensByArrowKeys();
     void elementsByArrowKeys();
@@ -213,7 +217,24 @@ void WindowAccessTest::panelsAndTextsHaveNames() {
     QCOMPARE(name("Pic"), QStringLiteral("Drawing surface"));
     for (int screen = 0; screen < screenCount; ++screen) {
         const QRadioButton* button = editor.optScreen(screen);
-        QCOMPARE(spokenName(editor.optScreen(screen)), QStringLiteral("Screen ") + button->text());
+        QCOMPARE(spokenName(editor.optScreen(screen)), button->text() + QStringLiteral(" screen"));
+    }
+}
+
+void WindowAccessTest::buttonsAreReadOutByTheirCaptions() {
+    Editor editor;
+    QVERIFY(captionedButtons(editor.window).contains(editor.find<QAbstractButton>("cmdStop")));
+    QCOMPARE(buttonsReadOutOtherwise(editor.window).join(QLatin1Char('\n')),
+             QString()); // dialogs included
+}
+
+// While it has no focus.
+void WindowAccessTest::everyListLeavesTheWheelAlone() {
+    Editor editor;
+    const auto lists = editor.window.findChildren<QComboBox*>();
+    QVERIFY(lists.size() >= 6);
+    for (const QComboBox* list : lists) {
+        QVERIFY2(qobject_cast<const DropDown*>(list) != nullptr, qPrintable(list->objectName()));
     }
 }
 
