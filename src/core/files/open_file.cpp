@@ -120,8 +120,15 @@ void flushFolder(const std::filesystem::path& folder) {
     const auto& path = folder.empty() ? std::filesystem::path(".") : folder;
     const Descriptor opened = openAt(AT_FDCWD, path.c_str(), O_RDONLY | O_DIRECTORY);
     // A folder may be closed to reading and open to changes: there is no flushing it then.
-    if (opened.isOpen() && !flushed(opened.number())) {
+    if (!opened.isOpen() && errno != ENOENT) {
+        return;
+    }
+    if (!opened.isOpen() || !flushed(opened.number())) {
         throw FileError(errno, folder);
+    }
+    struct stat status {};
+    if (::fstat(opened.number(), &status) == 0 && status.st_nlink == 0) {
+        throw FileError(ENOENT, folder);
     }
 }
 

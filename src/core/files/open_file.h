@@ -78,7 +78,8 @@ class OpenFile {
     Descriptor descriptor_;
 };
 
-/// Brings it to the disk which files a folder holds.
+/// Brings it to the disk which files a folder holds. Throws FileError, also for a folder that is
+/// gone.
 void flushFolder(const std::filesystem::path& folder);
 
 } // namespace tarvel
