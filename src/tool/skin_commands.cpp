@@ -8,11 +8,9 @@
 #include "skinfile/version.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <exception>
 #include <ostream>
 #include <string_view>
-#include <system_error>
 
 namespace tarvel::tool {
 
@@ -43,10 +41,6 @@ ExitCode save(SkinDocument& document, const std::filesystem::path& out, Output o
     }
     try {
         createFolder(out);
-        std::error_code ignored;
-        if (!std::filesystem::is_directory(out, ignored)) {
-            throw FileError(ENOTDIR, out);
-        }
     } catch (const FileError& error) {
         complain(output, error.what());
         return findings;

@@ -1,6 +1,8 @@
 // A file that one process holds at a time, however that process ends.
 #pragma once
 
+#include "files/open_file.h"
+
 #include <filesystem>
 #include <optional>
 
@@ -14,21 +16,14 @@ class HeldFile {
     /// included. Throws FileError.
     [[nodiscard]] static std::optional<HeldFile> tryHold(const std::filesystem::path& path);
 
-    HeldFile(HeldFile&& other) noexcept;
-    HeldFile& operator=(HeldFile&& other) noexcept;
-    HeldFile(const HeldFile&) = delete;
-    HeldFile& operator=(const HeldFile&) = delete;
-    ~HeldFile();
-
     /// Deletes the file and lets go. What cannot be deleted stays, and the next holder finds it.
     void remove() noexcept;
 
   private:
-    HeldFile(std::filesystem::path path, int descriptor);
-    void letGo() noexcept;
+    HeldFile(std::filesystem::path path, Descriptor file);
 
     std::filesystem::path path_;
-    int descriptor_;
+    Descriptor file_;
 };
 
 } // namespace tarvel

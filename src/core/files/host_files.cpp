@@ -127,9 +127,12 @@ void createFolder(const fs::path& path) {
         return;
     }
     const int reason = errno;
-    std::error_code ignored;
-    if (reason != EEXIST || !fs::is_directory(path, ignored)) {
-        throw FileError(reason == EEXIST ? ENOTDIR : reason, path);
+    struct stat there {};
+    if (reason != EEXIST || ::stat(path.c_str(), &there) != 0) {
+        throw FileError(reason != EEXIST ? reason : errno, path);
+    }
+    if (!S_ISDIR(there.st_mode)) {
+        throw FileError(ENOTDIR, path);
     }
 }
 

@@ -146,6 +146,24 @@ std::optional<std::string> realPath(const std::string& path) {
     return error ? std::nullopt : std::optional(real.string());
 }
 
+// The path behind all links; nothing for what does not exist. Throws for what cannot be looked at,
+// so that nobody takes it for something else.
+std::optional<std::string> realPathIfThere(const fs::path& path) {
+    auto real = realPath(path.native());
+    if (!real && errno != ENOENT && errno != ENOTDIR && errno != ELOOP) {
+        throw FileError(errno, path);
+    }
+    return real;
+}
+
+std::string realPathOf(const fs::path& path) {
+    auto real = realPath(path.native());
+    if (!real) {
+        throw FileError(errno, path);
+    }
+    return std::move(*real);
+}
+
 bool isBelow(std::string_view folder, std::string_view path) {
     return path.starts_with(folder) &&
            (path.size() == folder.size() || folder.ends_with('/') || path[folder.size()] == '/');
@@ -196,9 +214,8 @@ bool leadsOutside(const fs::path& folder, std::string_view file) {
 }
 
 bool liesWithin(const fs::path& folder, const fs::path& path) {
-    const auto root = realPath(folder.native());
-    const auto real = realPath(path.native());
-    return root && real && isBelow(*root, *real);
+    const auto real = realPathIfThere(path);
+    return real && isBelow(realPathOf(folder), *real);
 }
 
 fs::path writtenPath(const fs::path& folder, const fs::path& target) {
@@ -235,10 +252,10 @@ bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
         return false;
     }
     if (root_ != folder) {
+        realRoot_ = realPathOf(folder);
         root_ = folder;
-        realRoot_ = realPath(folder.native()).value_or("");
     }
-    return realRoot_.empty() || !isBelow(realRoot_, *real);
+    return !isBelow(realRoot_, *real);
 }
 
 FileFinder::Found FileFinder::located(const std::string& spelt) {

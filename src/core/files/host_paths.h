@@ -1,6 +1,6 @@
 // How paths look on this host, and how those of a document become paths of it.
 //
-// Paths in the document are UTF-8 with backslashes. Nothing here throws.
+// Paths in the document are UTF-8 with backslashes. Nothing here throws unless stated otherwise.
 #pragma once
 
 #include <filesystem>
@@ -34,16 +34,17 @@ namespace tarvel {
 
 /// True when `file`, a File text of a skin, leads out of the skin's folder: by "..", as an absolute
 /// path, by a drive letter or through a link. Also when it is longer than any path of the host, so
-/// that nothing can lie there.
+/// that nothing can lie there. Throws FileError when the folder cannot be looked at.
 [[nodiscard]] bool leadsOutside(const std::filesystem::path& folder, std::string_view file);
 
 /// True when the path exists and lies below the folder (or is it), whatever links lead there.
+/// Throws FileError when either cannot be looked at.
 [[nodiscard]] bool liesWithin(const std::filesystem::path& folder,
                               const std::filesystem::path& path);
 
 /// Where something has to be written for `target`, a path of the skin in `folder`: for a link to a
 /// file within the folder that file; otherwise the target itself, so that what a link outside leads
-/// to is never changed.
+/// to is never changed. Throws FileError as liesWithin() does.
 [[nodiscard]] std::filesystem::path writtenPath(const std::filesystem::path& folder,
                                                 const std::filesystem::path& target);
 

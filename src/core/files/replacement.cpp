@@ -41,16 +41,29 @@ bool isOurs(const OpenFile& file) {
     return !taken && file.status().st_nlink > 0;
 }
 
+// Leaves nothing of a file that is not ours, or that cannot be looked at.
+bool isOursOrGone(const OpenFile& file, const fs::path& path) {
+    try {
+        if (isOurs(file)) {
+            return true;
+        }
+    } catch (const FileError&) {
+        ::unlink(path.c_str());
+        throw;
+    }
+    ::unlink(path.c_str());
+    return false;
+}
+
 OpenFile openBeside(const fs::path& target, fs::path& beside) {
     constexpr int tries = 10000;
     for (int i = 1;; ++i) {
         beside = nextBeside(target);
         try {
             OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL, 0666, target);
-            if (isOurs(file)) {
+            if (isOursOrGone(file, beside)) {
                 return file;
             }
-            ::unlink(beside.c_str());
         } catch (const FileError& error) {
             if (error.errorNumber() != EEXIST || i == tries) {
                 throw;

@@ -2,6 +2,7 @@
 #include "skinfile/recovery_store.h"
 
 #include "files/host_files.h"
+#include "files/replacement.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -84,6 +85,7 @@ void RecoveryStore::keep(const WorkState& work) {
 }
 
 std::vector<fs::path> RecoveryStore::takeLost() {
+    removeLeftovers(folder_);
     for (const fs::path& stem : runsIn(folder_)) {
         findLostRun(stem);
     }

@@ -1,7 +1,7 @@
 // Files are told apart by what they are on the disk, whatever path leads to them.
 #include "skinfile/save_plan.h"
 
-#include "files/host_paths.h"
+#include "files/host_files.h"
 #include "text/text_case.h"
 
 #include <map>
@@ -139,7 +139,13 @@ class Planner {
 } // namespace
 
 SavePlan planSave(const SkinSettings& settings, const fs::path& folder) {
-    return Planner(settings, folder).run();
+    try {
+        return Planner(settings, folder).run();
+    } catch (const FileError& error) { // where things lie cannot be told
+        SavePlan plan;
+        plan.obstacle = error.what();
+        return plan;
+    }
 }
 
 } // namespace tarvel

@@ -161,6 +161,14 @@ XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
     }
 }
 
+// What is there and cannot be looked at is for the reading to tell.
+bool isMissing(const std::filesystem::path& file) {
+    std::error_code ignored;
+    const auto type = std::filesystem::status(file, ignored).type();
+    return type == std::filesystem::file_type::not_found ||
+           type == std::filesystem::file_type::directory;
+}
+
 SkinDocument withSkin(SkinDocument document, const std::filesystem::path& folder,
                       SkinReadNotes& notes) {
     const XmlTree tree = parsedSkin(folder, notes.text);
@@ -198,7 +206,7 @@ SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& fold
     if (!problem.empty()) {
         throw SkinReadError(problem);
     }
-    if (!FileExists(withSlash(documentPath(folder)).append(skinFileName))) {
+    if (isMissing(skinFilePath(folder))) {
         throw SkinReadError(std::string(noSkinFile));
     }
     SkinReadNotes notes;

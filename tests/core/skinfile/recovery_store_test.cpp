@@ -189,6 +189,7 @@ TEST(RecoveryStore, LeavesOtherFilesAlone) {
     folder.folder("run-2-2.recovery");
     fs::create_symlink(folder / "notes.recovery", folder / "run-3-3.recovery");
     folder.file("run-4-4.lock", ""); // a run that was killed before it kept anything
+    folder.file(".tarvel-4-1", "");  // and while it kept something
     RecoveryStore store(folder.path());
     EXPECT_EQ(store.takeLost(), Paths{});
     store.endProperly();
