@@ -448,19 +448,24 @@ void EditingTest::pointerKeepsItsShapeDuringADrag() {
     editor.show();
     editor.add(boxAt(100, 100, 100, 50));
     editor.selectRow(1, 0);
-    const auto shape = [&] { return editor.pic()->cursor().shape(); };
-    QMouseEvent hover(QEvent::MouseMove, QPointF(200, 150),
-                      editor.pic()->mapToGlobal(QPointF(200, 150)), Qt::NoButton, Qt::NoButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(editor.pic(), &hover);
+    const auto shape = [&] {
+        settle();
+        return editor.pic()->cursor().shape();
+    };
+    const auto hover = [&](QPoint at) {
+        QMouseEvent move(QEvent::MouseMove, at, editor.pic()->mapToGlobal(at), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(editor.pic(), &move);
+    };
+    hover({200, 150});
     QCOMPARE(shape(), Qt::SizeFDiagCursor);
     editor.press({200, 150});
-    editor.drag({20, 20}); // far from the handle, which cannot follow
-    settle();
+    // The corner keeps the proportions, and so the pointer comes to the middle of the side.
+    editor.drag({300, 150}, Qt::ShiftModifier);
     QCOMPARE(shape(), Qt::SizeFDiagCursor);
-    editor.release({20, 20});
-    settle();
-    QCOMPARE(shape(), Qt::ArrowCursor);
+    editor.release({300, 150});
+    hover({300, 150});
+    QCOMPARE(shape(), Qt::SizeHorCursor);
 }
 
 void EditingTest::positionFieldsMoveTheElement() {
