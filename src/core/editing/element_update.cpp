@@ -33,8 +33,13 @@ Element updated(const SkinDocument& document, int elementId, const PanelValues& 
 
 } // namespace
 
-bool wouldUpdate(const SkinDocument& document, int elementId, const PanelValues& values) {
-    return elementId > 0 && updated(document, elementId, values) != document.element(elementId);
+bool panelDiffers(const SkinDocument& document, int elementId, const PanelValues& values) {
+    if (elementId <= 0) {
+        return false;
+    }
+    Element after = document.element(elementId);
+    takePanel(values, document.settings().resources, after);
+    return after != document.element(elementId);
 }
 
 bool updateControls(SkinDocument& document, int elementId, const PanelValues& values) {

@@ -26,8 +26,9 @@ void takePanel(const PanelValues& values, const std::vector<Resource>& resources
 /// Does nothing for id 0. Returns whether anything changed; the observer is told only of what did.
 bool updateControls(SkinDocument& document, int elementId, const PanelValues& values);
 
-/// Whether updateControls() would change anything.
-[[nodiscard]] bool wouldUpdate(const SkinDocument& document, int elementId,
-                               const PanelValues& values);
+/// Whether the panel holds something else than the element, so that applying would change it; false
+/// for id 0.
+[[nodiscard]] bool panelDiffers(const SkinDocument& document, int elementId,
+                                const PanelValues& values);
 
 } // namespace tarvel

@@ -2,6 +2,7 @@
 #include "editing/new_element.h"
 
 #include "document/element_kinds.h"
+#include "document/kinds/panel_texts.h"
 #include "editing/element_update.h"
 #include "editing/manipulation.h"
 
@@ -18,7 +19,10 @@ int makeNewElement(SkinDocument& document, ElementKind kind, const PanelValues& 
     Element element;
     element.elementKind = kind;
     element.elementControl.kind = newControl(kind);
-    takePanel(values, document.settings().resources, element);
+    PanelValues chosen = values;
+    // The panel may still show the unknown source of another element, which nobody chose for this.
+    chosen.textIsEntry = values.textIsEntry && isPredefinedText(values.text);
+    takePanel(chosen, document.settings().resources, element);
     const auto [x, y] = wholePoint(press);
     const bool ends = hasEnds(element.elementControl);
     setPlace(element.elementControl, {x, y, ends ? x : 0, ends ? y : 0});

@@ -107,6 +107,7 @@ void ImageFrame::lstR_Click() {
     values_.resource = lstR_->currentIndex();
     previewed_.reset();
     refresh();
+    emit changed();
 }
 
 void ImageFrame::refresh() {

@@ -33,6 +33,8 @@ class ImageFrame : public QGroupBox {
     void stopPreview();
 
   signals:
+    /// The user chose a resource.
+    void changed();
     void addResourceClicked();
 
   private:

@@ -152,7 +152,10 @@ QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,
                                        bool MenuFrame::*value) {
     auto* box = new QCheckBox(qtText(text));
     named(box, QLatin1String(name), box->text());
-    connect(box, &QCheckBox::clicked, this, [this, value](bool on) { values_.*value = on; });
+    connect(box, &QCheckBox::clicked, this, [this, value](bool on) {
+        values_.*value = on;
+        emit changed();
+    });
     checks_.push_back({box, value});
     return box;
 }
@@ -161,8 +164,10 @@ QLineEdit* MenuSettingsFrame::addNumber(const char* name, const QString& spoken,
                                         std::string MenuFrame::*value) {
     auto* edit = named(new FieldEdit, QLatin1String(name), spoken);
     edit->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000")));
-    connect(edit, &QLineEdit::textEdited, this,
-            [this, value](const QString& text) { values_.*value = coreText(text); });
+    connect(edit, &QLineEdit::textEdited, this, [this, value](const QString& text) {
+        values_.*value = coreText(text);
+        emit changed();
+    });
     numbers_.push_back({edit, value});
     return edit;
 }
@@ -198,6 +203,7 @@ QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
     connect(list, &QComboBox::activated, this, [this, choose = group.choose](int position) {
         choose(values_, position);
         std::ranges::for_each(colors_, [this](const Color& color) { showColor(color); });
+        emit changed();
     });
     alignments_.push_back({list, group.position});
     return list;
@@ -222,6 +228,7 @@ void MenuSettingsFrame::ask(const Color& color) {
     if (const auto chosen = askColor(prompts_, *this, values_.*color.value)) {
         values_.*color.value = *chosen;
         showColor(color);
+        emit changed();
     }
 }
 

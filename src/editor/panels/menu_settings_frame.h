@@ -29,6 +29,10 @@ class MenuSettingsFrame : public QGroupBox {
     /// Shows the values.
     void refresh();
 
+  signals:
+    /// The user changed a value.
+    void changed();
+
   private:
     struct Check {
         QCheckBox* box;

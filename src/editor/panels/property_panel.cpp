@@ -42,6 +42,10 @@ PropertyPanel::PropertyPanel(const SkinDocument& document, Prompts& prompts, Pic
     buildRow();
     column->addLayout(row_);
     connect(fraImg_, &ImageFrame::addResourceClicked, this, &PropertyPanel::addResourceClicked);
+    connect(fraShared_, &SharedFrame::changed, this, &PropertyPanel::changed);
+    connect(fraText_, &TextFrame::changed, this, &PropertyPanel::changed);
+    connect(fraImg_, &ImageFrame::changed, this, &PropertyPanel::changed);
+    connect(fraQor_, &MenuSettingsFrame::changed, this, &PropertyPanel::changed);
     showNothing();
 }
 
@@ -107,13 +111,27 @@ void PropertyPanel::takeMenuSettings(const MenuSettings& settings) {
 }
 
 void PropertyPanel::focusFault(std::string_view message) {
-    const char* control = message == message::noResource   ? "lstR"
+    // Without resources there is none to choose, but one to add.
+    const bool anyResource = !document_.settings().resources.empty();
+    const char* control = message == message::noResource   ? (anyResource ? "lstR" : "cmdAddRes")
                           : message == message::noText     ? "txtText"
                           : message == message::badOpacity ? "txtAlpha"
                                                            : "lColor";
     if (auto* found = findChild<QWidget*>(QLatin1String(control))) {
         found->setFocus(Qt::OtherFocusReason);
     }
+}
+
+void PropertyPanel::setDiffers(bool differs) {
+    QFont font = cmdApply_->font();
+    if (font.bold() == differs) {
+        return;
+    }
+    font.setBold(differs);
+    cmdApply_->setFont(font);
+    cmdApply_->setAccessibleDescription(differs ? tr("The panel differs from the element")
+                                                : QString());
+    cmdApply_->setToolTip(cmdApply_->accessibleDescription());
 }
 
 void PropertyPanel::stopPreview() {

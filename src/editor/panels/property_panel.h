@@ -45,6 +45,8 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     void takeMenuSettings(const MenuSettings& settings);
     /// Gives the focus to the control that a message is about, one of document/kinds/panel_texts.h.
     void focusFault(std::string_view message);
+    /// Whether applying would change the element that is shown; the button tells it.
+    void setDiffers(bool differs);
     /// Stops the video of the preview until a resource is chosen or the frame is shown anew.
     void stopPreview();
 
@@ -52,6 +54,8 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     void addBeside(QWidget* control);
 
   signals:
+    /// The user changed a value.
+    void changed();
     void applyClicked();
     void addResourceClicked();
 

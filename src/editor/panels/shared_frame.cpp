@@ -66,12 +66,14 @@ SharedFrame::SharedFrame(PanelValues& values, Prompts& prompts, QWidget* parent)
     connect(border_.clear, &QPushButton::clicked, this, [this] {
         clearBorder(values_);
         refresh();
+        emit changed();
     });
     connect(fill_.well, &ColorWell::clicked, this, [this] { ask(values_.fill); });
     connect(fill_.value, &ClickLabel::clicked, this, [this] { ask(values_.fill); });
     connect(fill_.clear, &QPushButton::clicked, this, [this] {
         clearFill(values_);
         refresh();
+        emit changed();
     });
     refresh();
 }
@@ -108,8 +110,10 @@ QBoxLayout* SharedFrame::alphaRow() {
     txtAlpha_ = named(new FieldEdit, QStringLiteral("txtAlpha"), tr("Opacity %"));
     lblAlpha_->setBuddy(txtAlpha_);
     txtAlpha_->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000000")));
-    connect(txtAlpha_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { values_.opacity = coreText(text); });
+    connect(txtAlpha_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        values_.opacity = coreText(text);
+        emit changed();
+    });
     line->addWidget(lblAlpha_);
     line->addWidget(txtAlpha_);
     line->addStretch();
@@ -148,6 +152,7 @@ void SharedFrame::ask(Swatch& swatch) {
     if (const auto color = askColor(prompts_, *this, swatch.color)) {
         chooseColor(swatch, *color);
         refresh();
+        emit changed();
     }
 }
 

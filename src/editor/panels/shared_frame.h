@@ -29,6 +29,10 @@ class SharedFrame : public QGroupBox {
     /// Shows the controls of a kind, with its captions, and the values.
     void refresh(const PanelLayout& layout);
 
+  signals:
+    /// The user changed a value.
+    void changed();
+
   private:
     // A colour: its caption, its box, its value in words, and the button that clears it.
     struct Row {

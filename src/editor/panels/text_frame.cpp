@@ -68,6 +68,7 @@ void TextFrame::buildText() {
     connect(txtText_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
         values_.text = coreText(text);
         values_.textIsEntry = false;
+        emit changed();
     });
     connect(txtText_, &QComboBox::activated, this, [this](int index) {
         if (static_cast<std::size_t>(index) >= predefinedTexts.size()) {
@@ -75,6 +76,7 @@ void TextFrame::buildText() {
         }
         values_.text = predefinedTexts.at(static_cast<std::size_t>(index));
         values_.textIsEntry = true;
+        emit changed();
     });
 }
 
@@ -82,6 +84,7 @@ void TextFrame::cmdFont_Click() {
     if (const auto chosen = prompts_.font(window(), fontOf(values_.font))) {
         values_.font = choiceOf(*chosen);
         showFont();
+        emit changed();
     }
 }
 

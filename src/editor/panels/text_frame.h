@@ -24,6 +24,10 @@ class TextFrame : public QGroupBox {
     /// Shows the values.
     void refresh();
 
+  signals:
+    /// The user changed a value.
+    void changed();
+
   private:
     void buildText();
     void cmdFont_Click();

@@ -186,6 +186,7 @@ void FrmMain::connectPanels() {
     connect(fraLayout_, &LayoutPanel::screenClicked, this, &FrmMain::optScreen_Click);
     connect(fraElements_, &ElementsPanel::menuWanted, this, &FrmMain::popupMenu);
     connect(fraPos_, &PositionPanel::entered, this, &FrmMain::enterPosition);
+    connect(properties_, &PropertyPanel::changed, this, [this] { views_->showDifference(); });
     connect(properties_, &PropertyPanel::applyClicked, this, &FrmMain::applyChanges);
     connect(properties_, &PropertyPanel::addResourceClicked, this,
             [this] { dialogs_->mnuResource_Click(); });

@@ -3,6 +3,7 @@
 
 #include "document/element_kinds.h"
 #include "document/layout_screens.h"
+#include "editing/element_update.h"
 #include "editing/element_words.h"
 #include "panels/behaviour_buttons.h"
 #include "panels/create_panel.h"
@@ -24,6 +25,7 @@ void SelectionViews::documentChanged(const DocumentChange& change) {
     if (change.what == DocumentChange::What::element && change.elementId == selection_.curNum()) {
         setCurrentSel();
         setBolds();
+        showDifference();
     }
 }
 
@@ -40,6 +42,12 @@ void SelectionViews::showSelection() {
     } else if (!views_.tools.tool()) {
         views_.properties.showNothing();
     }
+    showDifference();
+}
+
+void SelectionViews::showDifference() {
+    views_.properties.setDiffers(
+        panelDiffers(document_, selection_.curNum(), views_.properties.values()));
 }
 
 void SelectionViews::setCurrentSel() {

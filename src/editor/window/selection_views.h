@@ -31,6 +31,8 @@ class SelectionViews : private DocumentObserver, private SelectionObserver {
     void hideMarks();
     /// Marks and position fields.
     void setCurrentSel();
+    /// Whether the property panel differs from the selected element.
+    void showDifference();
     /// Marks the behaviours that the selected element carries.
     void setBolds();
 

@@ -1,5 +1,6 @@
 // What happens when one thing begins before another is over: drawing under the cover, loading while
 // drawing, closing with an open panel.
+#include "document/kinds/menu_frame.h"
 #include "support/behaviour_editor.h"
 #include "support/ui_test.h"
 
@@ -38,9 +39,8 @@ void giveForeignModifier(SkinDocument& document, int id) {
     XmlTree tree;
     const auto node = tree.addChild(XmlTree::top, "Modifier");
     tree.addAttribute(node, "Type", "NotInTheCatalogue");
-    document.editElement(id, [&](Element& element) {
-        element.elementModifiers = SharedValue(std::move(tree));
-    });
+    document.editElement(
+        id, [&](Element& element) { element.elementModifiers = SharedValue(std::move(tree)); });
 }
 
 } // namespace
@@ -113,7 +113,11 @@ void InterruptedWorkTest::menusAfterLoadingHaveTheLoadedSettings() {
     QCOMPARE(editor.document().lastElementId(), 2);
     editor.chooseTool("optQor");
     editor.pressDragRelease({50, 50}, {300, 300});
-    QVERIFY(editor.document().element(3).menuSettings == editor.document().element(2).menuSettings);
+    MenuFrame loaded;
+    MenuFrame drawn;
+    showMenuSettings(*editor.document().element(2).menuSettings, loaded);
+    showMenuSettings(*editor.document().element(3).menuSettings, drawn);
+    QVERIFY(drawn == loaded);
     QCOMPARE(int{editor.document().element(3).menuSettings->itemsShown}, 9);
 }
 
@@ -137,9 +141,15 @@ void InterruptedWorkTest::messagesLeadToTheFieldAtFault_data() {
     QTest::addColumn<QString>("tool");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("field");
-    QTest::newRow("text") << "optText" << "Enter some text" << "txtText";
-    QTest::newRow("image") << "optImg" << "Select a resource" << "cmdAddRes";
-    QTest::newRow("box") << "optBox" << "Select an opacity from 1-100" << "txtAlpha";
+    QTest::newRow("text") << "optText"
+                          << "Enter some text"
+                          << "txtText";
+    QTest::newRow("image") << "optImg"
+                           << "Select a resource"
+                           << "cmdAddRes";
+    QTest::newRow("box") << "optBox"
+                         << "Select an opacity from 1-100"
+                         << "txtAlpha";
 }
 
 void InterruptedWorkTest::messagesLeadToTheFieldAtFault() {

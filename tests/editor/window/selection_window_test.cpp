@@ -45,6 +45,7 @@ class SelectionWindowTest : public QObject {
     void surfaceHasTheFocusAtTheStart();
     void surfaceHasTheFocusAfterADelete();
     void behaviourButtonsNeedAnElement();
+    void applyShowsThatThePanelDiffers();
     void statusLineTellsTheLastChange();
     void tabComesToTheCheckedScreen();
     void surfaceTellsWhatIsSelected();
@@ -136,7 +137,8 @@ void SelectionWindowTest::frameLeavesTheBorderToBeSeen() {
     editor.click({140, 130});
     QVERIFY(editor.find<QWidget>("fraSel")->isVisible());
     const QImage seen = editor.pic()->grab().toImage();
-    for (const QPoint edge : {QPoint(120, 100), QPoint(120, 160), QPoint(100, 115), QPoint(180, 115)}) {
+    for (const QPoint edge :
+         {QPoint(120, 100), QPoint(120, 160), QPoint(100, 115), QPoint(180, 115)}) {
         QCOMPARE(seen.pixelColor(edge), QColor(250, 5, 5));
     }
     for (const QPoint outside : {QPoint(99, 99), QPoint(181, 161)}) {
@@ -175,6 +177,33 @@ void SelectionWindowTest::behaviourButtonsNeedAnElement() {
     QVERIFY(editor.button(0).isEnabled());
     editor.key(Qt::Key_Delete);
     QVERIFY(!editor.button(0).isEnabled());
+}
+
+void SelectionWindowTest::applyShowsThatThePanelDiffers() {
+    Editor editor;
+    addThree(editor);
+    auto* cmdApply = editor.find<QPushButton>("cmdApply");
+    const auto differs = [&] {
+        return cmdApply->font().bold() && !cmdApply->accessibleDescription().isEmpty();
+    };
+    clickRow(editor, 1);
+    QVERIFY(!differs());
+    auto* txtAlpha = editor.find<QLineEdit>("txtAlpha");
+    typeOver(*txtAlpha, "77");
+    QVERIFY(differs());
+    typeOver(*txtAlpha, "20");
+    QVERIFY(!differs());
+    editor.prompts.colors << QColor(1, 2, 3);
+    click(*editor.find<QWidget>("fColor"));
+    QVERIFY(differs());
+    click(*cmdApply);
+    QVERIFY(!differs());
+    typeOver(*txtAlpha, "78");
+    clickRow(editor, 2); // another element is shown
+    QVERIFY(!differs());
+    typeOver(*txtAlpha, "78");
+    editor.click({600, 400});
+    QVERIFY(!differs());
 }
 
 void SelectionWindowTest::statusLineTellsTheLastChange() {

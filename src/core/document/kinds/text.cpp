@@ -104,9 +104,7 @@ void show(const Element& element, const std::vector<Resource>& /*resources*/, Pa
 
 void take(const PanelValues& values, const std::vector<Resource>& /*resources*/, Element& element) {
     ElementControl& control = element.elementControl;
-    // A source that is no entry stays one only where nothing else was typed over it.
-    const bool keepsSource = !element.textIsConstant && control.caption == values.text;
-    element.textIsConstant = !values.textIsEntry || !(keepsSource || isPredefinedText(values.text));
+    element.textIsConstant = !values.textIsEntry;
     control.caption = values.text;
     control.textColor = values.fill.color;
     if (control.font.get() != values.font) { // elements without a choice of font share the default
