@@ -201,8 +201,8 @@ QWidget* ModifierPanel::makeColorPage() {
 void ModifierPanel::fill(const Element& element) {
     carried_ = modifierTypes(element.elementModifiers.get());
     try {
-        editor_.open(ModifierCatalogue::read(catalogueFile(programFolder_)),
-                     element.elementKind, element.elementModifiers.get());
+        editor_.open(ModifierCatalogue::read(catalogueFile(programFolder_)), element.elementKind,
+                     element.elementModifiers.get());
     } catch (const std::exception& error) {
         prompts_.message(window(), QString::fromUtf8(error.what()));
     }

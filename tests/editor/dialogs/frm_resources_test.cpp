@@ -46,14 +46,6 @@ class FrmResourcesTest : public QObject, protected test::ResourcesFixture {
     void takenNameIsRefused();
     void nothingIsAddedWithoutNameAndFile_data();
     void nothingIsAddedWithoutNameAndFile();
-    void returnNeverClosesOverAFileAndName_data();
-    void returnNeverClosesOverAFileAndName();
-    void returnAddsWhenTheNameIsTypedLast();
-    void returnLeadsToWhatIsMissing();
-    void returnShowsTheFileBehindThePresets();
-    void returnInThePresetFrameAdds_data();
-    void returnInThePresetFrameAdds();
-    void returnWithoutAPresetLeadsToTheList();
     void rowsThatAreNoMoreShowNothing();
     void clickOnAPresetDescribesIt_data();
     void clickOnAPresetDescribesIt();
@@ -72,17 +64,6 @@ class FrmResourcesTest : public QObject, protected test::ResourcesFixture {
     void controlsHaveAccessibleNames();
 
   private:
-    void browseTo(const char* name) {
-        prompts_->fileChoices = {{picture(name, Qt::red)}};
-        click(at<QWidget>("cmdBrowse"));
-        QCOMPARE(at<QLabel>("lblFile").text(), inFolder(name));
-    }
-    void pressReturnIn(const QString& name) {
-        auto& widget = control<QWidget>(*dialog_, name);
-        widget.setFocus();
-        QVERIFY(widget.hasFocus());
-        QTest::keyClick(&widget, Qt::Key_Return);
-    }
     void choosePresets() {
         click(at<QWidget>("optPreset"));
         QVERIFY(at<QGroupBox>("fraPreset").isVisible());
@@ -323,112 +304,6 @@ void FrmResourcesTest::nothingIsAddedWithoutNameAndFile() {
     QCOMPARE(at<QLineEdit>("txtRes").text(), name ? "a name" : "");
     QCOMPARE(at<QLabel>("lblFile").text().isEmpty(), !file);
     QVERIFY(at<QPushButton>("cmdOK").isDefault());
-}
-
-void FrmResourcesTest::returnNeverClosesOverAFileAndName_data() {
-    QTest::addColumn<QString>("focus");
-    for (const char* focus : {"txtRes", "lstRes", "optCustom", "cmdAdd", "cmdOK"}) {
-        QTest::newRow(focus) << focus;
-    }
-}
-
-void FrmResourcesTest::returnNeverClosesOverAFileAndName() {
-    QFETCH(QString, focus);
-    document_.addRes("old", "\\old.png");
-    open();
-    browseTo("new.png");
-    pressReturnIn(focus);
-    QVERIFY(dialog_->isVisible());
-    QCOMPARE(resources().size(), 2U);
-    QCOMPARE(resources()[1], (Resource{"new", folder_.document("new.png"), true, false}));
-    pressReturnIn("cmdOK");
-    QVERIFY(!dialog_->isVisible());
-    QCOMPARE(resources().size(), 2U);
-}
-
-void FrmResourcesTest::returnAddsWhenTheNameIsTypedLast() {
-    open();
-    browseTo("a.png");
-    typeOver(at<QLineEdit>("txtRes"), "");
-    click(at<QWidget>("cmdAdd")); // adds nothing
-    QVERIFY(at<QPushButton>("cmdOK").isDefault());
-    typeOver(at<QLineEdit>("txtRes"), "mine");
-    QVERIFY(at<QPushButton>("cmdAdd").isDefault());
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
-    QVERIFY(dialog_->isVisible());
-    QCOMPARE(resources().size(), 1U);
-    QCOMPARE(resources().front().name, "mine");
-    QVERIFY(at<QPushButton>("cmdOK").isDefault());
-}
-
-void FrmResourcesTest::returnLeadsToWhatIsMissing() {
-    open();
-    browseTo("a.png");
-    typeOver(at<QLineEdit>("txtRes"), "");
-    for (const char* focus : {"lstRes", "cmdOK", "txtRes"}) {
-        pressReturnIn(focus);
-        QVERIFY(dialog_->isVisible());
-        QVERIFY(at<QLineEdit>("txtRes").hasFocus());
-        QCOMPARE(at<QLabel>("lblFile").text(), inFolder("a.png"));
-    }
-    dialog_->close();
-    open();
-    typeOver(at<QLineEdit>("txtRes"), "only a name");
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Enter);
-    QVERIFY(dialog_->isVisible());
-    QVERIFY(at<QWidget>("cmdBrowse").hasFocus());
-    QCOMPARE(at<QLineEdit>("txtRes").text(), "only a name");
-    QCOMPARE(document_, SkinDocument());
-    click(at<QWidget>("cmdOK")); // the mouse closes all the same
-    QVERIFY(!dialog_->isVisible());
-}
-
-void FrmResourcesTest::returnShowsTheFileBehindThePresets() {
-    open();
-    browseTo("a.png");
-    choosePresets();
-    pressReturnIn("lstRes");
-    QVERIFY(dialog_->isVisible());
-    QVERIFY(at<QWidget>("fraCustom").isVisible());
-    QCOMPARE(at<QLabel>("lblFile").text(), inFolder("a.png"));
-    QVERIFY(resources().empty());
-    pressReturnIn("lstRes");
-    QCOMPARE(resources().size(), 1U);
-}
-
-void FrmResourcesTest::returnInThePresetFrameAdds_data() {
-    QTest::addColumn<QString>("focus");
-    for (const char* focus : {"lstResDef", "txtResDef", "optPreset2", "cmdAddDef", "cmdOK"}) {
-        QTest::newRow(focus) << focus;
-    }
-}
-
-void FrmResourcesTest::returnInThePresetFrameAdds() {
-    QFETCH(QString, focus);
-    open();
-    choosePresets();
-    clickRow(at<QListWidget>("lstResDef"), 4);
-    QVERIFY(at<QPushButton>("cmdAddDef").isDefault());
-    pressReturnIn(focus);
-    QVERIFY(dialog_->isVisible());
-    QCOMPARE(resources(),
-             (std::vector<Resource>{{"ICO_DVD", "<File>::ICO_DVD</File>", false, false}}));
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
-    QVERIFY(!dialog_->isVisible());
-}
-
-void FrmResourcesTest::returnWithoutAPresetLeadsToTheList() {
-    open();
-    choosePresets();
-    typeOver(at<QLineEdit>("txtResDef"), "mine");
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return);
-    QVERIFY(dialog_->isVisible());
-    QVERIFY(at<QListWidget>("lstResDef").hasFocus());
-    QVERIFY(at<QListWidget>("lstResDef").selectedItems().isEmpty());
-    QCOMPARE(at<QLineEdit>("txtResDef").text(), "mine");
-    typeOver(at<QLineEdit>("txtResDef"), "");
-    QTest::keyClick(dialog_->focusWidget(), Qt::Key_Return); // over nothing
-    QVERIFY(!dialog_->isVisible());
 }
 
 void FrmResourcesTest::rowsThatAreNoMoreShowNothing() {
