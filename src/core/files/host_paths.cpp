@@ -306,8 +306,8 @@ const FileFinder::Entries& FileFinder::entriesOf(Folder& folder) {
     }
     const auto [known, isNew] = entries_.try_emplace({status.st_dev, status.st_ino});
     if (isNew) {
-        eachEntry(open, [&](std::string_view name) {
-            known->second.try_emplace(lowerCased(name), name);
+        eachEntry(open, [&names = known->second](std::string_view name) {
+            names.try_emplace(lowerCased(name), name);
             return false;
         });
     }
