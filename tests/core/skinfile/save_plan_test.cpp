@@ -30,7 +30,7 @@ class SavePlanTest : public testing::Test {
     }
     void addMusic(const std::string& file) {
         document_.editSettings([&](SkinSettings& settings) {
-            settings.music.lstMusic.push_back(static_cast<int>(settings.music.musicFiles.size()));
+            settings.music.rows.push_back(static_cast<int>(settings.music.musicFiles.size()));
             settings.music.musicFiles.push_back(folder_.document(file));
         });
     }
