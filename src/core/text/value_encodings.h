@@ -35,7 +35,8 @@ using ColorNumber = std::uint32_t;
 [[nodiscard]] bool reverseOnOff(std::string_view text);
 
 /// Hexadecimal text to number. Characters that are no hexadecimal digit count as a zero in their
-/// place, whatever number of bytes they take. Throws std::overflow_error when a running total leaves the 32-bit signed range.
+/// place, whatever number of bytes they take. Throws std::overflow_error when a running total
+/// leaves the 32-bit signed range.
 [[nodiscard]] std::int32_t hextodec(std::string_view text);
 
 /// Opacity in percent to two (over 100 %: more) upper-case hexadecimal digits; negative gives "00".

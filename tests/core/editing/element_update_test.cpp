@@ -341,5 +341,23 @@ TEST(UpdateControls, LeavesOtherKindsAsTheyAreShown) {
     }
 }
 
+TEST(PanelDiffers, TellsWhetherApplyingWouldChangeTheElement) {
+    SkinDocument document;
+    Element box = boxAt({1, 2, 3, 4});
+    box.elementAlpha = 33;
+    box.label = "a text of its own";
+    const int id = add(document, box);
+    PanelValues values;
+    showEditControls(document.element(id), document.settings().resources, values);
+    EXPECT_FALSE(panelDiffers(document, id, values));
+    EXPECT_FALSE(panelDiffers(document, 0, values));
+    values.opacity = "34";
+    EXPECT_TRUE(panelDiffers(document, id, values));
+    values.opacity = "33 percent";
+    EXPECT_FALSE(panelDiffers(document, id, values));
+    values.fill = {FillStyle::solid, green};
+    EXPECT_TRUE(panelDiffers(document, id, values));
+}
+
 } // namespace
 } // namespace tarvel

@@ -1,0 +1,69 @@
+// What becomes of exceptions that leave the handling of an event.
+#include "document/open_edit.h"
+#include "support/editor.h"
+#include "support/ui_test.h"
+#include "window/application.h"
+
+#include <stdexcept>
+
+using namespace tarvel;
+using namespace tarvel::test;
+
+class ApplicationTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init();
+    void cleanup();
+    void tellsOfAnExceptionAndLivesOn();
+    void tellsOfWhatIsNoException();
+    void whatWasBegunIsTakenOverByTheNextEdit();
+
+  private:
+    static Application& application() { return *qobject_cast<Application*>(qApp); }
+    QStringList told_;
+};
+
+void ApplicationTest::init() {
+    told_.clear();
+    application().tellFailures([this](const QString& words) { told_ << words; });
+}
+
+void ApplicationTest::cleanup() {
+    application().tellFailures({});
+}
+
+void ApplicationTest::tellsOfAnExceptionAndLivesOn() {
+    Editor editor;
+    editor.show();
+    connect(editor.entry("mnuCover"), &QAction::toggled, this,
+            [] { throw std::runtime_error("no such row"); });
+    QAction* entry = editor.entry("mnuCover");
+    QMetaObject::invokeMethod(entry, &QAction::toggle, Qt::QueuedConnection);
+    QTRY_COMPARE(told_.size(), 1);
+    QVERIFY(told_.front().contains("no such row"));
+    editor.add(boxAt(10, 10, 50, 50)); // everything still works
+    editor.click({30, 30});
+    QCOMPARE(editor.window.curNum(), 1);
+}
+
+void ApplicationTest::tellsOfWhatIsNoException() {
+    QTimer::singleShot(0, this, [] { throw 5; });
+    QTRY_COMPARE(told_.size(), 1);
+}
+
+// Commands are edits by scope: one that fails half way leaves none open.
+void ApplicationTest::whatWasBegunIsTakenOverByTheNextEdit() {
+    Editor editor;
+    editor.show();
+    QTimer::singleShot(0, this, [&] {
+        const OpenEdit edit(editor.document(), "fail");
+        throw std::runtime_error("half way");
+    });
+    QTRY_COMPARE(told_.size(), 1);
+    QVERIFY(!editor.document().isEditOpen());
+}
+
+TARVEL_UI_TEST(ApplicationTest)
+
+#include "application_test.moc"
