@@ -5,8 +5,8 @@
 #include "text/line_writer.h"
 
 #include <filesystem>
-#include <optional>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
