@@ -1,4 +1,4 @@
-// render: one screen to a PNG file, by the painting code of the editor's surface.
+// Paints one screen to a PNG file for `render`, by the painting code of the editor's surface.
 #include "document/layout_screens.h"
 #include "files/host_files.h"
 #include "skinfile/skin_reader.h"

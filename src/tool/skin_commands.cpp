@@ -1,4 +1,4 @@
-// resave, check, and the choice of a command.
+// Chooses the command by its name, and carries out `resave` and `check`.
 #include "tool/skin_commands.h"
 
 #include "files/host_files.h"

@@ -1,4 +1,4 @@
-// Starting, killing and awaiting children.
+// Starts, kills and awaits child processes.
 #include "faults/child.h"
 
 #include <array>

@@ -1,4 +1,4 @@
-// The skins and the comparison.
+// Makes the skins of disturbed saves, and compares what is left with them.
 #include "faults/saves.h"
 
 #include "files/host_files.h"

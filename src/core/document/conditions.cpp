@@ -1,4 +1,4 @@
-// Look-up of conditions.
+// Finds a condition of the dashboard, and tells its meaning.
 #include "document/conditions.h"
 
 #include "text/text_case.h"

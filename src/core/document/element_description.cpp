@@ -1,4 +1,4 @@
-// Walks over the children and the attributes of a description.
+// Walks once over the children and the attributes of a description.
 #include "document/element_description.h"
 
 #include "text/tag_scanner.h"

@@ -1,4 +1,4 @@
-// Look-ups by name.
+// Finds a kind by the type in the file, and names the controls that draw the kinds.
 #include "document/element_kinds.h"
 
 #include "text/text_case.h"

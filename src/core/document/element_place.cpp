@@ -1,4 +1,4 @@
-// Reading and writing the place of an element.
+// Reads and sets the four numbers of an element's place, by the kind of its control.
 #include "document/element_place.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// From sources to resources, from resources to controls.
+// Finds the resource that a source names, and makes a control show it.
 #include "document/image_source.h"
 
 #include "text/list_index.h"

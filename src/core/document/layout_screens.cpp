@@ -1,4 +1,4 @@
-// Screen look-up and markers.
+// Finds screens by their names, and tells which screens and behaviours get a mark.
 #include "document/layout_screens.h"
 
 #include "text/text_case.h"

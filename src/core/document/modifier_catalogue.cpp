@@ -1,4 +1,4 @@
-// Look-ups in "modifiers.xml".
+// Reads "modifiers.xml" and answers which types, targets and panels it has for a kind of element.
 #include "document/modifier_catalogue.h"
 
 #include "files/host_files.h"

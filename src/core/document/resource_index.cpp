@@ -1,4 +1,4 @@
-// Resources by their lower-cased names.
+// Keeps resources by their lower-cased names, for look-ups that do not walk the list.
 #include "document/resource_index.h"
 
 #include "text/text_case.h"

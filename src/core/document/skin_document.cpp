@@ -1,4 +1,4 @@
-// The document's tables and lists.
+// Keeps the document's tables and lists, and tells those who watch it of every change.
 #include "document/skin_document.h"
 
 #include "document/resource_index.h"

@@ -1,4 +1,4 @@
-// Rules of the timer boxes.
+// Filters what is typed into the timer boxes, and turns their texts into timers and back.
 #include "document/timers.h"
 
 #include "text/value_encodings.h"

@@ -1,4 +1,4 @@
-// Limits of the colour values.
+// Holds the values of a Color modifier within their limits, however they are dragged.
 #include "editing/color_channels.h"
 
 #include <algorithm>

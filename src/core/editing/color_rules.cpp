@@ -1,4 +1,4 @@
-// System colours by use and index, and the check of their opacities.
+// Reads and sets system colours by use and index, and finds opacities that are not proper.
 #include "editing/color_rules.h"
 
 namespace tarvel {

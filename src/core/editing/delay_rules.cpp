@@ -1,4 +1,4 @@
-// Reading and showing delays.
+// Shows a delay as text, and sets it from a text.
 #include "editing/delay_rules.h"
 
 namespace tarvel {

@@ -1,4 +1,4 @@
-// Applying the panel.
+// Applies what the property panel holds to an element, and renews the text of its row.
 #include "editing/element_update.h"
 
 #include "document/element_kinds.h"

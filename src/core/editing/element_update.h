@@ -1,4 +1,4 @@
-// Panel to element.
+// Changes an element to what the property panel holds, as Apply does.
 #pragma once
 
 #include "document/skin_document.h"

@@ -1,4 +1,4 @@
-// Hits on elements and handles. Sums of coordinates are formed in doubles, where they are exact.
+// Finds elements and handles under a point, by sums in doubles, where they are exact.
 #include "editing/hit_test.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// Names of information fields.
+// Makes names of information fields that a tag can hold, and adds the fields.
 #include "editing/information_rules.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Drags, keys and default places. Sums are formed in doubles and stored as singles.
+// Works out drags, keys and default places, in doubles that are stored as singles.
 #include "editing/manipulation.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// Showing and storing an element's first modifier.
+// Shows an element's first modifier, and stores what the modifier panel shows.
 #include "editing/modifier_editor.h"
 
 #include "text/tag_scanner.h"

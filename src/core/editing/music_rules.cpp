@@ -1,4 +1,4 @@
-// Adding and removing of music.
+// Adds music files and takes rows away, and knows music by the ends of names.
 #include "editing/music_rules.h"
 
 #include "text/text_case.h"

@@ -1,4 +1,4 @@
-// A new element: template, panel, place, label, row.
+// Makes a new element of a template, the panel and a place, and gives it a label and a row.
 #include "editing/new_element.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// The check of the tool's kind.
+// Asks the tool's kind whether the panel's values can make an element of it.
 #include "editing/panel_check.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// Element to panel.
+// Fills the panel's values from an element, and tells which controls its kind has.
 #include "editing/panel_values.h"
 
 #include "document/element_kinds.h"

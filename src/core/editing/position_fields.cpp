@@ -1,4 +1,4 @@
-// Position texts, and reading them back.
+// Shows the place of an element as texts, and moves it by what is typed into them.
 #include "editing/position_fields.h"
 
 #include "document/element_kinds.h"

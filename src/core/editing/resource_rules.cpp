@@ -1,4 +1,4 @@
-// Names and fragments of resources.
+// Decides about names of resources, and makes the fragments of the dashboard's own.
 #include "editing/resource_rules.h"
 
 #include "document/image_source.h"

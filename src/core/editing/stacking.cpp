@@ -1,4 +1,4 @@
-// Moving, deleting and locking rows.
+// Moves, deletes and locks rows of the current screen, and keeps the counts with them.
 #include "editing/stacking.h"
 
 #include <string>

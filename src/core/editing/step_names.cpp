@@ -1,4 +1,4 @@
-// Step names.
+// Puts a step's name together from what is done and the kind of element.
 #include "editing/step_names.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// A lock on the folder itself.
+// Holds a folder by a lock on the folder itself, which leaves no file behind.
 #include "files/folder_hold.h"
 
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-// System calls on one open file.
+// Makes the calls of the system on one open file, and tells of those that fail.
 #include "files/open_file.h"
 
 #include "files/host_files.h"

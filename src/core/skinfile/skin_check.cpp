@@ -1,4 +1,4 @@
-// The findings of a check, kind by kind.
+// Collects what is worth knowing about a skin, from its bytes to what a save would change.
 #include "skinfile/skin_check.h"
 
 #include "document/element_kinds.h"

@@ -1,4 +1,4 @@
-// The steps of a save, in order.
+// Takes the steps of a save in their order: the text, the folders, and the copies of all media.
 #include "skinfile/skin_folder.h"
 
 #include "document/layout_screens.h"

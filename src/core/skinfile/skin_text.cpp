@@ -1,4 +1,4 @@
-// Three ways to read a skin's text.
+// Reads a skin's text by the writer's forms, as XML, or as XML whose broken lines are mended.
 #include "skinfile/skin_text.h"
 
 #include "skinfile/writer_lines.h"

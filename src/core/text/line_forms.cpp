@@ -1,4 +1,4 @@
-// The table of line forms, and matching against it.
+// Keeps a table of line forms, and matches lines against it.
 #include "text/line_forms.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Lines and their indentation.
+// Appends lines with the indentation of the moment, and keeps count of it.
 #include "text/line_writer.h"
 
 #include <algorithm>

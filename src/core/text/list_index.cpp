@@ -1,4 +1,4 @@
-// List look-up.
+// Finds a text among choices without regard to letter case.
 #include "text/list_index.h"
 
 #include "text/text_case.h"

@@ -1,4 +1,4 @@
-// Linear scans over one level of a tree.
+// Looks for tags and attributes along one level of a tree.
 #include "text/tag_scanner.h"
 
 namespace tarvel {

@@ -1,4 +1,4 @@
-// Value forms of the skin file.
+// Writes and reads the forms that single values have in a skin file.
 #include "text/value_encodings.h"
 
 #include "text/number_format.h"

@@ -1,4 +1,4 @@
-// Sample message box and sample menu.
+// Paints the sample message box and the sample menu in the chosen colours.
 #include "dialogs/color_samples.h"
 
 #include "editing/color_rules.h"

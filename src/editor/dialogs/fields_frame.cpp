@@ -1,4 +1,4 @@
-// Fields and values.
+// Shows the value of the chosen field in the box, and tells what is typed into it.
 #include "dialogs/fields_frame.h"
 
 #include "widgets/control_names.h"

@@ -1,4 +1,4 @@
-// System colours.
+// Lets system colours and their opacities be chosen, and shows them in the samples.
 #include "dialogs/frm_colors.h"
 
 #include "dialogs/color_samples.h"

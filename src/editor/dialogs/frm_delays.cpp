@@ -1,4 +1,4 @@
-// Delays.
+// Lets the delays of the three screens be typed.
 #include "dialogs/frm_delays.h"
 
 #include "dialogs/fields_frame.h"

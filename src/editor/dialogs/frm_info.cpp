@@ -1,4 +1,4 @@
-// Name and information.
+// Lets the skin's name and the information fields be typed, and fields be added.
 #include "dialogs/frm_info.h"
 
 #include "dialogs/fields_frame.h"

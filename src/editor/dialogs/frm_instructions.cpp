@@ -1,4 +1,4 @@
-// The Instructions dialog.
+// Shows the text of the instructions and the button that closes them.
 #include "dialogs/frm_instructions.h"
 
 #include "widgets/control_names.h"

@@ -1,4 +1,4 @@
-// Music: the controls and the file list. What goes where is in frm_music_layout.cpp.
+// Handles the music dialog's controls and file list; frm_music_layout.cpp places them.
 #include "dialogs/frm_music.h"
 
 #include "dialogs/music_list.h"

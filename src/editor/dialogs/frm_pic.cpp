@@ -1,4 +1,4 @@
-// The picture window.
+// Shows one PNG picture in a window that paints it again when it is clicked.
 #include "dialogs/frm_pic.h"
 
 #include "widgets/png_view.h"

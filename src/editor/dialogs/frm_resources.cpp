@@ -1,4 +1,4 @@
-// Resources.
+// Composes the resources dialog: the two ways to add, the list, and the preview.
 #include "dialogs/frm_resources.h"
 
 #include "dialogs/resource_frames.h"

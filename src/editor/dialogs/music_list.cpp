@@ -1,4 +1,4 @@
-// Keys, clicks and drops on the music list.
+// Turns keys, clicks and drops on the music list into what the user wants.
 #include "dialogs/music_list.h"
 
 #include "editing/music_rules.h"

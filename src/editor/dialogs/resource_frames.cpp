@@ -1,4 +1,4 @@
-// Adding of files and presets.
+// Adds files and presets to the skin's resources, by what is filled in.
 #include "dialogs/resource_frames.h"
 
 #include "editing/resource_rules.h"

@@ -1,4 +1,4 @@
-// Slices of thumbnails.
+// Makes thumbnails a few at a time, those of the rows in sight first.
 #include "dialogs/resource_thumbnails.h"
 
 #include "panels/resource_looks.h"

@@ -1,4 +1,4 @@
-// Opening and closing of the settings dialogs.
+// Brings a settings dialog into line with the document when it opens, and makes its OK button.
 #include "dialogs/skin_dialog.h"
 
 #include "widgets/control_names.h"

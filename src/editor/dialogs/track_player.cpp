@@ -1,4 +1,4 @@
-// A player on the system's first audio device.
+// Plays music on the system's audio device, where there is one.
 #include "dialogs/track_player.h"
 
 #include <QAudioDevice>

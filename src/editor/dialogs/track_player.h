@@ -1,4 +1,4 @@
-// Listening to music files.
+// Plays a music file, so that the user can listen to it before it is in a skin.
 #pragma once
 
 #include <QObject>

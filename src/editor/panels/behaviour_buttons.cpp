@@ -1,4 +1,4 @@
-// Behaviour buttons and their marks.
+// Makes the three behaviour buttons, and marks what the element carries.
 #include "panels/behaviour_buttons.h"
 
 #include "widgets/control_names.h"

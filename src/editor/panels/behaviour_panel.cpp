@@ -1,4 +1,4 @@
-// The frame of a behaviour panel.
+// Builds the heading, the rows and the OK button that the behaviour panels share.
 #include "panels/behaviour_panel.h"
 
 #include "document/open_edit.h"

@@ -1,4 +1,4 @@
-// A row for each channel: check box, name, and three values with their names.
+// Builds a row for each channel: check box, name, and three values with their names.
 #include "panels/color_frame.h"
 
 #include "panels/color_name_label.h"

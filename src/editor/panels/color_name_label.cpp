@@ -1,4 +1,4 @@
-// Drag and drop of colour names.
+// Paints colour names, and copies values where a name is dropped.
 #include "panels/color_name_label.h"
 
 #include "editing/color_channels.h"

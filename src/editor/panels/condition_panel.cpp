@@ -1,4 +1,4 @@
-// The condition list.
+// Lists the conditions, and stores the chosen one in the element.
 #include "panels/condition_panel.h"
 
 #include "document/conditions.h"

@@ -1,4 +1,4 @@
-// Tool buttons.
+// Makes one button for each tool, and tells which one is chosen or let go.
 #include "panels/create_panel.h"
 
 #include "surface/element_looks.h"

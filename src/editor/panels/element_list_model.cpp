@@ -1,4 +1,4 @@
-// Rows of a screen, kept in step by comparing ids.
+// Keeps a screen's rows in step with the document by comparing ids.
 #include "panels/element_list_model.h"
 
 #include "widgets/qt_text.h"

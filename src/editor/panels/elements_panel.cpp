@@ -1,4 +1,4 @@
-// Six list views in one place.
+// Puts the six screens' lists in one place, the current one in front.
 #include "panels/elements_panel.h"
 
 #include "document/layout_screens.h"

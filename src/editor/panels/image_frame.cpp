@@ -1,4 +1,4 @@
-// Picker and preview of resources.
+// Fills the picker of resources, and previews the chosen one.
 #include "panels/image_frame.h"
 
 #include "document/kinds/panel_texts.h"

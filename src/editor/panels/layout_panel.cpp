@@ -1,4 +1,4 @@
-// The screen buttons and their notes.
+// Makes the buttons of the screens, bold for those that hold elements.
 #include "panels/layout_panel.h"
 
 #include "widgets/control_names.h"

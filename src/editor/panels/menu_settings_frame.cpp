@@ -1,4 +1,4 @@
-// Check boxes, numbers, alignments and colours of an item menu.
+// Builds the check boxes, numbers, alignments and colours of an item menu.
 #include "panels/menu_settings_frame.h"
 
 #include "document/kinds/panel_texts.h"

@@ -1,4 +1,4 @@
-// Lists of types and targets, and a page for each kind of values.
+// Builds the lists of types and targets, and a page for each kind of values.
 #include "panels/modifier_panel.h"
 
 #include "editing/step_names.h"

@@ -1,4 +1,4 @@
-// Position fields.
+// Shows the place of the selected element in four fields, and moves it by what is typed.
 #include "panels/position_panel.h"
 
 #include "widgets/control_names.h"

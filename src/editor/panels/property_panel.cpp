@@ -1,4 +1,4 @@
-// Composition of the panel's frames.
+// Composes the frames of the property panel, and shows those that a kind of element has.
 #include "panels/property_panel.h"
 
 #include "document/kinds/panel_texts.h"

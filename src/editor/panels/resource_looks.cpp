@@ -1,4 +1,4 @@
-// Thumbnails and checkerboards.
+// Paints thumbnails, pictures that fit, and the checkerboard below them.
 #include "panels/resource_looks.h"
 
 #include "surface/picture_cache.h"

@@ -1,4 +1,4 @@
-// Colour rows and the opacity.
+// Builds the rows of the two colours and the opacity, and shows those that a kind has.
 #include "panels/shared_frame.h"
 
 #include "document/element_kinds.h"

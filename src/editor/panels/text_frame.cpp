@@ -1,4 +1,4 @@
-// Text and font.
+// Lets a text be typed or a field of the dashboard chosen, and its font.
 #include "panels/text_frame.h"
 
 #include "document/kinds/panel_texts.h"

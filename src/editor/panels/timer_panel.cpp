@@ -1,4 +1,4 @@
-// Boxes for timers.
+// Builds four boxes that take digits only, and stores what they say as timers.
 #include "panels/timer_panel.h"
 
 #include "editing/step_names.h"

@@ -1,4 +1,4 @@
-// Events and looks of a draggable number.
+// Handles the events of a draggable number, and paints it.
 #include "panels/value_label.h"
 
 #include "widgets/qt_text.h"

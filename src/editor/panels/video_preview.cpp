@@ -1,4 +1,4 @@
-// Playing and painting of one video.
+// Plays one video on a stage of its own, and paints its frames.
 #include "panels/video_preview.h"
 
 #include "surface/picture_place.h"

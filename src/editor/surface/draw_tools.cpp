@@ -1,4 +1,4 @@
-// Drawing of new elements.
+// Draws new elements between a press and a release.
 #include "surface/draw_tools.h"
 
 #include "editing/new_element.h"

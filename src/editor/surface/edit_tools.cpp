@@ -1,4 +1,4 @@
-// Moving and sizing.
+// Moves and sizes the selected element along with the pointer.
 #include "surface/edit_tools.h"
 
 #include "editing/step_names.h"

@@ -1,4 +1,4 @@
-// What several looks have in common.
+// The bounds that several looks have in common.
 #include "surface/element_looks.h"
 
 #include "surface/surface_pass.h"

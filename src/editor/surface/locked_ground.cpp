@@ -1,4 +1,4 @@
-// The flat ground follows locks, screens, and changes of what is in it.
+// Makes the flat ground anew when the locks, the screen or a locked element change.
 #include "surface/locked_ground.h"
 
 #include "surface/pic.h"

@@ -1,4 +1,4 @@
-// Painting and repainting of the drawing surface.
+// Paints the drawing surface, and repaints only what a change has touched.
 #include "surface/pic.h"
 
 #include "document/element_kinds.h"

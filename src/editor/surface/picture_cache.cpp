@@ -1,4 +1,4 @@
-// Stretching, keeping and forgetting of pictures.
+// Stretches pictures, keeps them, and forgets those used longest ago.
 #include "surface/picture_cache.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// From a file to an image, with an account of the memory before it is taken.
+// Makes an image of a file, with an account of the memory before it is taken.
 #include "surface/picture_decoder.h"
 
 #include <QImageReader>

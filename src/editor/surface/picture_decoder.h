@@ -1,4 +1,4 @@
-// Decoding of pictures within a bound of memory.
+// Decodes pictures within a bound of memory.
 #pragma once
 
 #include "surface/picture_file.h"

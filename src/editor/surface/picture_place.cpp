@@ -1,4 +1,4 @@
-// Crossed and empty frames.
+// Paints crossed and empty frames, and the words in them.
 #include "surface/picture_place.h"
 
 #include "widgets/skin_fonts.h"

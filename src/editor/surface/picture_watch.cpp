@@ -1,4 +1,4 @@
-// Events that tell when to look.
+// Listens for the events that tell when pictures' files are worth another look.
 #include "surface/picture_watch.h"
 
 #include "surface/picture_cache.h"

@@ -1,4 +1,4 @@
-// Painting and placing of the selection marks.
+// Paints the selection marks and places them on what is selected.
 #include "surface/selection_marks.h"
 
 #include "document/element_kinds.h"

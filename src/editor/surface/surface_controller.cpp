@@ -1,4 +1,4 @@
-// Presses, moves, releases and keys of the surface.
+// Gives presses, moves, releases and keys of the surface to the tool at work.
 #include "surface/surface_controller.h"
 
 #include "editing/step_names.h"

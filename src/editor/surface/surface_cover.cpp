@@ -1,4 +1,4 @@
-// Showing and hiding the curtain.
+// Lays the curtain over the surface for a moment, and goes on with what it is told then.
 #include "surface/surface_cover.h"
 
 #include "surface/pic.h"

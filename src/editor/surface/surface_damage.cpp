@@ -1,4 +1,4 @@
-// Old rows against new ones.
+// Compares the rows that were painted with the rows of now.
 #include "surface/surface_damage.h"
 
 #include "surface/surface_painter.h"

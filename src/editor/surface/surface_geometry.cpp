@@ -1,4 +1,4 @@
-// Snapping and clipping.
+// Snaps lines to pixels, and clips coordinates that are too far out.
 #include "surface/surface_geometry.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Pens, fonts and pictures of a run.
+// Paints texts and pictures for the looks, or what stands in for a picture that is missing.
 #include "surface/surface_pass.h"
 
 #include "surface/picture_cache.h"

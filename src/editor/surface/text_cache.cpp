@@ -1,4 +1,4 @@
-// Laying captions out.
+// Lays captions out, and keeps the layouts that were used last.
 #include "surface/text_cache.h"
 
 #include "widgets/qt_text.h"

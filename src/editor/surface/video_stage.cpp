@@ -1,4 +1,4 @@
-// Players and their frames.
+// Makes, seats and retires the players of videos, and takes their frames.
 #include "surface/video_stage.h"
 
 #include "files/host_files.h"

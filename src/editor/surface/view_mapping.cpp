@@ -1,4 +1,4 @@
-// Rounding of the view mapping.
+// Finds the skin pixel that a point of the skin lies in.
 #include "surface/view_mapping.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-// Accessible interfaces by a property of the widget.
+// Answers screen readers for widgets that carry a role as a property.
 #include "widgets/accessible_roles.h"
 
 #include <QAbstractButton>

@@ -1,4 +1,4 @@
-// Frame and states of buttons that show a colour.
+// Paints the frame and the states that all buttons with a colour share.
 #include "widgets/color_button.h"
 
 #include <QEvent>

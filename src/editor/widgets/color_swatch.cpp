@@ -1,4 +1,4 @@
-// Painting of colour boxes.
+// Paints a box in its colour.
 #include "widgets/color_swatch.h"
 
 #include "widgets/qt_text.h"

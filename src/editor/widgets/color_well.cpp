@@ -1,4 +1,4 @@
-// Painting of colour wells.
+// Paints a colour well, or the checkerboard of one without a colour.
 #include "widgets/color_well.h"
 
 #include "widgets/prompts.h"

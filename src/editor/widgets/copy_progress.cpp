@@ -1,4 +1,4 @@
-// The progress dialog of a save.
+// Shows the progress dialog of a save once it has lasted a moment.
 #include "widgets/copy_progress.h"
 
 #include "widgets/qt_text.h"

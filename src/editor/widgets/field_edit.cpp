@@ -1,4 +1,4 @@
-// Selecting all on focus.
+// Selects all of a text box when it gets the focus.
 #include "widgets/field_edit.h"
 
 #include <QFocusEvent>

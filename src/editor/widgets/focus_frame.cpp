@@ -1,4 +1,4 @@
-// Colours of the frame.
+// Colours the frame by whether the focus is within it.
 #include "widgets/focus_frame.h"
 
 #include <QApplication>

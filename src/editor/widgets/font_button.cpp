@@ -1,4 +1,4 @@
-// Fonts and their choices.
+// Shows the chosen font on its button.
 #include "widgets/font_button.h"
 
 #include "widgets/qt_text.h"

@@ -1,4 +1,4 @@
-// Placing of the opacity box.
+// Places the opacity box in the gap of its label.
 #include "widgets/opacity_field.h"
 
 #include "editing/color_rules.h"

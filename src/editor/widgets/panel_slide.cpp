@@ -1,4 +1,4 @@
-// Sliding of the panels.
+// Slides panels in from beside the window, and holds them against the layout meanwhile.
 #include "widgets/panel_slide.h"
 
 #include <QEvent>

@@ -1,4 +1,4 @@
-// Painting of shortened paths.
+// Shortens a path in its middle to the width that the label has.
 #include "widgets/path_label.h"
 
 #include <QPainter>

@@ -1,4 +1,4 @@
-// Faces of the play button.
+// Draws the two faces of the play button.
 #include "widgets/play_button.h"
 
 #include <QEvent>

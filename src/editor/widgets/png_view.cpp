@@ -1,4 +1,4 @@
-// The PNG view control and the decoder that it has in the program.
+// Loads a PNG file by the decoder of the program, and draws it from its corner on.
 #include "widgets/png_view.h"
 
 #include "files/host_files.h"

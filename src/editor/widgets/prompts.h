@@ -1,4 +1,4 @@
-// Everything that asks the user something goes through here, so that tests can answer instead.
+// The one way to ask the user something, so that tests can answer instead.
 #pragma once
 
 #include <QColor>

@@ -1,4 +1,4 @@
-// Message boxes and choosers.
+// Asks by Qt's message boxes and choosers.
 #include "widgets/qt_prompts.h"
 
 #include <QColorDialog>

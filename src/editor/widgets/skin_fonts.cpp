@@ -1,4 +1,4 @@
-// Sizes of skin fonts, and the stand-in for Tahoma.
+// Finds fonts for texts of a skin in their sizes, and a stand-in for Tahoma.
 #include "widgets/skin_fonts.h"
 
 #include "widgets/qt_text.h"

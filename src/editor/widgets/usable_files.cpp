@@ -1,4 +1,4 @@
-// Asks the core about each file.
+// Asks the core about each chosen or dropped file, and tells the user of those that are refused.
 #include "widgets/usable_files.h"
 
 #include "files/host_paths.h"

@@ -1,4 +1,4 @@
-// Catching what an event's handling throws.
+// Catches what the handling of an event throws, and tells the user of it.
 #include "window/application.h"
 
 #include <exception>

@@ -1,4 +1,4 @@
-// Opening, placing and closing of the behaviour panels.
+// Opens, places and closes the behaviour panels, one at a time.
 #include "window/behaviour_panels.h"
 
 #include "panels/condition_panel.h"

@@ -1,4 +1,4 @@
-// From the names of edits to sentences.
+// Makes a sentence of the name of an edit.
 #include "window/change_teller.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Each command as one step with the selected element.
+// Carries out each entry of the context menu as one step with the selected element.
 #include "window/element_commands.h"
 
 #include "document/open_edit.h"

@@ -1,4 +1,4 @@
-// The main window's reactions; its composition is in frm_main_build.cpp.
+// Handles what reaches the main window itself; frm_main_build.cpp composes it.
 #include "window/frm_main.h"
 
 #include "document/layout_screens.h"

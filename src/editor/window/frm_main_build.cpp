@@ -1,4 +1,4 @@
-// What the main window consists of, and what is connected to what.
+// Builds the main window's parts, and connects them to each other.
 #include "document/kinds/panel_texts.h"
 #include "editing/manipulation.h"
 #include "panels/behaviour_buttons.h"

@@ -1,4 +1,4 @@
-// Starts the editor.
+// Starts the editor: the folder of the program with its catalogue, and the main window.
 #include "files/host_files.h"
 #include "widgets/qt_prompts.h"
 #include "widgets/qt_text.h"

@@ -1,4 +1,4 @@
-// The table of menu entries, and the menus made from it.
+// Makes the menus from the table of their entries.
 #include "window/main_menus.h"
 
 #include <QAction>

@@ -1,4 +1,4 @@
-// Making and showing the dialogs.
+// Makes the dialogs for the skin-wide settings, and shows the one that is asked for.
 #include "window/skin_dialogs.h"
 
 #include "dialogs/frm_colors.h"

@@ -1,4 +1,4 @@
-// Save, load, view, background.
+// Saves, loads and shows the skin, sets its background, and tells how each of them went.
 #include "window/skin_file_commands.h"
 
 #include "dialogs/frm_instructions.h"

@@ -1,4 +1,4 @@
-// Choosing a tool, and letting it go.
+// Chooses tools and lets them go, together with what the panel and the surface show of them.
 #include "window/tool_choice.h"
 
 #include "editing/panel_check.h"

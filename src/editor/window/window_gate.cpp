@@ -1,4 +1,4 @@
-// disablex and enableAll.
+// Disables and enables the rest of the window around one part of it.
 #include "window/window_gate.h"
 
 #include <QAction>

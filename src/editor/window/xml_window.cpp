@@ -1,4 +1,4 @@
-// The XML window.
+// Fills a window with the text of the skin, in a font of fixed width.
 #include "window/xml_window.h"
 
 #include "widgets/control_names.h"

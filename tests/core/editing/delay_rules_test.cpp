@@ -1,4 +1,4 @@
-// Delays as text and back.
+// What typed delays come to, and how delays are shown.
 #include "editing/delay_rules.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Names of information fields.
+// Which names of information fields come of what is typed.
 #include "editing/information_rules.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Rows and files of the music list.
+// What adding and removing do to the rows and files of the music list.
 #include "editing/music_rules.h"
 
 #include <gtest/gtest.h>

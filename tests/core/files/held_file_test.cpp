@@ -1,4 +1,4 @@
-// A file that one holds at a time.
+// Who gets a file that only one can hold at a time, and when it is free again.
 #include "files/held_file.h"
 #include "files/host_files.h"
 #include "support/temporary_folder.h"

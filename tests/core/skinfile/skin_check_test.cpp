@@ -1,4 +1,4 @@
-// The findings of a check.
+// What a check finds: nothing in a saved skin, and each kind of fault in others.
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"

@@ -1,4 +1,4 @@
-// Look-up in lists of choices.
+// Where a text is found in lists of choices.
 #include "text/list_index.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The System colours dialog.
+// The System colours dialog: what its controls show, set and refuse.
 #include "dialogs/frm_colors.h"
 #include "support/dialog_support.h"
 #include "support/scripted_prompts.h"

@@ -1,4 +1,4 @@
-// The Delays dialog.
+// The Delays dialog: its fields, and what is typed into them.
 #include "dialogs/frm_delays.h"
 #include "support/dialog_support.h"
 #include "support/scripted_prompts.h"

@@ -1,4 +1,4 @@
-// The Information dialog.
+// The Information dialog: the name, the fields and their values.
 #include "dialogs/frm_info.h"
 #include "support/dialog_support.h"
 #include "support/scripted_prompts.h"

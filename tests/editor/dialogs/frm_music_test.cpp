@@ -1,4 +1,4 @@
-// The Music dialog.
+// The Music dialog: what its options set, show and hide, and how it grows.
 #include "dialogs/music_list.h"
 #include "support/music_support.h"
 #include "support/ui_test.h"

@@ -1,4 +1,4 @@
-// The Resources dialog.
+// The Resources dialog: adding files and presets, the list, drops and keys.
 #include "support/resources_support.h"
 #include "support/ui_test.h"
 

@@ -1,4 +1,4 @@
-// The Instructions dialog.
+// The Instructions dialog: its text, and how it closes.
 #include "dialogs/frm_instructions.h"
 #include "support/dialog_support.h"
 #include "support/ui_test.h"

@@ -1,4 +1,4 @@
-// The condition panel.
+// The condition panel: what it shows of an element, and what it stores.
 #include "document/conditions.h"
 #include "document/layout_screens.h"
 #include "panels/condition_panel.h"

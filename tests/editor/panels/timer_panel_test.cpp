@@ -1,4 +1,4 @@
-// The timer panel.
+// The timer panel: its boxes, the warning, and what it stores.
 #include "document/layout_screens.h"
 #include "panels/timer_panel.h"
 #include "support/behaviour_editor.h"

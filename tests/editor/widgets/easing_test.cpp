@@ -1,4 +1,4 @@
-// Gliding numbers.
+// Gliding numbers: their steps, their time, and their exact ends.
 #include "support/ui_test.h"
 #include "widgets/easing.h"
 

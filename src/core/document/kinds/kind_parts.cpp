@@ -1,4 +1,4 @@
-// Rectangles, colours and areas.
+// Reads, writes and shows the rectangles and colours that several kinds have.
 #include "document/kinds/kind_parts.h"
 
 #include "document/kinds/panel_texts.h"

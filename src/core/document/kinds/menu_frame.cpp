@@ -1,4 +1,4 @@
-// Record to frame, frame to record.
+// Shows the settings of an item menu in the frame, and makes settings of what it shows.
 #include "document/kinds/menu_frame.h"
 
 #include "text/list_index.h"
