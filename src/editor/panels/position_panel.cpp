@@ -1,6 +1,7 @@
 // Shows the place of the selected element in four fields, and moves it by what is typed.
 #include "panels/position_panel.h"
 
+#include "document/element_kinds.h"
 #include "widgets/control_names.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
@@ -31,7 +32,7 @@ const FieldWords& wordsFor(ControlKind kind) {
                                          {"Y1", "First end down"},
                                          {"X2", "Second end across"},
                                          {"Y2", "Second end down"}}};
-    return kind == ControlKind::lin ? line : rectangle;
+    return rulesOf(kind).placeForm == PlaceForm::ends ? line : rectangle;
 }
 
 } // namespace
