@@ -127,6 +127,8 @@ class SurfacePainterTest : public QObject {
     void paintsTexts() { comparesWithDrawing(); }
     void rowsArePaintedBackToFront();
     void paintsTheRowsOfOneScreen();
+    void lineBreaksOfCaptionsAreDrawn_data();
+    void lineBreaksOfCaptionsAreDrawn();
     void textStaysWithinItsElement();
     void textFollowsItsElement_data();
     void textFollowsItsElement();
@@ -232,6 +234,25 @@ void SurfacePainterTest::paintsTheRowsOfOneScreen() {
     QCOMPARE(painted(surface_, document, 0), drawn(fills({{{30, 0, 20, 20}, Qt::green}})));
     QCOMPARE(painted(surface_, document, 1), drawn(fills({{{0, 0, 20, 20}, Qt::red}})));
     QCOMPARE(painted(surface_, document, 5), drawn(fills({})));
+}
+
+void SurfacePainterTest::lineBreaksOfCaptionsAreDrawn_data() {
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("line feed") << "one\ntwo";
+    QTest::newRow("both") << "one\r\ntwo";
+    QTest::newRow("carriage return") << "one\rtwo";
+}
+
+// The second line lies where the text of an element one line further down would.
+void SurfacePainterTest::lineBreaksOfCaptionsAreDrawn() {
+    QFETCH(QString, caption);
+    const QRectF rect(20, 20, 200, 60);
+    const QImage two = painted(surface_, documentOf({textOf(rect, caption.toStdString(), red)}));
+    const double lineHeight = QFontMetricsF(skinFont({})).lineSpacing();
+    const QRectF below = rect.translated(0, lineHeight);
+    const QImage expected =
+        painted(surface_, documentOf({textOf(rect, "one", red), textOf(below, "two", red)}));
+    QCOMPARE(two, expected);
 }
 
 void SurfacePainterTest::textStaysWithinItsElement() {

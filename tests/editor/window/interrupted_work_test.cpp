@@ -53,6 +53,7 @@ class InterruptedWorkTest : public QObject {
     void loadingEndsTheDrawing();
     void menusAfterLoadingHaveTheLoadedSettings();
     void textsAreConstantUnlessAnEntryIsChosen();
+    void aTextOfTwoLinesIsAsHighAsTwo();
     void messagesLeadToTheFieldAtFault_data();
     void messagesLeadToTheFieldAtFault();
     void closingStoresOnlyAChangedPanel_data();
@@ -135,6 +136,25 @@ void InterruptedWorkTest::textsAreConstantUnlessAnEntryIsChosen() {
     editor.pressDragRelease({200, 200}, {300, 260});
     QCOMPARE(QString::fromStdString(editor.control(2).caption), QString("NoSuchField"));
     QVERIFY(editor.document().element(2).textIsConstant);
+}
+
+void InterruptedWorkTest::aTextOfTwoLinesIsAsHighAsTwo() {
+    Editor editor;
+    Element two = redText();
+    two.elementControl.caption = "wide line\nx";
+    editor.add(two);
+    Element one = redText();
+    one.elementControl.caption = "wide line";
+    one.elementControl.top = 100;
+    editor.add(one);
+    editor.show();
+    for (const QPoint shown : {QPoint(40, 30), QPoint(40, 110)}) {
+        editor.click(shown);
+        editor.chooseTool("optText");
+        editor.click({300, 200 + shown.y()});
+    }
+    QCOMPARE(editor.control(3).height, 2 * editor.control(4).height);
+    QCOMPARE(editor.control(3).width, editor.control(4).width);
 }
 
 void InterruptedWorkTest::messagesLeadToTheFieldAtFault_data() {
