@@ -3,6 +3,7 @@
 
 #include "document/element_kinds.h"
 #include "editing/stacking.h"
+#include "text/text_case.h"
 
 #include <utility>
 
@@ -33,13 +34,32 @@ Element updated(const SkinDocument& document, int elementId, const PanelValues& 
 
 } // namespace
 
+namespace {
+
+// The panel spells alignments in its own letter case, which shows nowhere.
+void foldAlignments(Element& element) {
+    const MenuSettings& settings = element.menuSettings.get();
+    const std::string title = lowerCased(settings.titleAlignment);
+    const std::string description = lowerCased(settings.descriptionAlignment);
+    if (title != settings.titleAlignment || description != settings.descriptionAlignment) {
+        MenuSettings& folded = element.menuSettings.edit();
+        folded.titleAlignment = title;
+        folded.descriptionAlignment = description;
+    }
+}
+
+} // namespace
+
 bool panelDiffers(const SkinDocument& document, int elementId, const PanelValues& values) {
     if (elementId <= 0) {
         return false;
     }
-    Element after = document.element(elementId);
+    Element before = document.element(elementId);
+    Element after = before;
     takePanel(values, document.settings().resources, after);
-    return after != document.element(elementId);
+    foldAlignments(before);
+    foldAlignments(after);
+    return after != before;
 }
 
 bool updateControls(SkinDocument& document, int elementId, const PanelValues& values) {

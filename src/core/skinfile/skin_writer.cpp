@@ -38,7 +38,7 @@ void SkinWriter::generateXML(SkinDocument& document) {
 
 void SkinWriter::write(const SkinDocument& document, const ScreenBegins& screenBegins) {
     clear();
-    const SkinSettings settings = document.settings(); // a copy: screenBegins may reach observers
+    const SkinSettings& settings = document.settings(); // good until the first screen begins
     line(R"(<Skin name=")", settings.skinName, R"(">)");
     writeInformation(settings);
     if (settings.music.hasMusic) {

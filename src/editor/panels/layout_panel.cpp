@@ -56,7 +56,9 @@ void LayoutPanel::changeEvent(QEvent* event) {
 void LayoutPanel::colorNotes() {
     for (QLabel* note : notes_) {
         QPalette colors = palette();
-        colors.setColor(QPalette::WindowText, faintText(colors));
+        const QColor faint = faintText(colors);
+        colors.setColor(QPalette::Active, QPalette::WindowText, faint);
+        colors.setColor(QPalette::Inactive, QPalette::WindowText, faint);
         note->setPalette(colors);
     }
 }

@@ -357,6 +357,12 @@ TEST(PanelDiffers, TellsWhetherApplyingWouldChangeTheElement) {
     EXPECT_FALSE(panelDiffers(document, id, values));
     values.fill = {FillStyle::solid, green};
     EXPECT_TRUE(panelDiffers(document, id, values));
+
+    const int menu = add(document, elementAt(ElementKind::Menu, ControlKind::qor, {1, 2, 3, 4}));
+    showEditControls(document.element(menu), document.settings().resources, values);
+    EXPECT_FALSE(panelDiffers(document, menu, values)); // "left" against the panel's "Left"
+    values.menu.glowSelected = !values.menu.glowSelected;
+    EXPECT_TRUE(panelDiffers(document, menu, values));
 }
 
 } // namespace
