@@ -359,6 +359,7 @@ TEST(PanelDiffers, TellsWhetherApplyingWouldChangeTheElement) {
     EXPECT_TRUE(panelDiffers(document, id, values));
 
     const int menu = add(document, elementAt(ElementKind::Menu, ControlKind::qor, {1, 2, 3, 4}));
+    values = PanelValues();
     showEditControls(document.element(menu), document.settings().resources, values);
     EXPECT_FALSE(panelDiffers(document, menu, values)); // "left" against the panel's "Left"
     values.menu.glowSelected = !values.menu.glowSelected;

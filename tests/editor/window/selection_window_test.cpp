@@ -121,7 +121,7 @@ void SelectionWindowTest::lockEndsWithoutAFrame() {
     clickRow(editor, 1);
     editor.entry("mnuLocked")->trigger();
     QCOMPARE(editor.selectedRow(mainScreen), 1);
-    QTest::qWait(0); // the ground is made a turn later
+    QCoreApplication::processEvents(); // the ground is made a turn later
     QVERIFY(!editor.find<QWidget>("fraSel")->isVisible());
     clickRow(editor, 1); // selected anew, it shows
     QVERIFY(editor.find<QWidget>("fraSel")->isVisible());
