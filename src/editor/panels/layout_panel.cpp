@@ -5,6 +5,7 @@
 #include "widgets/faint_text.h"
 #include "widgets/qt_text.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QRadioButton>
