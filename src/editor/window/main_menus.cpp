@@ -76,6 +76,9 @@ MainMenus::MainMenus(QMainWindow& window)
     }
     fill(window, *mnuRight_);
     fill(window, *mnuRight2_);
+    // The table makes every member.
+    Q_ASSERT(mnuSave != nullptr && mnuLoad != nullptr && mnuCover != nullptr &&
+             mnuLocked != nullptr);
     mnuSave->setShortcut(QKeySequence::Save);
     mnuLoad->setShortcut(QKeySequence::Open);
     mnuCover->setCheckable(true);
