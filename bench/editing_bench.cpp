@@ -38,6 +38,7 @@ class NoPrompts : public Prompts {
   public:
     void message(QWidget* /*owner*/, const QString& /*text*/) override {}
     Answer question(QWidget* /*owner*/, const QString& /*text*/) override { return Answer::Cancel; }
+    bool confirm(QWidget* /*owner*/, const QString& /*text*/) override { return false; }
     QString input(QWidget* /*owner*/, const QString& /*prompt*/) override { return {}; }
     QString folder(QWidget* /*owner*/, const QString& /*title*/) override { return {}; }
     QStringList files(QWidget* /*owner*/, const QString& /*filter*/, bool /*several*/) override {

@@ -45,6 +45,11 @@ class ScriptedPrompts : public Prompts {
         questions << text;
         return answers.isEmpty() ? Answer::Cancel : answers.takeFirst();
     }
+    bool confirm(QWidget* owner, const QString& text) override {
+        lastOwner = owner;
+        questions << text;
+        return !answers.isEmpty() && answers.takeFirst() == Answer::Yes;
+    }
     QString input(QWidget* owner, const QString& prompt) override {
         lastOwner = owner;
         inputPrompts << prompt;

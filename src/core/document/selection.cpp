@@ -20,7 +20,11 @@ std::vector<int> Selection::rows() const {
 }
 
 void Selection::select(int row) {
-    leading_ = row < 0 ? 0 : document_.itemData(document_.currentLayout(), row);
+    const int id = row < 0 ? 0 : document_.itemData(document_.currentLayout(), row);
+    if (id != leading_) {
+        document_.endRun(); // it was one of the element that was selected
+    }
+    leading_ = id;
     row_ = row < 0 ? -1 : row;
     rowIsKnown_ = true;
     observers_.each([](SelectionObserver& observer) { observer.selectionChanged(); });

@@ -3,6 +3,7 @@
 
 #include "document/shared_value.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -36,6 +37,47 @@ template <class T> class SharedTable {
         }
         spine.back().edit().push_back(std::move(value));
         ++size_;
+    }
+
+    /// Takes over the values of `front`, which is no longer than this table, in the place of its
+    /// own first ones, and shares them where whole blocks are alike in length. Calls changed(index)
+    /// for each value that was another one. Costs little more than what differs.
+    template <class Changed> void takeFront(const SharedTable& front, Changed&& changed) {
+        for (std::size_t block = 0; block < front.spine_->size(); ++block) {
+            const Block& theirs = (*front.spine_)[block];
+            if (theirs.isSharedWith((*spine_)[block])) {
+                continue;
+            }
+            const bool alikeInLength = theirs->size() == (*spine_)[block]->size();
+            const std::size_t first = block * blockSize;
+            for (std::size_t i = 0; i < theirs->size(); ++i) {
+                if ((*theirs)[i] == (*this)[first + i]) {
+                    continue;
+                }
+                if (!alikeInLength) {
+                    edit(first + i) = (*theirs)[i];
+                }
+                changed(first + i);
+            }
+            if (alikeInLength) {
+                spine_.edit()[block] = theirs;
+            }
+        }
+    }
+
+    /// Whether both are alike as far as the shorter of them goes.
+    [[nodiscard]] bool isAlikeInFront(const SharedTable& other) const {
+        const std::size_t blocks = std::min(spine_->size(), other.spine_->size());
+        for (std::size_t block = 0; block < blocks; ++block) {
+            const Block& ours = (*spine_)[block];
+            const Block& theirs = (*other.spine_)[block];
+            const auto common = static_cast<std::ptrdiff_t>(std::min(ours->size(), theirs->size()));
+            if (!ours.isSharedWith(theirs) &&
+                !std::equal(ours->begin(), ours->begin() + common, theirs->begin())) {
+                return false;
+            }
+        }
+        return true;
     }
 
     friend bool operator==(const SharedTable& a, const SharedTable& b) {

@@ -100,7 +100,60 @@ void SkinDocument::endRun() {
     }
 }
 
+// Everything is in its place before the first is told.
+void SkinDocument::showVersion(const SkinDocument& version, int screen) {
+    const State before = state_;
+    const int lastElementId = state_.lastElementId;
+    SharedTable<Element> elements = state_.elements;
+    std::vector<int> changed;
+    elements.takeFront(version.state_.elements,
+                       [&](std::size_t index) { changed.push_back(static_cast<int>(index) + 1); });
+    state_ = version.state_;
+    state_.elements = std::move(elements);
+    state_.lastElementId = lastElementId;
+    state_.currentLayout = screen;
+    resourceIndex_ = {};
+    constexpr std::size_t fewElements = 256; // cost less one by one than all at once
+    if (changed.size() > fewElements) {
+        tell({DocumentChange::What::everything});
+        return;
+    }
+    if (before.currentLayout != screen) {
+        tell({DocumentChange::What::currentLayout, screen});
+    }
+    for (int each = 0; each < screenCount; ++each) {
+        if (before.lst[at(each)] != state_.lst[at(each)]) {
+            tell({DocumentChange::What::rows, each});
+        }
+        if (before.lockCount[at(each)] != state_.lockCount[at(each)] ||
+            before.screenElementCount[at(each)] != state_.screenElementCount[at(each)]) {
+            tell({DocumentChange::What::counts, each});
+        }
+    }
+    if (before.settings != state_.settings) {
+        tell({DocumentChange::What::settings});
+    }
+    tellOfElements(changed);
+}
+
+void SkinDocument::tellOfElements(const std::vector<int>& ids) {
+    for (const int id : ids) {
+        tell({DocumentChange::What::element, element(id).elementLayout, id});
+        tell({DocumentChange::What::rowText, element(id).elementLayout, id});
+    }
+}
+
+bool SkinDocument::holdsTheSame(const SkinDocument& other) const {
+    const State& theirs = other.state_;
+    return state_.screenElementCount == theirs.screenElementCount &&
+           state_.lockCount == theirs.lockCount && state_.lst == theirs.lst &&
+           state_.elements.isAlikeInFront(theirs.elements) && state_.settings == theirs.settings;
+}
+
 void SkinDocument::setCurrentLayout(int screen) {
+    if (screen != state_.currentLayout) {
+        endRun();
+    }
     state_.currentLayout = screen;
     tell({DocumentChange::What::currentLayout, screen});
 }

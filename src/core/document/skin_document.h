@@ -63,6 +63,15 @@ class SkinDocument {
     void continueRun(const std::string& name);
     void endRun();
     [[nodiscard]] bool isEditOpen() const { return edit_.depth > 0; }
+    [[nodiscard]] bool isRunOpen() const { return !edit_.run.empty(); }
+
+    /// Takes the value of `version`, a copy of an earlier or later state of this very document,
+    /// with `screen` shown, and tells of each thing that differs. Ids that were handed out stay
+    /// handed out: records of elements that the version does not know stay, without a row.
+    void showVersion(const SkinDocument& version, int screen);
+    /// Whether both hold the same skin, whichever screen is shown and however many ids were handed
+    /// out.
+    [[nodiscard]] bool holdsTheSame(const SkinDocument& other) const;
 
     // Screens, by index 0 to 5.
     [[nodiscard]] int currentLayout() const { return state_.currentLayout; }
@@ -145,6 +154,7 @@ class SkinDocument {
         observers_.each([&](DocumentObserver& observer) { observer.documentChanged(change); });
     }
     [[nodiscard]] const Rows& rows(int screen) const;
+    void tellOfElements(const std::vector<int>& ids);
 
     // Made when it is worth it. It goes along with the settings that it was made of.
     struct IndexOfResources {

@@ -84,6 +84,12 @@ void RecoveryStore::keep(const WorkState& work) {
     }
 }
 
+void RecoveryStore::keepNothing() {
+    if (own_) {
+        removeFile(file_);
+    }
+}
+
 std::vector<fs::path> RecoveryStore::takeLost() {
     removeLeftovers(folder_);
     for (const fs::path& stem : runsIn(folder_)) {
@@ -94,10 +100,9 @@ std::vector<fs::path> RecoveryStore::takeLost() {
         found.emplace_back(timeOf(run.file), run.file);
     }
     std::sort(found.rbegin(), found.rend());
-    std::vector<fs::path> files;
-    for (auto& [time, file] : found) {
-        files.push_back(std::move(file));
-    }
+    std::vector<fs::path> files(found.size());
+    std::transform(found.begin(), found.end(), files.begin(),
+                   [](auto& each) { return std::move(each.second); });
     return files;
 }
 
@@ -137,6 +142,10 @@ fs::path RecoveryStore::setAside(const fs::path& lost) {
     moveFile(lost, target);
     letGo(lost);
     return target;
+}
+
+void RecoveryStore::leave(const fs::path& lost) {
+    std::erase_if(lost_, [&](const LostRun& each) { return each.file == lost; });
 }
 
 void RecoveryStore::letGo(const fs::path& lost) {

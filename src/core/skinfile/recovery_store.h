@@ -26,6 +26,8 @@ class RecoveryStore {
     /// Replaces what is kept of this run, only when the new file is whole and flushed. Throws
     /// FileError, with the older file as it was.
     void keep(const WorkState& work);
+    /// Takes away what is kept of this run: it has nothing to lose. Throws FileError.
+    void keepNothing();
     /// Where keep() writes.
     [[nodiscard]] const std::filesystem::path& file() const { return file_; }
 
@@ -36,6 +38,8 @@ class RecoveryStore {
     [[nodiscard]] static WorkState read(const std::filesystem::path& lost);
     /// Deletes the file of a dead run, of takeLost(), for good.
     void forget(const std::filesystem::path& lost);
+    /// Lets the next store find the file of a dead run, as this one did.
+    void leave(const std::filesystem::path& lost);
     /// Renames the file of a dead run, so that it is not found again, and returns its new path.
     /// Throws FileError.
     std::filesystem::path setAside(const std::filesystem::path& lost);

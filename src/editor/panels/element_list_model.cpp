@@ -76,6 +76,12 @@ void ElementListModel::sync() {
     }
 }
 
+void ElementListModel::textsChanged() {
+    if (!ids_.empty()) {
+        emit dataChanged(index(0), index(rowCount() - 1));
+    }
+}
+
 void ElementListModel::rowTextChanged(int elementId) {
     const auto found = std::find(ids_.begin(), ids_.end(), elementId);
     if (found != ids_.end()) {

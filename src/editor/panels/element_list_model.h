@@ -23,6 +23,8 @@ class ElementListModel : public QAbstractListModel {
 
     /// Brings the views into line with the document. Rows that stay keep their selection.
     void sync();
+    /// The texts of all rows may be other ones.
+    void textsChanged();
     /// The text of the row of this element is another one.
     void rowTextChanged(int elementId);
 

@@ -109,6 +109,7 @@ void ElementsPanel::documentChanged(const DocumentChange& change) {
     case DocumentChange::What::everything:
         for (ElementListModel* model : models_) {
             model->sync();
+            model->textsChanged();
         }
         stack_->setCurrentIndex(document_.currentLayout());
         break;

@@ -66,7 +66,8 @@ void PositionPanel::show(const ElementControl& control) {
     const auto& captions = positionCaptions(control.kind);
     const FieldWords& words = wordsFor(control.kind);
     for (std::size_t i = 0; i < shown_.size(); ++i) {
-        if (fields_[i]->text() != qtText(shown_[i])) {
+        // What was typed and taken over is the document's to undo, not the field's.
+        if (fields_[i]->text() != qtText(shown_[i]) || fields_[i]->isUndoAvailable()) {
             fields_[i]->setText(qtText(shown_[i]));
         }
         fields_[i]->setModified(false);

@@ -110,6 +110,11 @@ void PropertyPanel::takeMenuSettings(const MenuSettings& settings) {
     fraQor_->refresh();
 }
 
+void PropertyPanel::takeValues(const PanelValues& values) {
+    values_ = values;
+    showFrames(shown_);
+}
+
 void PropertyPanel::focusFault(std::string_view message) {
     // Without resources there is none to choose, but one to add.
     const bool anyResource = !document_.settings().resources.empty();
@@ -139,6 +144,7 @@ void PropertyPanel::stopPreview() {
 }
 
 void PropertyPanel::showFrames(const PanelLayout& layout) {
+    shown_ = layout;
     fraShared_->setVisible(layout.colors);
     fraShared_->refresh(layout);
     fraText_->setVisible(layout.text);

@@ -33,6 +33,9 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     /// What the controls hold now.
     [[nodiscard]] PanelValues values() const { return values_; }
 
+    /// The values of the next element drawn, as they were when they were asked for.
+    void takeValues(const PanelValues& values);
+
     /// An element became current: takes its values over.
     void showElement(const Element& element);
     /// A tool was chosen: shows the frames of the kind that it draws.
@@ -68,6 +71,7 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     const SkinDocument& document_;
     DocumentWatch watch_;
     PanelValues values_;
+    PanelLayout shown_;
     QStackedWidget* frames_ = nullptr;
     QWidget* nothing_ = nullptr;
     QWidget* colorsAndText_ = nullptr;

@@ -70,7 +70,7 @@ ResourceLook lookOf(const Resource& resource) {
 }
 
 QString lineAbout(const Resource& resource, PictureCache& pictures) {
-    const QString name = qtText(trimtofile(resource.content));
+    QString name = qtText(trimtofile(resource.content));
     switch (lookOf(resource)) {
     case ResourceLook::preset:
         return QObject::tr("Supplied by the dashboard");

@@ -27,6 +27,8 @@ class Prompts {
     /// An OK-only message; the text is plain.
     virtual void message(QWidget* owner, const QString& text) = 0;
     virtual Answer question(QWidget* owner, const QString& text) = 0;
+    /// A question that is answered by Yes or No; true for Yes.
+    virtual bool confirm(QWidget* owner, const QString& text) = 0;
     /// A line of text; empty when cancelled.
     virtual QString input(QWidget* owner, const QString& prompt) = 0;
     /// An existing folder; empty when cancelled.

@@ -46,6 +46,11 @@ Prompts::Answer QtPrompts::question(QWidget* owner, const QString& text) {
     }
 }
 
+bool QtPrompts::confirm(QWidget* owner, const QString& text) {
+    return show(owner, QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+}
+
 QString QtPrompts::input(QWidget* owner, const QString& prompt) {
     return QInputDialog::getText(owner, QStringLiteral("Tarvel"), prompt);
 }

@@ -10,6 +10,7 @@ class QtPrompts : public Prompts {
   public:
     void message(QWidget* owner, const QString& text) override;
     Answer question(QWidget* owner, const QString& text) override;
+    bool confirm(QWidget* owner, const QString& text) override;
     QString input(QWidget* owner, const QString& prompt) override;
     QString folder(QWidget* owner, const QString& title) override;
     QStringList files(QWidget* owner, const QString& filter, bool several) override;

@@ -16,15 +16,19 @@
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
 #include "window/main_menus.h"
+#include "window/recovery_keeper.h"
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
 #include "window/tool_choice.h"
 #include "window/window_keys.h"
+#include "window/work_history.h"
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QRandomGenerator>
+#include <QStatusBar>
 #include <QTimer>
 
 namespace tarvel {
@@ -81,11 +85,14 @@ void FrmMain::applyChanges() {
 
 void FrmMain::load() {
     tools_->endWork();
-    const int before = document_.lastElementId();
     files_.mnuLoad_Click();
-    if (const MenuSettings* last = lastMenuAfter(document_, before)) {
+}
+
+void FrmMain::loaded(const SkinDocument& before) {
+    if (const MenuSettings* last = lastMenuAfter(document_, before.lastElementId())) {
         properties_->takeMenuSettings(*last);
     }
+    history_->loaded(before);
 }
 
 void FrmMain::deleteSelected() {
@@ -139,6 +146,36 @@ bool FrmMain::Form_Unload() {
 
 void FrmMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(Form_Unload());
+    if (event->isAccepted() && keeper_ != nullptr) {
+        keeper_->endProperly();
+    }
+}
+
+void FrmMain::keepWorkIn(const std::filesystem::path& folder) {
+    const RecoveryKeeper::Work work{
+        .document = document_,
+        .selection = selection_,
+        .history = history_->history(),
+        .prompts = prompts_,
+        .window = *this,
+        .folder = [this] { return files_.skinFolder(); },
+        .broughtBack =
+            [this](const WorkState& state) { files_.setSkinFolder(qtText(state.folder)); }};
+    keeper_ = std::make_unique<RecoveryKeeper>(work, folder);
+    connect(keeper_.get(), &RecoveryKeeper::told, this,
+            [this](const QString& text) { statusBar()->showMessage(text); });
+}
+
+void FrmMain::offerLostWork() {
+    if (keeper_ != nullptr) {
+        keeper_->offerLost();
+    }
+}
+
+void FrmMain::keepWorkNow() {
+    if (keeper_ != nullptr) {
+        keeper_->keepNow();
+    }
 }
 
 void FrmMain::showEvent(QShowEvent* event) {

@@ -30,12 +30,14 @@ class PictureWatch;
 class PositionPanel;
 class Prompts;
 class PropertyPanel;
+class RecoveryKeeper;
 class SelectionMarks;
 class SelectionViews;
 class SkinDialogs;
 class ToolChoice;
 class WindowGate;
 class WindowKeys;
+class WorkHistory;
 
 /// Owns the document and what is selected in it. Asks the user through `prompts`, which outlives
 /// the window.
@@ -62,6 +64,14 @@ class FrmMain : public QMainWindow {
     /// Asks whether to save, and saves. False when the window is to stay open.
     bool Form_Unload();
 
+    /// Keeps the work in a folder from now on, for a run that does not end by closing the window.
+    /// Throws FileError when nothing can be kept there.
+    void keepWorkIn(const std::filesystem::path& folder);
+    /// Asks whether to bring back what lost runs have kept there.
+    void offerLostWork();
+    /// Keeps the work as it is now: the program is about to end.
+    void keepWorkNow();
+
   protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -77,12 +87,14 @@ class FrmMain : public QMainWindow {
     void buildReactions();
     void connectPanels();
     void connectMenus();
+    void buildHistory();
     void watchPictures();
     void slideIn();
     void popupMenu(QPoint globalPosition);
     void enterPosition(PositionField field, const QString& text);
     void applyChanges();
     void load();
+    void loaded(const SkinDocument& before);
     void deleteSelected();
 
     Prompts& prompts_;
@@ -112,9 +124,12 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<SelectionViews> views_;
     std::unique_ptr<WindowKeys> keys_;
     std::unique_ptr<ChangeTeller> changes_;
+    std::unique_ptr<WorkHistory> history_;
+    QLabel* lblUnsaved_ = nullptr;
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;
+    std::unique_ptr<RecoveryKeeper> keeper_;
     bool slidIn_ = false;
 };
 

@@ -21,11 +21,13 @@
 #include "window/change_teller.h"
 #include "window/frm_main.h"
 #include "window/main_menus.h"
+#include "window/recovery_keeper.h"
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
 #include "window/tool_choice.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"
+#include "window/work_history.h"
 
 #include <QAction>
 #include <QLabel>
@@ -76,6 +78,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
         new BehaviourPanels(document_, prompts_, *gate_,
                             {.side = *right, .roof = *fraPos_, .floor = *cmdStop_}, programFolder);
     buildReactions();
+    buildHistory();
     connectPanels();
     connectMenus();
     watchPictures();
@@ -174,6 +177,30 @@ void FrmMain::buildReactions() {
             {Qt::Key_Escape, [this] { return tools_->isBusy(); }, [this] { tools_->giveUp(); }},
             {Qt::Key_Delete, [this] { return !selection_.isEmpty(); },
              [this] { deleteSelected(); }}});
+}
+
+void FrmMain::buildHistory() {
+    history_ = std::make_unique<WorkHistory>(
+        WorkHistory::Parts{.document = document_,
+                           .selection = selection_,
+                           .properties = *properties_,
+                           .marks = *marks_,
+                           .undo = *menus_->mnuUndo,
+                           .redo = *menus_->mnuRedo,
+                           .isOpen = [this] { return !gate_->isClosed(); }});
+    lblUnsaved_ = new QLabel;
+    lblUnsaved_->setObjectName(QStringLiteral("lblUnsaved"));
+    statusBar()->addPermanentWidget(lblUnsaved_);
+    auto* history = history_.get();
+    connect(history, &WorkHistory::changed, this, [this] {
+        lblUnsaved_->setText(history_->history().isChanged() ? tr("Unsaved changes") : QString());
+    });
+    connect(history, &WorkHistory::told, this,
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(gate_, &WindowGate::changed, history, &WorkHistory::refresh);
+    connect(&files_, &SkinFileCommands::saved, history,
+            [history] { history->history().markSaved(); });
+    connect(&files_, &SkinFileCommands::loaded, this, &FrmMain::loaded);
 }
 
 void FrmMain::connectPanels() {

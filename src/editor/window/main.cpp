@@ -3,9 +3,13 @@
 #include "widgets/qt_prompts.h"
 #include "widgets/qt_text.h"
 #include "window/application.h"
+#include "window/end_signals.h"
 #include "window/frm_main.h"
 
 #include <QFile>
+#include <QGuiApplication>
+#include <QStandardPaths>
+#include <QTimer>
 
 namespace {
 
@@ -25,6 +29,19 @@ void layCatalogue(const std::filesystem::path& folder) {
     }
 }
 
+// Runs that find no place to keep their work say so and go on.
+void keepWork(tarvel::FrmMain& window, tarvel::Prompts& prompts) {
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    try {
+        window.keepWorkIn(tarvel::hostPathOf(data) / "recovery");
+    } catch (const tarvel::FileError& error) {
+        prompts.message(&window, QObject::tr("Your work cannot be kept for the case of a crash: %1")
+                                     .arg(tarvel::qtText(error.what())));
+        return;
+    }
+    window.offerLostWork();
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -36,6 +53,14 @@ int main(int argc, char* argv[]) {
     tarvel::QtPrompts prompts;
     tarvel::FrmMain window(prompts, folder);
     application.tellFailures([&](const QString& words) { prompts.message(&window, words); });
+    const tarvel::EndSignals endSignals([&](int signal) {
+        constexpr int endedBySignal = 128;
+        window.keepWorkNow();
+        QApplication::exit(endedBySignal + signal);
+    });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                     &tarvel::FrmMain::keepWorkNow, Qt::DirectConnection);
     window.show();
+    QTimer::singleShot(0, &window, [&] { keepWork(window, prompts); });
     return QApplication::exec();
 }

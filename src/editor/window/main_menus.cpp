@@ -44,6 +44,8 @@ struct MainMenus::Table {
         Entry{"mnuOptions", "mnuCover", "Cover objects while moving (to prevent blinking)",
               &MainMenus::mnuCover},
         Entry{"mnuOptions", "mnuBorders", "View safe borders (customize to your TV)", nullptr},
+        Entry{"mnuEdit", "mnuUndo", "Undo", &MainMenus::mnuUndo},
+        Entry{"mnuEdit", "mnuRedo", "Redo", &MainMenus::mnuRedo},
     };
 };
 
@@ -56,7 +58,7 @@ struct BarMenu {
 
 constexpr std::array barMenus = {BarMenu{"mnuSkin", "Skin"}, BarMenu{"mnuConfig", "Configuration"},
                                  BarMenu{"mnuBackground", "Background"},
-                                 BarMenu{"mnuOptions", "Options"}};
+                                 BarMenu{"mnuOptions", "Options"}, BarMenu{"mnuEdit", "Edit"}};
 
 QMenu* contextMenu(QMainWindow& window, const QString& name) {
     auto* menu = new QMenu(QStringLiteral("Right"), &window);
@@ -78,9 +80,11 @@ MainMenus::MainMenus(QMainWindow& window)
     fill(window, *mnuRight2_);
     // The table makes every member.
     Q_ASSERT(mnuSave != nullptr && mnuLoad != nullptr && mnuCover != nullptr &&
-             mnuLocked != nullptr);
+             mnuLocked != nullptr && mnuUndo != nullptr && mnuRedo != nullptr);
     mnuSave->setShortcut(QKeySequence::Save);
     mnuLoad->setShortcut(QKeySequence::Open);
+    mnuUndo->setShortcut(Qt::CTRL | Qt::Key_Z);
+    mnuRedo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
     mnuCover->setCheckable(true);
     mnuLocked->setCheckable(true);
 }

@@ -36,6 +36,8 @@ class MainMenus {
     QAction* mnuLocked = nullptr;
     QAction* mnuDelete = nullptr;
     QAction* mnuCover = nullptr;
+    QAction* mnuUndo = nullptr;
+    QAction* mnuRedo = nullptr;
 
     /// Modifiers, timers and condition of the selected element.
     [[nodiscard]] std::array<QAction*, 3> mnuModifier() const {

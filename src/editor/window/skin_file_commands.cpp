@@ -67,6 +67,8 @@ bool SkinFileCommands::saveInto(const QString& folder) {
                       : tr("The skin was not saved: %1").arg(qtText(outcome.writeProblem)));
         return false;
     }
+    skinFolder_ = folder;
+    emit saved();
     emit told(tr("Saved to %1").arg(folder));
     FrmInstructions(folder, surroundings_.window).exec();
     return true;
@@ -77,26 +79,30 @@ void SkinFileCommands::mnuLoad_Click() {
         prompts_.message(surroundings_.window, qtText(loadAdvice));
     }
     const QString folder = prompts_.folder(surroundings_.window, qtText(loadFolderTitle));
-    if (!folder.isEmpty()) {
-        loadFrom(folder);
+    if (folder.isEmpty() || !loadFrom(folder)) {
+        document_.setCurrentLayout(menuScreen);
     }
-    document_.setCurrentLayout(menuScreen);
 }
 
-void SkinFileCommands::loadFrom(const QString& folder) {
+bool SkinFileCommands::loadFrom(const QString& folder) {
     SkinReadNotes notes;
+    const SkinDocument before = document_;
     try {
         const WaitCursor waiting;
         const OpenEdit edit(document_, std::string(step::loadSkin));
         notes = readSkin(document_, hostPathOf(folder));
+        document_.setCurrentLayout(menuScreen);
+        emit loaded(before);
     } catch (const std::exception& error) { // a message box tells of it; the document is as before
         prompts_.message(surroundings_.window, qtText(error.what()));
-        return;
+        return false;
     }
+    skinFolder_ = folder;
     emit told(tr("Loaded from %1").arg(folder));
     if (!notes.outside.empty()) {
         prompts_.message(surroundings_.window, qtText(outsideMessage(notes.outside)));
     }
+    return true;
 }
 
 void SkinFileCommands::mnuView_Click() {

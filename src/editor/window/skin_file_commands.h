@@ -43,19 +43,26 @@ class SkinFileCommands : public QObject {
 
     /// The folder of the last save, with a closing separator; empty before the first.
     [[nodiscard]] const QString& saveFolder() const { return saveFolder_; }
+    /// The folder that the skin was last saved to or loaded from; empty for none yet.
+    [[nodiscard]] const QString& skinFolder() const { return skinFolder_; }
+    void setSkinFolder(const QString& folder) { skinFolder_ = folder; }
 
   signals:
+    void saved();
+    /// A skin was read into the document, which was `before` until then; the edit is still open.
+    void loaded(const tarvel::SkinDocument& before);
     /// One line on how a command went, for the status line.
     void told(const QString& text);
 
   private:
     bool saveInto(const QString& folder);
-    void loadFrom(const QString& folder);
+    bool loadFrom(const QString& folder);
 
     SkinDocument& document_;
     Prompts& prompts_;
     Surroundings surroundings_;
     QString saveFolder_;
+    QString skinFolder_;
 };
 
 } // namespace tarvel

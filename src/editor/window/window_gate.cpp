@@ -40,6 +40,7 @@ void WindowGate::disablex(const QWidget& control) {
     for (QAction* menu : window_.menuBar()->actions()) {
         menu->setEnabled(false);
     }
+    emit changed();
 }
 
 void WindowGate::enableAll() {
@@ -53,6 +54,7 @@ void WindowGate::enableAll() {
     for (QAction* menu : window_.menuBar()->actions()) {
         menu->setEnabled(true);
     }
+    emit changed();
 }
 
 } // namespace tarvel

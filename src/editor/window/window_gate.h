@@ -25,6 +25,10 @@ class WindowGate : public QObject {
     void enableAll();
     [[nodiscard]] bool isClosed() const { return closed_; }
 
+  signals:
+    /// isClosed() is another one.
+    void changed();
+
   private:
     QMainWindow& window_;
     std::vector<QPointer<QWidget>> disabled_;

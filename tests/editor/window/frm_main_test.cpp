@@ -89,6 +89,8 @@ void FrmMainTest::hasEveryMenuEntry_data() {
     row("mnuDelete", "mnuRight", "Delete");
     row("mnuCover", "mnuOptions", "Cover objects while moving (to prevent blinking)");
     row("mnuBorders", "mnuOptions", "View safe borders (customize to your TV)");
+    row("mnuUndo", "mnuEdit", "Undo");
+    row("mnuRedo", "mnuEdit", "Redo");
 }
 
 void FrmMainTest::hasEveryMenuEntry() {
@@ -118,7 +120,7 @@ void FrmMainTest::separatorsOfTheElementMenu() {
     for (const QAction* action : editor.window.menuBar()->actions()) {
         bar << action->text();
     }
-    QCOMPARE(bar, QStringList({"Skin", "Configuration", "Background", "Options"}));
+    QCOMPARE(bar, QStringList({"Skin", "Configuration", "Background", "Options", "Edit"}));
     QCOMPARE(editor.find<QMenu>("mnuRight")->title(), QStringLiteral("Right"));
     QCOMPARE(editor.find<QMenu>("mnuRight2")->title(), QStringLiteral("Right"));
 }

@@ -1,0 +1,69 @@
+// A signal may interrupt anything, so its handler only writes its number into a pipe.
+#include "window/end_signals.h"
+
+#include <QSocketNotifier>
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace tarvel {
+
+namespace {
+
+constexpr std::array endSignals = {SIGTERM, SIGINT, SIGHUP};
+constexpr std::size_t readEnd = 0;
+constexpr std::size_t writeEnd = 1;
+
+// The handler can be given nothing.
+std::array<int, 2>& pipeEnds() {
+    static std::array<int, 2> ends{-1, -1};
+    return ends;
+}
+
+extern "C" void noteEndSignal(int signal) {
+    const auto number = static_cast<unsigned char>(signal);
+    [[maybe_unused]] const auto written = ::write(pipeEnds()[writeEnd], &number, 1);
+}
+
+void handle(void (*handler)(int), int flags) {
+    struct sigaction action {};
+    action.sa_handler = handler; // NOLINT: a union of the system
+    action.sa_flags = flags;
+    for (const int signal : endSignals) {
+        ::sigaction(signal, &action, nullptr);
+    }
+}
+
+} // namespace
+
+EndSignals::EndSignals(std::function<void(int)> ended)
+    : ended_(std::move(ended)) {
+    if (::pipe2(pipeEnds().data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        return; // signals end the program as they always do
+    }
+    notifier_ = std::make_unique<QSocketNotifier>(pipeEnds()[readEnd], QSocketNotifier::Read);
+    connect(notifier_.get(), &QSocketNotifier::activated, this, &EndSignals::read);
+    handle(noteEndSignal, static_cast<int>(SA_RESTART | static_cast<int>(SA_RESETHAND)));
+}
+
+EndSignals::~EndSignals() {
+    handle(SIG_DFL, 0);
+    notifier_.reset();
+    for (int& end : pipeEnds()) {
+        if (end >= 0) {
+            ::close(end);
+        }
+        end = -1;
+    }
+}
+
+void EndSignals::read() {
+    unsigned char number = 0;
+    if (::read(pipeEnds()[readEnd], &number, 1) == 1) {
+        ended_(number);
+    }
+}
+
+} // namespace tarvel
