@@ -4,11 +4,13 @@
 //
 // Prints wall time, which is what the user waits, and processor time, which other work on the
 // machine does not bend; the limits are those of the project and apply to the latter.
+#include "document/open_edit.h"
 #include "editing/pick_index.h"
 #include "widgets/panel_slide.h"
 #include "widgets/prompts.h"
 #include "window/frm_main.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFont>
 #include <QListView>
@@ -258,6 +260,8 @@ class Window {
         return *window_.findChild<Widget*>(QLatin1String(name));
     }
 
+    SkinDocument& document() { return window_.document(); }
+
   private:
     QTemporaryDir folder_;
     NoPrompts prompts_;
@@ -280,6 +284,37 @@ Times selectionTimes(Window& window) {
         }
     }
     return times;
+}
+
+/// Undoes and redoes a step in turn, each from the command to the end of the repaint.
+Times undoTimes(Window& window) {
+    PaintCount paints(window.find<QWidget>("Pic"));
+    Times times;
+    constexpr int turns = 50;
+    for (int turn = 0; turn < turns; ++turn) {
+        for (const char* entry : {"mnuUndo", "mnuRedo"}) {
+            times.take([&] {
+                window.find<QAction>(entry).trigger();
+                paints.wait();
+            });
+        }
+    }
+    return times;
+}
+
+/// A step that changes every element, or brings them all.
+void changeAll(SkinDocument& document) {
+    const OpenEdit edit(document, "change all");
+    for (int id = 1; id <= document.lastElementId(); ++id) {
+        document.editElement(id, [](Element& element) { element.elementControl.left += 1; });
+    }
+}
+
+void bringAll(SkinDocument& document, int count) {
+    const OpenEdit edit(document, "bring all");
+    for (const SkinDocument many = documentOf(boxes(count)); document.lastElementId() < count;) {
+        document.addElement(Element(many.element(document.lastElementId() + 1)));
+    }
 }
 
 /// Picks at points all over the screen; `afterChange` lets the rows change before each.
@@ -319,6 +354,19 @@ bool runAll() {
         add("main window, a move among 10,000 boxes", dragTimes(window.find<QWidget>("Pic")),
             {1.5, 5});
         add("selection in a list of 10,000 rows", selectionTimes(window), {5, 0});
+    }
+    constexpr Limits shown = {16, 16};
+    {
+        Window window(many);
+        (void)dragTimes(window.find<QWidget>("Pic"));
+        add("undo and redo of a drag among 10,000 boxes", undoTimes(window), shown);
+        changeAll(window.document());
+        add("the same of a change of all 10,000", undoTimes(window), shown);
+    }
+    {
+        Window window(0);
+        bringAll(window.document(), many);
+        add("the same of 10,000 new ones", undoTimes(window), shown);
     }
     add("bare widget, a move among 100 boxes", bareDragTimes(few), {});
     {

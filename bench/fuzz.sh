@@ -43,23 +43,38 @@ seeds() {
     done
 }
 
-failed=0
-for target in "${targets[@]}"; do
+# Feeds one target, and says how it went.
+feed() {
+    local target=$1 log=build/fuzz/$1.log code=0 runs covered
     seeds "$target"
-    mkdir -p "build/fuzz/corpus/$target" build/fuzz/found
-    log=build/fuzz/$target.log
-    code=0
+    mkdir -p "build/fuzz/corpus/$target"
     build/fuzz/src/"fuzz_$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
         -max_len=65536 -print_final_stats=1 -artifact_prefix="build/fuzz/found/$target-" \
         "build/fuzz/corpus/$target" "build/fuzz/seeds/$target" >"$log" 2>&1 || code=$?
     runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
     covered=$(grep -o 'cov: [0-9]*' "$log" | tail -n 1)
-    if [ "$code" -eq 0 ]; then
-        echo "$target: $runs inputs in $seconds s, ${covered:-cov: 0}"
-    else
+    if [ "$code" -ne 0 ]; then
         echo "$target: failed, see $log" >&2
         grep -m 1 -E 'ERROR|runtime error' "$log" >&2 || tail -n 5 "$log" >&2
-        failed=1
+        return 1
     fi
+    echo "$target: $runs inputs in $seconds s, ${covered:-cov: 0}"
+}
+
+# As many at once as there are cores.
+mkdir -p build/fuzz/found
+failed=0
+running=0
+for target in "${targets[@]}"; do
+    if [ "$running" -eq "$(nproc)" ]; then
+        wait -n || failed=1
+        running=$((running - 1))
+    fi
+    feed "$target" &
+    running=$((running + 1))
+done
+while [ "$running" -gt 0 ]; do
+    wait -n || failed=1
+    running=$((running - 1))
 done
 exit $failed

@@ -18,7 +18,7 @@ namespace tarvel {
 
 namespace {
 
-constexpr std::chrono::milliseconds keepAfter(1000);
+constexpr std::chrono::milliseconds keepAfter(800);
 
 constexpr auto lostQuestion = "The last run ended before your work was saved. Bring it back?";
 

@@ -88,10 +88,9 @@ WorkPlace WorkHistory::place() const {
 
 void WorkHistory::goTo(const WorkPlace& place) {
     const int row = place.leading == 0 ? -1 : parts_.document.rowOf(place.screen, place.leading);
+    parts_.properties.takeValues(place.panel); // also what the selected element has no part in
     parts_.selection.select(row);
-    if (row < 0) {
-        parts_.properties.takeValues(place.panel);
-    } else if (parts_.document.element(place.leading).elementLocked) {
+    if (row >= 0 && parts_.document.element(place.leading).elementLocked) {
         parts_.marks.hideSels(); // what is locked is a part of the ground
     }
 }
