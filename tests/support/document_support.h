@@ -128,6 +128,8 @@ class RecordingObserver : public DocumentObserver {
             return "rowText";
         case What::element:
             return "element";
+        case What::elements:
+            return "elements";
         case What::counts:
             return "counts";
         }

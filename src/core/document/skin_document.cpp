@@ -113,11 +113,6 @@ void SkinDocument::showVersion(const SkinDocument& version, int screen) {
     state_.lastElementId = lastElementId;
     state_.currentLayout = screen;
     resourceIndex_ = {};
-    constexpr std::size_t fewElements = 256; // cost less one by one than all at once
-    if (changed.size() > fewElements) {
-        tell({DocumentChange::What::everything});
-        return;
-    }
     if (before.currentLayout != screen) {
         tell({DocumentChange::What::currentLayout, screen});
     }
@@ -133,12 +128,20 @@ void SkinDocument::showVersion(const SkinDocument& version, int screen) {
     if (before.settings != state_.settings) {
         tell({DocumentChange::What::settings});
     }
-    tellOfElements(changed);
+    tellOfElements(changed, changed);
 }
 
-void SkinDocument::tellOfElements(const std::vector<int>& ids) {
+void SkinDocument::tellOfElements(const std::vector<int>& ids,
+                                  const std::vector<int>& relabelled) const {
+    constexpr std::size_t fewElements = 64; // cost less one by one than all at once
+    if (ids.size() > fewElements) {
+        tell({DocumentChange::What::elements});
+        return;
+    }
     for (const int id : ids) {
         tell({DocumentChange::What::element, element(id).elementLayout, id});
+    }
+    for (const int id : relabelled) {
         tell({DocumentChange::What::rowText, element(id).elementLayout, id});
     }
 }
@@ -237,6 +240,28 @@ void SkinDocument::delItem(int row) {
     const int screen = state_.currentLayout;
     auto& list = state_.lst.at(at(screen)).edit();
     list.erase(list.begin() + row);
+    tell({DocumentChange::What::rows, screen});
+}
+
+void SkinDocument::delItems(const std::vector<int>& rows) {
+    const int screen = state_.currentLayout;
+    auto& list = state_.lst.at(at(screen)).edit();
+    Rows kept;
+    kept.reserve(list.size());
+    auto next = rows.begin();
+    for (int row = 0; row < static_cast<int>(list.size()); ++row) {
+        if (next != rows.end() && *next == row) {
+            ++next;
+        } else {
+            kept.push_back(list[at(row)]);
+        }
+    }
+    list = std::move(kept);
+    tell({DocumentChange::What::rows, screen});
+}
+
+void SkinDocument::setRowOrder(int screen, std::vector<int> ids) {
+    state_.lst.at(at(screen)).edit() = std::move(ids);
     tell({DocumentChange::What::rows, screen});
 }
 

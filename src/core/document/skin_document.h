@@ -91,6 +91,20 @@ class SkinDocument {
         edit(state_.elements.edit(static_cast<std::size_t>(id) - 1));
         tell({DocumentChange::What::element, element(id).elementLayout, id});
     }
+    /// Calls edit(Element&) for each of many elements; ids 1 to lastElementId(), none twice. Tells
+    /// of few of them one by one, and of many at once.
+    template <class Edit> void editElements(const std::vector<int>& ids, Edit&& edit) {
+        std::vector<int> relabelled;
+        for (const int id : ids) {
+            Element& element = state_.elements.edit(static_cast<std::size_t>(id) - 1);
+            const std::string label = element.label;
+            edit(element);
+            if (element.label != label) {
+                relabelled.push_back(id);
+            }
+        }
+        tellOfElements(ids, relabelled);
+    }
     /// Gives the element the next id and the last row of the current screen, and counts it there.
     int addElement(Element&& element);
 
@@ -102,9 +116,13 @@ class SkinDocument {
     [[nodiscard]] int rowOf(int screen, int elementId) const;
     void setRowText(int screen, int row, std::string text);
     void moveRow(int screen, int from, int to);
+    /// Gives the rows another order; `ids` are those of the list, each once.
+    void setRowOrder(int screen, std::vector<int> ids);
     /// Takes the row out of the current screen's list, and with it the element off the screen.
     /// Leaves its record and the screen's count as they are.
     void delItem(int row);
+    /// The same with several rows, from the back to the front.
+    void delItems(const std::vector<int>& rows);
 
     [[nodiscard]] const SkinSettings& settings() const { return state_.settings.get(); }
     /// Calls edit(SkinSettings&) and tells the observers. Meanwhile resources are not looked up.
@@ -154,7 +172,7 @@ class SkinDocument {
         observers_.each([&](DocumentObserver& observer) { observer.documentChanged(change); });
     }
     [[nodiscard]] const Rows& rows(int screen) const;
-    void tellOfElements(const std::vector<int>& ids);
+    void tellOfElements(const std::vector<int>& ids, const std::vector<int>& relabelled) const;
 
     // Made when it is worth it. It goes along with the settings that it was made of.
     struct IndexOfResources {

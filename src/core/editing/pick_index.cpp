@@ -29,6 +29,7 @@ void PickIndex::documentChanged(const DocumentChange& change) {
     switch (change.what) {
     case What::everything:
     case What::currentLayout:
+    case What::elements:
         stale_ = true;
         break;
     case What::rows:

@@ -1,7 +1,8 @@
 // Moves, deletes and locks rows of the current screen, and keeps the counts with them.
 #include "editing/stacking.h"
 
-#include <string>
+#include <algorithm>
+#include <utility>
 
 namespace tarvel {
 
@@ -11,9 +12,44 @@ bool isLocked(const SkinDocument& document, int row) {
     return document.element(document.itemData(document.currentLayout(), row)).elementLocked;
 }
 
-void setLocked(SkinDocument& document, int row, bool locked) {
-    document.editElement(document.itemData(document.currentLayout(), row),
-                         [&](Element& element) { element.elementLocked = locked; });
+std::vector<int> idsOf(const SkinDocument& document) {
+    const int screen = document.currentLayout();
+    std::vector<int> ids(static_cast<std::size_t>(document.rowCount(screen)));
+    for (std::size_t row = 0; row < ids.size(); ++row) {
+        ids[row] = document.itemData(screen, static_cast<int>(row));
+    }
+    return ids;
+}
+
+// Of the rows between `first` and the last: the chosen ones to the end of the list, or to `first`.
+std::vector<int> gathered(const std::vector<int>& ids, const std::vector<bool>& isChosen,
+                          std::size_t first, bool toEnd) {
+    std::vector<int> order(ids.begin(), ids.begin() + static_cast<std::ptrdiff_t>(first));
+    for (const bool chosen : {!toEnd, toEnd}) {
+        for (std::size_t row = first; row < ids.size(); ++row) {
+            if (isChosen[row] == chosen) {
+                order.push_back(ids[row]);
+            }
+        }
+    }
+    return order;
+}
+
+// Each chosen row changes places with the next one that is not chosen, in one direction.
+std::vector<int> shifted(std::vector<int> ids, std::vector<bool> isChosen, std::size_t first,
+                         bool forward) {
+    const std::size_t last = ids.size() - 1;
+    for (std::size_t i = first; i < last; ++i) {
+        // From the side that they move to, so that each finds its neighbour moved already.
+        const std::size_t from = forward ? last - 1 - (i - first) : i + 1;
+        const std::size_t to = forward ? from + 1 : from - 1;
+        if (isChosen[from] && !isChosen[to]) {
+            std::swap(ids[from], ids[to]);
+            isChosen[from] = false;
+            isChosen[to] = true;
+        }
+    }
+    return ids;
 }
 
 } // namespace
@@ -46,51 +82,80 @@ int restack(SkinDocument& document, int row, StackingCommand command) {
     return target;
 }
 
-bool deleteRow(SkinDocument& document, int row) {
-    if (row < 0) {
-        return false;
+bool restackRows(SkinDocument& document, const std::vector<int>& rows, StackingCommand command) {
+    const std::vector<int> ids = idsOf(document);
+    std::vector<bool> isChosen(ids.size());
+    for (const int row : rows) {
+        isChosen[static_cast<std::size_t>(row)] = !isLocked(document, row);
     }
     const int screen = document.currentLayout();
-    const bool wasLocked = isLocked(document, row);
-    document.delItem(row);
-    document.setScreenElementCount(screen, document.screenElementCount(screen) - 1);
-    if (wasLocked) {
-        document.setLockCount(screen, document.lockCount(screen) - 1);
+    const auto first = static_cast<std::size_t>(document.lockCount(screen));
+    if (first >= ids.size()) {
+        return false;
     }
-    return wasLocked;
+    const bool forward = command == StackingCommand::Front || command == StackingCommand::Forward;
+    const bool byOne = command == StackingCommand::Forward || command == StackingCommand::Backward;
+    std::vector<int> order =
+        byOne ? shifted(ids, isChosen, first, forward) : gathered(ids, isChosen, first, forward);
+    if (order == ids) {
+        return false;
+    }
+    document.setRowOrder(screen, std::move(order));
+    return true;
+}
+
+bool deleteRow(SkinDocument& document, int row) {
+    return row >= 0 && deleteRows(document, {row});
+}
+
+bool deleteRows(SkinDocument& document, const std::vector<int>& rows) {
+    const int screen = document.currentLayout();
+    const auto locked = static_cast<int>(
+        std::count_if(rows.begin(), rows.end(), [&](int row) { return isLocked(document, row); }));
+    document.delItems(rows);
+    document.setScreenElementCount(screen, document.screenElementCount(screen) -
+                                               static_cast<int>(rows.size()));
+    if (locked > 0) {
+        document.setLockCount(screen, document.lockCount(screen) - locked);
+    }
+    return locked > 0;
 }
 
 bool lockRows(SkinDocument& document, int row) {
     if (row < 0 || isLocked(document, row)) {
         return false;
     }
-    const int screen = document.currentLayout();
+    std::vector<int> ids;
     for (int each = 0; each <= row; ++each) {
         if (!isLocked(document, each)) {
-            setLocked(document, each, true);
-            document.setRowText(screen, each,
-                                std::string(lockPrefix).append(document.rowText(screen, each)));
+            ids.push_back(document.itemData(document.currentLayout(), each));
         }
     }
-    document.setLockCount(screen, row + 1);
+    document.editElements(ids, [](Element& element) {
+        element.elementLocked = true;
+        element.label.insert(0, lockPrefix);
+    });
+    document.setLockCount(document.currentLayout(), row + 1);
     return true;
 }
 
 bool unlockRows(SkinDocument& document) {
     const int screen = document.currentLayout();
-    bool changed = false;
+    std::vector<int> ids;
     for (int row = 0; row < document.rowCount(screen); ++row) {
         if (isLocked(document, row)) {
-            setLocked(document, row, false);
-            document.setRowText(screen, row,
-                                document.rowText(screen, row).substr(lockPrefix.size()));
-            changed = true;
+            ids.push_back(document.itemData(screen, row));
         }
     }
-    if (changed) {
-        document.setLockCount(screen, 0);
+    if (ids.empty()) {
+        return false;
     }
-    return changed;
+    document.editElements(ids, [](Element& element) {
+        element.elementLocked = false;
+        element.label.erase(0, lockPrefix.size());
+    });
+    document.setLockCount(screen, 0);
+    return true;
 }
 
 } // namespace tarvel

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace tarvel {
 
@@ -20,10 +21,17 @@ enum class StackingCommand : std::uint8_t { Front, Back, Forward, Backward };
 /// Carries out the command and returns the row to be selected afterwards: that of the same element.
 int restack(SkinDocument& document, int row, StackingCommand command);
 
+/// Carries out the command for several rows, from the back to the front, which keep their order
+/// among each other. Returns whether anything moved.
+bool restackRows(SkinDocument& document, const std::vector<int>& rows, StackingCommand command);
+
 /// Takes the row's element off the screen and lowers the screen's element count, and for a locked
 /// row its lock count too. Returns whether the row was locked, so that the flat picture of the
 /// locked rows is out of date.
 bool deleteRow(SkinDocument& document, int row);
+
+/// The same with several rows, from the back to the front. Returns whether one of them was locked.
+bool deleteRows(SkinDocument& document, const std::vector<int>& rows);
 
 /// What the text of a locked row begins with.
 inline constexpr std::string_view lockPrefix = "(L) ";

@@ -78,6 +78,7 @@ void LayoutPanel::documentChanged(const DocumentChange& change) {
     case DocumentChange::What::rows:
     case DocumentChange::What::rowText:
     case DocumentChange::What::element:
+    case DocumentChange::What::elements:
         break;
     }
 }

@@ -19,6 +19,7 @@ void LockedGround::documentChanged(const DocumentChange& change) {
     const int locked = document_.lockCount(screen);
     const bool inGround = change.what == DocumentChange::What::settings ||
                           change.what == DocumentChange::What::everything ||
+                          change.what == DocumentChange::What::elements ||
                           (change.what == DocumentChange::What::element &&
                            document_.element(change.elementId).elementLocked);
     if (screen != screen_) {

@@ -86,6 +86,10 @@ void Pic::documentChanged(const DocumentChange& change) {
         update();
         catchUpLater();
         break;
+    case What::elements:
+        update();
+        catchUpLater();
+        break;
     case What::settings:
         settingsChanged();
         break;

@@ -69,15 +69,11 @@ void RecoveryKeeper::keepLater() {
 }
 
 WorkState RecoveryKeeper::stateNow() const {
-    WorkState state{.document = work_.document,
-                    .selected = {},
-                    .leading = work_.selection.curNum(),
-                    .folder = coreText(work_.folder()),
-                    .keptAt = QDateTime::currentMSecsSinceEpoch()};
-    if (state.leading != 0) {
-        state.selected = {state.leading};
-    }
-    return state;
+    return {.document = work_.document,
+            .selected = work_.selection.ids(),
+            .leading = work_.selection.curNum(),
+            .folder = coreText(work_.folder()),
+            .keptAt = QDateTime::currentMSecsSinceEpoch()};
 }
 
 // The thread works on a copy of the document, which costs nothing to make.
@@ -160,9 +156,8 @@ std::optional<WorkState> RecoveryKeeper::readOrSetAside(const std::filesystem::p
 
 void RecoveryKeeper::bringBack(WorkState&& state) {
     SkinDocument& document = work_.document;
-    const int leading = state.leading;
     document = std::move(state.document);
-    work_.selection.select(leading == 0 ? -1 : document.rowOf(document.currentLayout(), leading));
+    work_.selection.selectIds(state.selected);
     work_.history.startOver(false);
     work_.broughtBack(state);
     emit told(tr("The work of the last run is back; it is not saved yet."));

@@ -22,7 +22,9 @@ SelectionViews::SelectionViews(const SkinDocument& document, Selection& selectio
     , selectionWatch_(selection.watch(*this)) {}
 
 void SelectionViews::documentChanged(const DocumentChange& change) {
-    if (change.what == DocumentChange::What::element && change.elementId == selection_.curNum()) {
+    const bool itsOwn =
+        change.what == DocumentChange::What::element && selection_.contains(change.elementId);
+    if (itsOwn || change.what == DocumentChange::What::elements) {
         setCurrentSel();
         setBolds();
         showDifference();

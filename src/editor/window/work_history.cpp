@@ -76,21 +76,16 @@ void WorkHistory::historyChanged() {
 }
 
 WorkPlace WorkHistory::place() const {
-    WorkPlace place{.screen = parts_.document.currentLayout(),
-                    .selected = {},
-                    .leading = parts_.selection.curNum(),
-                    .panel = parts_.properties.values()};
-    if (place.leading != 0) {
-        place.selected = {place.leading};
-    }
-    return place;
+    return {.screen = parts_.document.currentLayout(),
+            .selected = parts_.selection.ids(),
+            .leading = parts_.selection.curNum(),
+            .panel = parts_.properties.values()};
 }
 
 void WorkHistory::goTo(const WorkPlace& place) {
-    const int row = place.leading == 0 ? -1 : parts_.document.rowOf(place.screen, place.leading);
     parts_.properties.takeValues(place.panel); // also what the selected element has no part in
-    parts_.selection.select(row);
-    if (row >= 0 && parts_.document.element(place.leading).elementLocked) {
+    parts_.selection.selectIds(place.selected);
+    if (place.leading != 0 && parts_.document.element(place.leading).elementLocked) {
         parts_.marks.hideSels(); // what is locked is a part of the ground
     }
 }
