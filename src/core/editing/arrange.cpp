@@ -211,11 +211,7 @@ bool arrange(SkinDocument& document, std::span<const int> ids, int leading,
     if (rule.down) {
         workOut(group, leading, rule, Axis::down);
     }
-    bool changed = false;
-    for (const StartPlace& part : group.parts) {
-        changed = placeElement(document, part.elementId, part.place) || changed;
-    }
-    return changed;
+    return placeAll(document, group.parts);
 }
 
 bool isPossible(const SkinDocument& document, std::span<const int> ids, int leading,

@@ -101,4 +101,23 @@ Place fittedAlong(const StartPlace& start, Axis axis, const Extent& extent) {
     return place;
 }
 
+bool placeAll(SkinDocument& document, std::span<const StartPlace> places) {
+    std::vector<int> ids;
+    std::vector<const Place*> targets;
+    for (const StartPlace& each : places) {
+        if (isMovable(document, each.elementId) &&
+            placeOf(document.element(each.elementId).elementControl) != each.place) {
+            ids.push_back(each.elementId);
+            targets.push_back(&each.place);
+        }
+    }
+    if (ids.empty()) {
+        return false;
+    }
+    auto target = targets.begin();
+    document.editElements(ids,
+                          [&](Element& element) { setPlace(element.elementControl, **target++); });
+    return true;
+}
+
 } // namespace tarvel

@@ -68,4 +68,8 @@ struct StartPlace {
 /// extent along the axis has nothing to stretch and stays there.
 [[nodiscard]] Place fittedAlong(const StartPlace& start, Axis axis, const Extent& extent);
 
+/// Puts the elements where `places` say, and tells of all at once. What is locked or there already
+/// stays. Returns whether the document was changed.
+bool placeAll(SkinDocument& document, std::span<const StartPlace> places);
+
 } // namespace tarvel

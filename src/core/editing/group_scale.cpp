@@ -85,26 +85,40 @@ bool scaleAll(SkinDocument& document, std::span<const StartPlace> starts, const 
     }
     const Bounds before = boundsOf(from, PlaceForm::rectangle);
     const Bounds after = boundsOf(to, PlaceForm::rectangle);
-    bool changed = false;
-    for (StartPlace part : starts) {
+    std::vector<StartPlace> parts(starts.begin(), starts.end());
+    for (StartPlace& part : parts) {
         part.place = scaledAlong(part, {before.across, after.across}, Axis::across);
         part.place = scaledAlong(part, {before.down, after.down}, Axis::down);
-        changed = placeElement(document, part.elementId, part.place) || changed;
     }
-    return changed;
+    return placeAll(document, parts);
 }
 
 bool moveAll(SkinDocument& document, std::span<const StartPlace> starts, double dx, double dy) {
     if (!std::isfinite(dx) || !std::isfinite(dy)) {
         return false;
     }
-    bool changed = false;
-    for (StartPlace part : starts) {
+    std::vector<StartPlace> parts(starts.begin(), starts.end());
+    for (StartPlace& part : parts) {
         part.place = movedAlong(part, Axis::across, dx);
         part.place = movedAlong(part, Axis::down, dy);
-        changed = placeElement(document, part.elementId, part.place) || changed;
     }
-    return changed;
+    return placeAll(document, parts);
+}
+
+bool moveAllByKey(SkinDocument& document, std::span<const StartPlace> starts, ArrowKey key,
+                  int modifiers) {
+    const int step = keyStep(modifiers);
+    switch (key) {
+    case ArrowKey::Left:
+        return moveAll(document, starts, -step, 0);
+    case ArrowKey::Right:
+        return moveAll(document, starts, step, 0);
+    case ArrowKey::Up:
+        return moveAll(document, starts, 0, -step);
+    case ArrowKey::Down:
+        return moveAll(document, starts, 0, step);
+    }
+    return false;
 }
 
 } // namespace tarvel

@@ -9,6 +9,7 @@
 #include "document/element_place.h"
 #include "editing/group_places.h"
 #include "editing/hit_test.h"
+#include "editing/manipulation.h"
 
 #include <span>
 
@@ -40,5 +41,8 @@ bool scaleAll(SkinDocument& document, std::span<const StartPlace> starts, const 
 /// Puts every element at its start place moved by dx, dy; 0, 0 puts them back. Of lines both ends
 /// move. An offset that is not finite changes nothing.
 bool moveAll(SkinDocument& document, std::span<const StartPlace> starts, double dx, double dy);
+/// The same by an arrow key, as far as it moves a single element.
+bool moveAllByKey(SkinDocument& document, std::span<const StartPlace> starts, ArrowKey key,
+                  int modifiers);
 
 } // namespace tarvel

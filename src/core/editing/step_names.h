@@ -1,15 +1,17 @@
 // What steps are called where they can be taken back: "move Box".
 #pragma once
 
-#include "document/element.h"
+#include "document/skin_document.h"
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvel {
 
 /// What a step does to an element; the name of the element's kind follows.
 namespace step {
+inline constexpr std::string_view select = "select"; ///< which changes nothing
 inline constexpr std::string_view draw = "draw";
 inline constexpr std::string_view move = "move";
 inline constexpr std::string_view size = "size";
@@ -44,5 +46,9 @@ inline constexpr std::string_view resources = "change resources";
 [[nodiscard]] inline std::string stepName(std::string_view what, const Element& element) {
     return stepName(what, element.elementKind);
 }
+
+/// The name of a step with elements of the document: the kind of a single one, else their number.
+[[nodiscard]] std::string stepName(std::string_view what, const SkinDocument& document,
+                                   const std::vector<int>& ids);
 
 } // namespace tarvel

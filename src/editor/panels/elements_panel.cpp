@@ -13,28 +13,49 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_set>
 
 namespace tarvel {
 
 class ElementListView : public QListView {
   public:
-    /// The selected row; -1 for none.
-    [[nodiscard]] int listIndex() const {
-        const QModelIndexList rows = selectionModel()->selectedIndexes();
-        return rows.isEmpty() ? -1 : rows.front().row();
+    /// The selected rows, from the back to the front.
+    [[nodiscard]] std::vector<int> selectedRows() const {
+        std::vector<int> rows;
+        for (const QModelIndex& index : selectionModel()->selectedIndexes()) {
+            rows.push_back(index.row());
+        }
+        std::sort(rows.begin(), rows.end());
+        return rows;
     }
 
-    void setListIndex(int row) {
-        if (row < 0) {
+    /// Selects rows, given from the back to the front; `leading` is one of them, or -1 for none.
+    void setSelectedRows(const std::vector<int>& rows, int leading) {
+        if (rows.empty()) {
             selectionModel()->clear();
-        } else if (row != listIndex()) {
-            const QModelIndex index = model()->index(row, 0);
-            selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        } else if (rows != selectedRows() || leading != currentIndex().row()) {
+            const QModelIndex index = model()->index(leading, 0);
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+            selectionModel()->select(rangesOf(rows), QItemSelectionModel::ClearAndSelect);
             scrollTo(index);
         }
     }
 
   protected:
+    [[nodiscard]] QItemSelection rangesOf(const std::vector<int>& rows) const {
+        QItemSelection ranges;
+        for (auto first = rows.begin(); first != rows.end();) {
+            auto last = first;
+            while (last + 1 != rows.end() && *(last + 1) == *last + 1) {
+                ++last;
+            }
+            ranges.select(model()->index(*first, 0), model()->index(*last, 0));
+            first = last + 1;
+        }
+        return ranges;
+    }
+
     // The right button asks for the menu of what is selected. Without a row under it, it would
     // take the selection away first.
     void mousePressEvent(QMouseEvent* event) override {
@@ -69,7 +90,7 @@ ElementListView* ElementsPanel::makeList(int screen) {
                        QStringLiteral("Elements of %1").arg(caption));
     list->setModel(&model(screen));
     list->setUniformItemSizes(true); // thousands of rows open at once
-    list->setSelectionMode(QAbstractItemView::SingleSelection);
+    list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setTextElideMode(Qt::ElideRight); // the tool tip shows the whole text
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -83,10 +104,34 @@ ElementListView* ElementsPanel::makeList(int screen) {
     return list;
 }
 
+// What was selected before keeps its order; of what came, the row that the hand was at leads.
 void ElementsPanel::lst_Click(int screen) {
-    if (!following_ && screen == document_.currentLayout()) {
-        selection_.select(lst_.at(static_cast<std::size_t>(screen))->listIndex());
+    if (following_ || screen != document_.currentLayout()) {
+        return;
     }
+    const ElementListView& list = *lst_.at(static_cast<std::size_t>(screen));
+    const std::vector<int> rows = list.selectedRows();
+    if (rows.size() <= 1) {
+        selection_.select(rows.empty() ? -1 : rows.front());
+        return;
+    }
+    std::vector<int> chosen;
+    for (const int row : rows) {
+        chosen.push_back(document_.itemData(screen, row));
+    }
+    std::vector<int> ids;
+    const std::unordered_set<int> isChosen(chosen.begin(), chosen.end());
+    std::copy_if(selection_.ids().begin(), selection_.ids().end(), std::back_inserter(ids),
+                 [&](int id) { return isChosen.count(id) > 0; });
+    std::copy_if(chosen.begin(), chosen.end(), std::back_inserter(ids),
+                 [&](int id) { return !selection_.contains(id); });
+    const int current = list.currentIndex().row();
+    if (std::binary_search(rows.begin(), rows.end(), current)) {
+        const int leading = document_.itemData(screen, current);
+        std::erase(ids, leading);
+        ids.push_back(leading);
+    }
+    selection_.selectIds(ids);
 }
 
 void ElementsPanel::askForMenu(const QListView& list, QPoint point) {
@@ -100,7 +145,7 @@ void ElementsPanel::askForMenu(const QListView& list, QPoint point) {
 void ElementsPanel::selectionChanged() {
     const QScopedValueRollback following(following_, true);
     lst_.at(static_cast<std::size_t>(document_.currentLayout()))
-        ->setListIndex(selection_.leadingRow());
+        ->setSelectedRows(selection_.rows(), selection_.leadingRow());
 }
 
 void ElementsPanel::documentChanged(const DocumentChange& change) {

@@ -1,6 +1,7 @@
-// Moves and sizes the selected element along with the pointer.
+// Moves and sizes what is selected along with the pointer.
 #include "surface/edit_tools.h"
 
+#include "editing/group_scale.h"
 #include "editing/step_names.h"
 
 namespace tarvel {
@@ -8,7 +9,7 @@ namespace tarvel {
 namespace {
 
 std::string nameOf(std::string_view verb, ToolHost& host) {
-    return stepName(verb, host.document().element(host.selection().curNum()));
+    return stepName(verb, host.document(), host.selection().ids());
 }
 
 } // namespace
@@ -41,6 +42,50 @@ void ResizeTool::release(SkinPoint /*point*/) {}
 
 void ResizeTool::takeBack() {
     drag_.takeBack(host_.document());
+}
+
+GroupMoveTool::GroupMoveTool(ToolHost& host, int pressedId, SkinPoint press)
+    : CanvasTool(host.document(), nameOf(step::move, host))
+    , host_(host)
+    , pressedId_(pressedId)
+    , press_(press)
+    , starts_(startPlaces(host.document(), host.selection().ids())) {}
+
+void GroupMoveTool::move(SkinPoint point, bool /*keepProportions*/) {
+    moved_ = moved_ || point != press_;
+    (void)moveAll(host_.document(), starts_, double{point.x} - press_.x,
+                  double{point.y} - press_.y);
+}
+
+void GroupMoveTool::release(SkinPoint /*point*/) {
+    if (!moved_) {
+        const SkinDocument& document = host_.document();
+        host_.selection().select(document.rowOf(document.currentLayout(), pressedId_));
+    }
+}
+
+void GroupMoveTool::takeBack() {
+    (void)placeAll(host_.document(), starts_);
+}
+
+GroupScaleTool::GroupScaleTool(ToolHost& host, Handle handle, SkinPoint press)
+    : CanvasTool(host.document(), nameOf(step::size, host))
+    , host_(host)
+    , handle_(handle)
+    , press_(press)
+    , starts_(startPlaces(host.document(), host.selection().ids()))
+    , frame_(commonFrame(starts_)) {}
+
+void GroupScaleTool::move(SkinPoint point, bool keepProportions) {
+    const Place frame =
+        resized(frame_, handle_, point.x - press_.x, point.y - press_.y, keepProportions);
+    (void)scaleAll(host_.document(), starts_, frame_, frame);
+}
+
+void GroupScaleTool::release(SkinPoint /*point*/) {}
+
+void GroupScaleTool::takeBack() {
+    (void)placeAll(host_.document(), starts_);
 }
 
 LineEndTool::LineEndTool(ToolHost& host, Handle end, SkinPoint press)

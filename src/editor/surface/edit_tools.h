@@ -1,6 +1,7 @@
-// The tools that work on the selected element: moving it, sizing it, moving a line's end.
+// The tools that work on what is selected: moving it, sizing it, moving a line's end.
 #pragma once
 
+#include "editing/group_places.h"
 #include "editing/manipulation.h"
 #include "surface/canvas_tool.h"
 
@@ -32,6 +33,42 @@ class ResizeTool : public CanvasTool {
 
     ToolHost& host_;
     ResizeDrag drag_;
+};
+
+/// Moves all selected elements. A press without a drag selects the pressed one alone.
+class GroupMoveTool : public CanvasTool {
+  public:
+    GroupMoveTool(ToolHost& host, int pressedId, SkinPoint press);
+
+    void move(SkinPoint point, bool keepProportions) override;
+    void release(SkinPoint point) override;
+
+  private:
+    void takeBack() override;
+
+    ToolHost& host_;
+    int pressedId_;
+    SkinPoint press_;
+    std::vector<StartPlace> starts_;
+    bool moved_ = false;
+};
+
+/// Scales all selected elements by a handle of the frame around them.
+class GroupScaleTool : public CanvasTool {
+  public:
+    GroupScaleTool(ToolHost& host, Handle handle, SkinPoint press);
+
+    void move(SkinPoint point, bool keepProportions) override;
+    void release(SkinPoint point) override;
+
+  private:
+    void takeBack() override;
+
+    ToolHost& host_;
+    Handle handle_;
+    SkinPoint press_;
+    std::vector<StartPlace> starts_;
+    Place frame_;
 };
 
 class LineEndTool : public CanvasTool {

@@ -2,7 +2,10 @@
 #include "surface/selection_marks.h"
 
 #include "document/element_kinds.h"
+#include "editing/group_places.h"
 #include "editing/hit_test.h"
+#include "surface/group_marks.h"
+#include "surface/mark_painting.h"
 #include "surface/pic.h"
 #include "surface/surface_geometry.h"
 #include "widgets/qt_text.h"
@@ -18,14 +21,7 @@ namespace tarvel {
 
 namespace {
 
-constexpr int handleSide = 7; // pixels, odd: a handle has a middle
-constexpr int margin = handleSide / 2;
-const QColor markColor(0, 140, 255);
-
-void paintHandle(QPainter& painter, const QRectF& rect) {
-    painter.fillRect(rect, markColor);
-    painter.fillRect(rect.adjusted(1, 1, -1, -1), Qt::white);
-}
+constexpr int margin = markMargin;
 
 } // namespace
 
@@ -36,7 +32,8 @@ class SelectionBox : public QWidget {
         : QWidget(&surface)
         , surface_(surface) {}
 
-    void show(const Element& element) {
+    /// Without handles what is selected beside it is sized along with it, by other handles.
+    void show(const Element& element, bool withHandles) {
         const ElementControl& control = element.elementControl;
         // Places may be as far out as numbers go, windows may not.
         const QRectF skin =
@@ -44,6 +41,7 @@ class SelectionBox : public QWidget {
                                std::max(control.height, 0.0F)));
         const QRect near = surface_.mapping().toWidget(skin).toAlignedRect();
         element_ = element;
+        withHandles_ = withHandles;
         setGeometry(near.adjusted(-margin, -margin, margin, margin));
         update();
         raise();
@@ -55,17 +53,13 @@ class SelectionBox : public QWidget {
         QPainter painter(this);
         // Around the element's pixels, whose own border shows inside it.
         const QRectF outline = QRectF(rect()).adjusted(margin - 1, margin - 1, -margin, -margin);
-        // Two colours, so that the outline shows on any ground.
-        painter.setPen(QPen(Qt::black, 1));
-        painter.drawRect(outline);
-        painter.setPen(
-            QPen(element_.elementLocked ? QColor(Qt::gray) : markColor, 1, Qt::DashLine));
-        painter.drawRect(outline);
+        paintOutline(painter, outline, element_.elementLocked ? QColor(Qt::gray) : markColor(),
+                     withHandles_ ? Qt::DashLine : Qt::SolidLine);
         constexpr std::array handles = {Handle::topLeft,    Handle::top,         Handle::topRight,
                                         Handle::right,      Handle::bottomRight, Handle::bottom,
                                         Handle::bottomLeft, Handle::left};
         for (const Handle handle : handles) {
-            if (hasHandle(element_, handle)) {
+            if (withHandles_ && hasHandle(element_, handle)) {
                 const HandleEdges edges = edgesOf(handle);
                 const QPointF centre(outline.left() + (edges.x + 1) * outline.width() / 2,
                                      outline.top() + (edges.y + 1) * outline.height() / 2);
@@ -79,6 +73,7 @@ class SelectionBox : public QWidget {
   private:
     const Pic& surface_;
     Element element_;
+    bool withHandles_ = true;
 };
 
 class LineEndMark : public QWidget {
@@ -134,12 +129,26 @@ SelectionMarks::SelectionMarks(Pic& surface)
     , fraResize1_(prepared(new LineEndMark(surface, 1)))
     , fraResize2_(prepared(new LineEndMark(surface, 2))) {
     fraSel_->setObjectName(QStringLiteral("fraSel"));
+    group_ = new GroupMarks(surface);
 }
 
 void SelectionMarks::setSel(const Element& element) {
     fraResize1_->setVisible(false);
     fraResize2_->setVisible(false);
-    fraSel_->show(element);
+    group_->setVisible(false);
+    fraSel_->show(element, true);
+}
+
+void SelectionMarks::setSeveral(const SkinDocument& document, const std::vector<int>& ids) {
+    hideSels();
+    const Element& leading = document.element(ids.back());
+    group_->show(startPlaces(document, ids), ids.back());
+    if (!hasEnds(leading.elementControl)) {
+        fraSel_->show(leading, false);
+    } else if (!leading.elementLocked) {
+        fraResize1_->showAt(handleCentre(leading.elementControl, Handle::firstEnd));
+        fraResize2_->showAt(handleCentre(leading.elementControl, Handle::secondEnd));
+    }
 }
 
 void SelectionMarks::setSelLine(const Element& element) {
@@ -160,6 +169,7 @@ void SelectionMarks::setCurrentSel(const Element& element) {
 }
 
 void SelectionMarks::hideSels() {
+    group_->setVisible(false);
     fraSel_->setVisible(false);
     fraResize1_->setVisible(false);
     fraResize2_->setVisible(false);

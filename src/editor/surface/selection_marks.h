@@ -1,14 +1,16 @@
-// The marks of the selected element on the surface: a box with handles, or two line ends.
+// The marks of what is selected on the surface: a box with handles, or two line ends.
 #pragma once
 
-#include "document/element.h"
+#include "document/skin_document.h"
 
 #include <QWidget>
 
 #include <string>
+#include <vector>
 
 namespace tarvel {
 
+class GroupMarks;
 class LineEndMark;
 class Pic;
 class SelectionBox;
@@ -26,6 +28,9 @@ class SelectionMarks : public QObject {
     void setSelLine(const Element& element);
     /// Whichever of the two suits the element.
     void setCurrentSel(const Element& element);
+    /// Of several elements: thin frames, one with handles around all of them, and the marks of the
+    /// last of `ids`, which leads.
+    void setSeveral(const SkinDocument& document, const std::vector<int>& ids);
     void hideSels();
     /// Tells those who listen to the surface what is selected, in words.
     void describe(const std::string& words);
@@ -35,6 +40,7 @@ class SelectionMarks : public QObject {
   private:
     Pic& surface_;
     SelectionBox* fraSel_;
+    GroupMarks* group_ = nullptr;
     LineEndMark* fraResize1_;
     LineEndMark* fraResize2_;
 };

@@ -1,10 +1,12 @@
 // Gives presses, moves, releases and keys of the surface to the tool at work.
 #include "surface/surface_controller.h"
 
+#include "editing/group_scale.h"
 #include "editing/step_names.h"
 #include "surface/draw_tools.h"
 #include "surface/edit_tools.h"
 #include "surface/pic.h"
+#include "surface/select_tool.h"
 #include "surface/selection_marks.h"
 #include "widgets/shown_path.h"
 
@@ -146,7 +148,7 @@ void SurfaceController::press(const QMouseEvent& event) {
     lastPoint_ = pointOf(event);
     emit pressed();
     if (event.button() == Qt::LeftButton) {
-        pressLeft(pointOf(event));
+        pressLeft(pointOf(event), event.modifiers().testFlag(Qt::ControlModifier));
     } else if (event.button() == Qt::RightButton) {
         pick(pointOf(event));
         emit menuWanted(event.globalPosition().toPoint());
@@ -155,9 +157,16 @@ void SurfaceController::press(const QMouseEvent& event) {
     }
 }
 
-void SurfaceController::pressLeft(SkinPoint point) {
+void SurfaceController::pressLeft(SkinPoint point, bool adds) {
     if (kind_) {
         draw(*kind_, point);
+        return;
+    }
+    if (adds) {
+        toggleAt(point);
+        return;
+    }
+    if (pressSeveral(point)) {
         return;
     }
     const int selected = host_.selection().curNum();
@@ -179,6 +188,40 @@ void SurfaceController::pressLeft(SkinPoint point) {
         } else {
             work_ = std::make_unique<MoveTool>(host_, point);
         }
+    } else {
+        work_ = std::make_unique<SelectTool>(host_, surface_, point, false);
+    }
+}
+
+// Several selected elements are moved by any of them, and scaled by the frame around them.
+bool SurfaceController::pressSeveral(SkinPoint point) {
+    Selection& selection = host_.selection();
+    if (selection.size() < 2) {
+        return false;
+    }
+    const SkinDocument& document = host_.document();
+    const Place frame = commonFrame(startPlaces(document, selection.ids()));
+    if (const Handle handle = frameHandleAt(frame, point); handle != Handle::none) {
+        work_ = std::make_unique<GroupScaleTool>(host_, handle, point);
+        return true;
+    }
+    const int row = picks_.rowAt(document, point);
+    const int id = row < 0 ? 0 : document.itemData(document.currentLayout(), row);
+    if (!selection.contains(id)) {
+        return false;
+    }
+    selection.lead(id);
+    work_ = std::make_unique<GroupMoveTool>(host_, id, point);
+    return true;
+}
+
+// With Ctrl: an element joins the others or leaves them, and so does what a rubber band touches.
+void SurfaceController::toggleAt(SkinPoint point) {
+    const int row = picks_.rowAt(host_.document(), point);
+    if (row >= 0) {
+        host_.selection().toggle(row);
+    } else {
+        work_ = std::make_unique<SelectTool>(host_, surface_, point, true);
     }
 }
 
@@ -285,7 +328,8 @@ bool SurfaceController::arrowKey(const QKeyEvent& event) {
     default:
         return false;
     }
-    if (marks_.isBoxShown() && work_ == nullptr) {
+    const bool isMoved = marks_.isBoxShown() || host_.selection().size() > 1;
+    if (isMoved && work_ == nullptr) {
         nudge(*arrow, modifiersOf(event));
     }
     return true; // arrows never lead the focus away from the surface
@@ -294,9 +338,13 @@ bool SurfaceController::arrowKey(const QKeyEvent& event) {
 // Keys pressed one soon after the other are one step.
 void SurfaceController::nudge(ArrowKey key, int modifiers) {
     SkinDocument& document = host_.document();
-    const int id = host_.selection().curNum();
-    document.continueRun(stepName(step::move, document.element(id)));
-    moveByKey(document, id, key, modifiers);
+    const std::vector<int>& ids = host_.selection().ids();
+    document.continueRun(stepName(step::move, document, ids));
+    if (ids.size() > 1) {
+        moveAllByKey(document, startPlaces(document, ids), key, modifiers);
+    } else {
+        moveByKey(document, ids.front(), key, modifiers);
+    }
     nudgeEnd_.start();
 }
 
@@ -323,8 +371,11 @@ Qt::CursorShape SurfaceController::pointerAt(SkinPoint point) {
         return Qt::CrossCursor;
     }
     const SkinDocument& document = host_.document();
-    if (const int selected = host_.selection().curNum(); selected != 0) {
-        const Handle handle = handleAt(document.element(selected), point);
+    const std::vector<int>& ids = host_.selection().ids();
+    if (!ids.empty()) {
+        const Handle handle = ids.size() > 1
+                                  ? frameHandleAt(commonFrame(startPlaces(document, ids)), point)
+                                  : handleAt(document.element(ids.front()), point);
         if (handle != Handle::none) {
             return pointerOf(handle);
         }

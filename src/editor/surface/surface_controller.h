@@ -61,7 +61,9 @@ class SurfaceController : public QObject, private DocumentObserver {
   private:
     void documentChanged(const DocumentChange& change) override;
     void press(const QMouseEvent& event);
-    void pressLeft(SkinPoint point);
+    void pressLeft(SkinPoint point, bool adds);
+    bool pressSeveral(SkinPoint point);
+    void toggleAt(SkinPoint point);
     void pick(SkinPoint point);
     void move(const QMouseEvent& event);
     void release(const QMouseEvent& event);

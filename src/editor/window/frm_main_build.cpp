@@ -175,6 +175,8 @@ void FrmMain::buildReactions() {
         *this, [this] { return !gate_->isClosed(); },
         std::vector<WindowKeys::Key>{
             {Qt::Key_Escape, [this] { return tools_->isBusy(); }, [this] { tools_->giveUp(); }},
+            {Qt::Key_Escape, [this] { return fraElements_->isAncestorOf(focusWidget()); },
+             [this] { selection_.clear(); }},
             {Qt::Key_Delete, [this] { return !selection_.isEmpty(); },
              [this] { deleteSelected(); }}});
 }

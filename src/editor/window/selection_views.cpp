@@ -60,8 +60,14 @@ void SelectionViews::setCurrentSel() {
         return;
     }
     const Element& element = document_.element(selection_.curNum());
-    views_.marks.setCurrentSel(element);
-    views_.marks.describe(elementWords(element) + ", selected");
+    if (selection_.size() > 1) {
+        views_.marks.setSeveral(document_, selection_.ids());
+        views_.marks.describe(std::to_string(selection_.size()) + " elements selected, " +
+                              elementWords(element) + " leads");
+    } else {
+        views_.marks.setCurrentSel(element);
+        views_.marks.describe(elementWords(element) + ", selected");
+    }
     if (hasEnds(element.elementControl)) {
         views_.position.setPosLine(element.elementControl);
     } else {

@@ -28,6 +28,8 @@ ToolChoice::ToolChoice(const Parts& parts)
     connect(controller_.get(), &SurfaceController::toolGivenUp, this, [this] {
         if (parts_.tools.tool()) {
             drawingEnded();
+        } else {
+            parts_.selection.clear();
         }
     });
     connect(&parts_.tools, &CreatePanel::toolChosen, this, [this](std::optional<ElementKind> kind) {

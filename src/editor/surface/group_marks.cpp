@@ -1,0 +1,73 @@
+// Paints the frames of several selected elements.
+#include "surface/group_marks.h"
+
+#include "editing/group_scale.h"
+#include "surface/mark_painting.h"
+#include "surface/pic.h"
+#include "surface/surface_geometry.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <array>
+#include <cmath>
+
+namespace tarvel {
+
+namespace {
+
+QRectF rectOf(const Bounds& bounds) {
+    return {bounds.across.start, bounds.down.start, bounds.across.length, bounds.down.length};
+}
+
+constexpr std::array handles = {Handle::topLeft,    Handle::top,         Handle::topRight,
+                                Handle::right,      Handle::bottomRight, Handle::bottom,
+                                Handle::bottomLeft, Handle::left};
+
+} // namespace
+
+GroupMarks::GroupMarks(Pic& surface)
+    : QWidget(&surface)
+    , surface_(surface) {
+    setObjectName(QStringLiteral("groupMarks"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setVisible(false);
+}
+
+void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
+    frames_.clear();
+    for (const StartPlace& each : elements) {
+        if (each.elementId != leading) {
+            // Places may be as far out as numbers go, what is painted may not.
+            frames_.push_back(surface_.mapping().toWidget(nearSurface(rectOf(boundsOf(each)))));
+        }
+    }
+    around_ = commonFrame(elements);
+    setGeometry(surface_.rect());
+    update();
+    raise();
+    setVisible(true);
+}
+
+void GroupMarks::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setPen(QPen(markColor(), 1, Qt::DotLine));
+    for (const QRectF& frame : frames_) {
+        painter.drawRect(frame.adjusted(-0.5, -0.5, 0.5, 0.5));
+    }
+    const Place& place = around_;
+    const QRectF around =
+        surface_.mapping().toWidget(nearSurface(QRectF(place[0], place[1], place[2], place[3])));
+    paintOutline(painter, around.adjusted(-0.5, -0.5, 0.5, 0.5), markColor(), Qt::DashLine);
+    for (const Handle handle : handles) {
+        if (!hasFrameHandle(around_, handle)) {
+            continue;
+        }
+        const SkinPoint centre = frameHandleCentre(around_, handle);
+        const QPointF at = surface_.mapping().toWidget(QPointF(centre.x, centre.y));
+        const QPointF corner(std::round(at.x()) - markMargin, std::round(at.y()) - markMargin);
+        paintHandle(painter, QRectF(corner, QSizeF(handleSide, handleSide)));
+    }
+}
+
+} // namespace tarvel

@@ -1,0 +1,35 @@
+// The marks of several selected elements: a thin frame for each, and one with handles around them
+// all.
+#pragma once
+
+#include "editing/group_places.h"
+
+#include <QWidget>
+
+#include <vector>
+
+namespace tarvel {
+
+class Pic;
+
+/// Lies over the whole surface, whose child it is, and lets the pointer through.
+class GroupMarks : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit GroupMarks(Pic& surface);
+
+    /// Shows frames around the elements, but for the one that leads, which has its own marks; and
+    /// the frame around all of them.
+    void show(const std::vector<StartPlace>& elements, int leading);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const Pic& surface_;
+    std::vector<QRectF> frames_; // in pixels of the widget
+    Place around_{};             // in skin pixels
+};
+
+} // namespace tarvel
