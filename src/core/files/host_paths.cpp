@@ -241,6 +241,11 @@ bool FileFinder::FileExists(std::string_view path) {
     return !error && fs::exists(status) && !fs::is_directory(status);
 }
 
+bool FileFinder::isSameFile(std::string_view a, std::string_view b) {
+    std::error_code error;
+    return fs::equivalent(hostPath(a), hostPath(b), error) && !error;
+}
+
 bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
     const std::string spelt = slashed(file);
     if (isSpeltOutside(folder, spelt)) {

@@ -56,6 +56,8 @@ class FileFinder {
     [[nodiscard]] std::filesystem::path hostPath(std::string_view documentPath);
     [[nodiscard]] bool FileExists(std::string_view path);
     [[nodiscard]] bool leadsOutside(const std::filesystem::path& folder, std::string_view file);
+    /// True when both document paths lead to one file that is there.
+    [[nodiscard]] bool isSameFile(std::string_view a, std::string_view b);
 
   private:
     using Entries = std::unordered_map<std::string, std::string>; // names by their lower-cased form

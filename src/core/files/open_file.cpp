@@ -82,6 +82,15 @@ std::size_t OpenFile::read(char* data, std::size_t size) const {
     return static_cast<std::size_t>(got);
 }
 
+std::size_t OpenFile::readAt(std::uint64_t place, char* data, std::size_t size) const {
+    const auto got = uninterrupted(
+        [=, this] { return ::pread(number(), data, size, static_cast<off_t>(place)); });
+    if (got < 0) {
+        fail();
+    }
+    return static_cast<std::size_t>(got);
+}
+
 std::string OpenFile::readAll() const {
     std::string bytes;
     bytes.resize(static_cast<std::size_t>(std::max<off_t>(status().st_size, 0)) + 1);

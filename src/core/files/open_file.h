@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
@@ -66,6 +67,8 @@ class OpenFile {
     void write(const char* data, std::size_t size) const;
     /// 0 at the end of the file.
     std::size_t read(char* data, std::size_t size) const;
+    /// The same from a place of its own, in bytes from the beginning.
+    std::size_t readAt(std::uint64_t place, char* data, std::size_t size) const;
     /// From where the file stands to its end.
     [[nodiscard]] std::string readAll() const;
     [[nodiscard]] struct stat status() const;

@@ -1,0 +1,109 @@
+// Searching folders for names: order, links, what cannot be read, and the end of a search.
+#include "files/file_search.h"
+#include "support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <unistd.h>
+
+namespace tarvel {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileSearchTest : public testing::Test {
+  protected:
+    // Where "a.png" is found, seen from the folder; "" for nowhere.
+    std::string find(const char* in = "in") {
+        const FileSearch search = searchFiles(folder_ / in, {"a.png"});
+        EXPECT_TRUE(search.complete);
+        const auto found = search.found.find("a.png");
+        return found == search.found.end()
+                   ? ""
+                   : found->second.lexically_relative(folder_.path()).string();
+    }
+
+    TemporaryFolder folder_;
+};
+
+TEST_F(FileSearchTest, TheNearestAndFirstCounts) {
+    folder_.folder("in");
+    EXPECT_EQ(find(), "");
+    folder_.file("in/b/c/A.png", "x");
+    EXPECT_EQ(find(), "in/b/c/A.png");
+    folder_.file("in/d/a.png", "x");
+    EXPECT_EQ(find(), "in/d/a.png");
+    folder_.file("in/b/a.PNG", "x");
+    EXPECT_EQ(find(), "in/b/a.PNG");
+    folder_.file("in/b/A.png", "x");
+    EXPECT_EQ(find(), "in/b/A.png");
+    folder_.folder("in/A.PNG"); // no file
+    EXPECT_EQ(find(), "in/b/A.png");
+}
+
+TEST_F(FileSearchTest, LinksLeadNowhereElse) {
+    folder_.file("out/a.png", "x");
+    folder_.folder("in");
+    fs::create_directory_symlink(folder_ / "out", folder_ / "in/link");
+    fs::create_symlink(folder_ / "out/a.png", folder_ / "in/a.png");
+    fs::create_directory_symlink(folder_ / "in", folder_ / "in/self");
+    EXPECT_EQ(find(), "");
+    folder_.file("in/deep/real.png", "x");
+    fs::remove(folder_ / "in/a.png");
+    fs::create_symlink(folder_ / "in/deep/real.png", folder_ / "in/a.png");
+    EXPECT_EQ(find(), "in/a.png");
+    fs::remove(folder_ / "in/deep/real.png"); // it leads to nothing now
+    EXPECT_EQ(find(), "");
+}
+
+TEST_F(FileSearchTest, PassesOverWhatCannotBeReadOrUsed) {
+    EXPECT_EQ(find("gone"), "");
+    folder_.file("in/closed/a.png", "x");
+    folder_.file("in/odd\\name/a.png", "x"); // no path of a skin
+    fs::permissions(folder_ / "in/closed", fs::perms::none);
+    if (::geteuid() != 0) {
+        EXPECT_EQ(find(), "");
+    }
+    folder_.file("in/open/a.png", "x");
+    EXPECT_EQ(find(), ::geteuid() == 0 ? "in/closed/a.png" : "in/open/a.png");
+    fs::permissions(folder_ / "in/closed", fs::perms::owner_all);
+}
+
+TEST_F(FileSearchTest, EndsAtTheLimitAndWhenAllIsFound) {
+    for (int i = 0; i < 30; ++i) {
+        folder_.file("in/" + std::to_string(i), "x");
+    }
+    folder_.file("in/deep/a.png", "x");
+    const fs::path in = folder_ / "in";
+    EXPECT_TRUE(searchFiles(in, {"a.png"}, 32).complete);
+    EXPECT_EQ(searchFiles(in, {"a.png"}, 32).found.size(), 1U);
+    EXPECT_FALSE(searchFiles(in, {"a.png"}, 31).complete);
+    EXPECT_EQ(searchFiles(in, {"a.png"}, 31).found.size(), 0U);
+    // Nothing is looked at beyond what is needed.
+    EXPECT_TRUE(searchFiles(in, {"7"}, 31).complete);
+    EXPECT_TRUE(searchFiles(in, {}, 0).complete);
+}
+
+TEST_F(FileSearchTest, IsToldOfAndEndedByTheStep) {
+    folder_.folder("in");
+    for (int i = 0; i < 2100; ++i) {
+        std::ofstream(folder_ / ("in/" + std::to_string(i))); // need not last
+    }
+    std::vector<std::size_t> told;
+    const auto search = [&](bool goesOn) {
+        return searchFiles(folder_ / "in", {"a.png"}, mostEntries,
+                           [&, goesOn](std::size_t entries) {
+                               told.push_back(entries);
+                               return goesOn;
+                           });
+    };
+    EXPECT_TRUE(search(true).complete);
+    EXPECT_EQ(told, (std::vector<std::size_t>{1000, 2000}));
+    told.clear();
+    EXPECT_FALSE(search(false).complete);
+    EXPECT_EQ(told, std::vector<std::size_t>{1000});
+}
+
+} // namespace
+} // namespace tarvel
