@@ -9,19 +9,16 @@
 
 namespace tarvel {
 
-namespace {
-
-void drawElement(SkinDocument& document, XmlNode node) {
+bool drawElement(SkinDocument& document, XmlNode node) {
     const KindRules* rules = kindOfType(getAttrib(node, "Type"));
     const XmlNode posNode = getTag(node, "Pos");
     if (rules == nullptr || !posNode) {
-        return;
+        return false;
     }
     const auto [a, b, c, d] = rules->readPlace(PosTexts(posNode));
     makeElement(document, a, b, c, d, rules->kind, getAttrib(node, "Source"), node);
+    return true;
 }
-
-} // namespace
 
 void drawScreen(SkinDocument& document, XmlNode layout) {
     document.setCurrentLayout(getLayoutNum(lowerCased(getAttrib(layout, "Screen"))));

@@ -6,6 +6,10 @@
 
 namespace tarvel {
 
+/// Makes an element on the current screen out of its description. Returns false, and makes none,
+/// for an unknown Type or a node without children.
+bool drawElement(SkinDocument& document, XmlNode node);
+
 /// Makes one element for each child of the Layout node, in order, on the screen that the node names
 /// (an unknown name: "Title"), which becomes the current one. Children of unknown Type or without
 /// children of their own are left out.

@@ -69,22 +69,16 @@ class ResourceReader {
         , outside_(outside) {}
 
     void read(XmlNode section) {
-        if (!equalsIgnoringCase(getAttrib(section, "Type"), "image")) {
-            return;
-        }
-        const std::string name(getAttrib(section, "Name"));
-        // Without a File child this is the last child, which then is the fragment.
-        const XmlNode file = getTag(section, "File");
-        if (file && file.tag() == "File" && !isReference(file.content())) {
-            addFile(name, std::string(file.content()));
-        } else {
-            document_.addcRes(file ? makeTag(file.tag(), file.content()) : std::string{}, name);
+        std::optional<Resource> resource = describedResource(section);
+        if (resource && resource->isFile) {
+            addFile(resource->name, resource->content);
+        } else if (resource) {
+            document_.addcRes(std::move(resource->content), std::move(resource->name));
         }
     }
 
   private:
-    void addFile(const std::string& name, std::string file) {
-        std::replace(file.begin(), file.end(), '/', '\\');
+    void addFile(const std::string& name, const std::string& file) {
         const bool outside = files_.leadsOutside(folder_, file);
         if (outside) {
             outside_.push_back(name);
@@ -125,24 +119,8 @@ SkinReadError unreadable(const std::string& problem) {
     return error;
 }
 
-// A modifier deeper than any that means something would be written with as many tabs on each line.
-void requireSaneDepth(XmlNode root) {
-    constexpr std::size_t deepest = 1000;
-    std::vector<XmlNode> open{root}; // of each level the element at hand
-    while (!open.empty()) {
-        if (const XmlNode below = open.back().firstChild()) {
-            open.push_back(below);
-            if (open.size() > deepest) {
-                throw unreadable("its elements lie more than " + std::to_string(deepest) +
-                                 " levels deep");
-            }
-            continue;
-        }
-        while (!open.empty() && !(open.back() = open.back().nextSibling())) {
-            open.pop_back();
-        }
-    }
-}
+// A modifier deeper than that would be written with as many tabs on each line.
+constexpr std::size_t deepest = 1000;
 
 XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
     try {
@@ -172,7 +150,9 @@ bool isMissing(const std::filesystem::path& file) {
 SkinDocument withSkin(SkinDocument document, const std::filesystem::path& folder,
                       SkinReadNotes& notes) {
     const XmlTree tree = parsedSkin(folder, notes.text);
-    requireSaneDepth(tree.root());
+    if (isTooDeep(tree.root())) {
+        throw unreadable("its elements lie more than " + std::to_string(deepest) + " levels deep");
+    }
     readSkinTree(document, tree.root(), folder, notes);
     return document;
 }
@@ -222,6 +202,40 @@ SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& fold
     }
     document = std::move(next);
     return notes;
+}
+
+std::optional<Resource> describedResource(XmlNode node) {
+    if (!equalsIgnoringCase(getAttrib(node, "Type"), "image")) {
+        return std::nullopt;
+    }
+    Resource resource{.name = std::string(getAttrib(node, "Name")), .content = {}};
+    // Without a File child this is the last child, which then is the fragment.
+    const XmlNode file = getTag(node, "File");
+    resource.isFile = file && file.tag() == "File" && !isReference(file.content());
+    if (resource.isFile) {
+        resource.content = file.content();
+        std::replace(resource.content.begin(), resource.content.end(), '/', '\\');
+    } else if (file) {
+        resource.content = makeTag(file.tag(), file.content());
+    }
+    return resource;
+}
+
+bool isTooDeep(XmlNode root) {
+    std::vector<XmlNode> open{root}; // of each level the element at hand
+    while (!open.empty()) {
+        if (const XmlNode below = open.back().firstChild()) {
+            open.push_back(below);
+            if (open.size() > deepest) {
+                return true;
+            }
+            continue;
+        }
+        while (!open.empty() && !(open.back() = open.back().nextSibling())) {
+            open.pop_back();
+        }
+    }
+    return false;
 }
 
 std::string listMessage(std::string_view beginning, const std::vector<std::string>& names) {

@@ -5,6 +5,7 @@
 #include "skinfile/skin_text.h"
 
 #include <filesystem>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -44,6 +45,13 @@ SkinReadNotes readSkin(SkinDocument& document, const std::filesystem::path& fold
 /// Adds a skin that is parsed already. `folder` is where its files lie.
 void readSkinTree(SkinDocument& document, XmlNode root, const std::filesystem::path& folder,
                   SkinReadNotes& notes);
+
+/// The resource of a Resource node, its file as it is spelt there but with backslashes; nothing for
+/// a node whose type is not Image.
+[[nodiscard]] std::optional<Resource> describedResource(XmlNode node);
+
+/// Whether elements lie deeper below the root than any that means something.
+[[nodiscard]] bool isTooDeep(XmlNode root);
 
 /// The beginning and the names after it, parted by commas; "" for no names.
 [[nodiscard]] std::string listMessage(std::string_view beginning,

@@ -107,15 +107,21 @@ void SkinWriter::writeResources(const SkinSettings& settings) {
         line(R"(<File>Media\)", trimtofile(settings.background.path), "</File>");
         writeLine("</Resource>");
     }
+    std::string file;
     for (const Resource& resource : settings.resources) {
-        line(R"(<Resource Type="Image" Name=")", resource.name, R"(">)");
-        if (resource.isFile) {
-            line(R"(<File>Media\)", trimtofile(resource.content), "</File>");
-        } else {
-            writeLine(resource.content);
-        }
-        writeLine("</Resource>");
+        file.assign(R"(Media\)").append(trimtofile(resource.content));
+        writeResource(resource, file);
     }
+}
+
+void SkinWriter::writeResource(const Resource& resource, std::string_view file) {
+    line(R"(<Resource Type="Image" Name=")", resource.name, R"(">)");
+    if (resource.isFile) {
+        tagLine("File", file);
+    } else {
+        writeLine(resource.content);
+    }
+    writeLine("</Resource>");
 }
 
 void SkinWriter::writeLayout(const SkinDocument& document, int screen) {

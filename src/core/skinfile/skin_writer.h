@@ -30,6 +30,11 @@ class SkinWriter : private LineWriter {
     /// screen.
     void generateXML(SkinDocument& document);
 
+    /// Adds the lines of one element, or of one resource whose File line, if it has one, names
+    /// `file`. Throws as write() does.
+    void writeElement(const Element& element);
+    void writeResource(const Resource& resource, std::string_view file);
+
     // Lines that others add, and the last generated text.
     using LineWriter::writeLine;
     using LineWriter::xmlIndent;
@@ -46,7 +51,6 @@ class SkinWriter : private LineWriter {
     void writeSystemColors(const SystemColors& colors);
     void writeResources(const SkinSettings& settings);
     void writeLayout(const SkinDocument& document, int screen);
-    void writeElement(const Element& element);
     void writeTail(const Element& element);
     void writeModifiers(const XmlTree& modifiers);
 
