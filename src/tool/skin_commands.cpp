@@ -94,11 +94,11 @@ ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& ou
 
 ExitCode check(const std::filesystem::path& folder, Output output) {
     try {
-        const auto lines = checkSkin(folder);
-        for (const std::string& line : lines) {
-            output.out << line << '\n';
+        const std::vector<Finding> found = checkSkin(folder);
+        for (const Finding& finding : found) {
+            output.out << finding.text << '\n';
         }
-        return lines.empty() ? done : findings;
+        return found.empty() ? done : findings;
     } catch (const std::exception& error) {
         complain(output, error.what());
         return unreadable;

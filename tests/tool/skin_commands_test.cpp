@@ -1,5 +1,6 @@
 // The commands of tarvel-skin: arguments, resave, check, exit codes and lines.
 #include "files/host_files.h"
+#include "support/picture_heads.h"
 #include "support/temporary_folder.h"
 #include "tool/skin_commands.h"
 
@@ -276,6 +277,30 @@ TEST(Check, EachFindingIsOneLineWhateverItNames) {
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(linesOf(result.out),
               (Lines{"Load, element 1 (Image: a b): its source \"a b\" names no resource",
+                     "A save changes QOR_Skin.xml from line 1 on"}));
+}
+
+TEST(Check, LooksAtFieldsPicturesAndCovers) {
+    const TemporaryFolder folder;
+    folder.file("Media/sky.bmp", test::bmpHead(1300, 1000));
+    folder.file("QOR_Skin.xml",
+                "<Skin name='Nova'><Resource Type='Image' Name='sky'><File>Media/sky.bmp</File>"
+                "</Resource><Layout Screen='Load'>"
+                "<LayoutElement Type='Text' Source='Tiem'><Pos X='1' Y='1' W='9' H='9'/>"
+                "</LayoutElement><LayoutElement Type='Box'><Color>0xFF000000</Color>"
+                "<Pos W='99' H='99'/></LayoutElement><LayoutElement Type='Image' Source='sky'>"
+                "<Pos W='640' H='480'/></LayoutElement></Layout></Skin>");
+    const Result result = runWith({"check", folder.path().string()});
+    EXPECT_EQ(result.code, 1);
+    EXPECT_EQ(linesOf(result.out),
+              (Lines{"Load, element 1 (Text: Tiem): its source \"Tiem\" names no field of the "
+                     "dashboard",
+                     "Load, element 1 (Text: Tiem): is hidden completely behind element 2 (Box: "
+                     "Alpha 100)",
+                     "Load, element 3 (Image: sky): its picture Media\\sky.bmp of 1300 by 1000 "
+                     "pixels is more than twice as wide and high as it is shown anywhere, and "
+                     "takes 5200000 bytes when decoded",
+                     "All pictures together take 5200000 bytes when decoded",
                      "A save changes QOR_Skin.xml from line 1 on"}));
 }
 

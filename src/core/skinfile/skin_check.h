@@ -1,15 +1,15 @@
-// What is worth knowing about a skin before it goes to the console.
+// What is worth knowing about a skin's folder before it goes to the console.
 #pragma once
 
+#include "skinfile/document_check.h"
+
 #include <filesystem>
-#include <string>
 #include <vector>
 
 namespace tarvel {
 
-/// One line for each finding, in the order of the skin: sources that name no resource; resource
-/// files that are missing or lie outside; file names used twice; elements off the screen;
-/// characters outside Windows-1252; what a save would change. Writes nothing. Throws SkinReadError.
-[[nodiscard]] std::vector<std::string> checkSkin(const std::filesystem::path& folder);
+/// What checkDocument() finds in the skin, and what a save of it would drop or change, in the order
+/// of the skin. Writes nothing. Throws SkinReadError.
+[[nodiscard]] std::vector<Finding> checkSkin(const std::filesystem::path& folder);
 
 } // namespace tarvel

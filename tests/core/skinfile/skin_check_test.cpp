@@ -15,11 +15,23 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+Lines linesOf(const std::vector<Finding>& findings) {
+    Lines lines;
+    for (const Finding& finding : findings) {
+        lines.push_back(finding.text);
+    }
+    return lines;
+}
+
+Lines checked(const std::filesystem::path& folder) {
+    return linesOf(checkSkin(folder));
+}
+
 class SkinCheckTest : public testing::Test {
   protected:
     Lines check(const std::string& body) {
         folder_.file("QOR_Skin.xml", "<Skin name=\"Nova\">" + body + "</Skin>");
-        Lines lines = checkSkin(folder_.path());
+        Lines lines = checked(folder_.path());
         // Such a file is never what a save writes; that finding is tested by itself.
         EXPECT_EQ(lines.back(), "A save changes QOR_Skin.xml from line 1 on");
         lines.pop_back();
@@ -41,7 +53,7 @@ TEST_F(SkinCheckTest, ASavedSkinHasNoFindings) {
     document.addElement(std::move(element));
     SkinWriter writer(folder_.path());
     ASSERT_TRUE(saveSkin(document, writer, folder_.path(), {}).succeeded());
-    EXPECT_EQ(checkSkin(folder_.path()), Lines{});
+    EXPECT_EQ(checked(folder_.path()), Lines{});
 }
 
 TEST_F(SkinCheckTest, SourcesAndResources) {
@@ -93,7 +105,7 @@ TEST_F(SkinCheckTest, WritesNothing) {
                  "<Skin name='Nova'><Layout Screen='Load'><LayoutElement Type='Box'>"
                  "<Pos W='9' H='9'/><Modifier/></LayoutElement></Layout></Skin>");
     systemCalls = {};
-    EXPECT_EQ(checkSkin(folder_.path()), Lines{"A save changes QOR_Skin.xml from line 1 on"});
+    EXPECT_EQ(checked(folder_.path()), Lines{"A save changes QOR_Skin.xml from line 1 on"});
     EXPECT_EQ(systemCalls.writes, 0);
 }
 
@@ -105,8 +117,8 @@ TEST_F(SkinCheckTest, EmptyFileNames) {
 
 TEST_F(SkinCheckTest, ASkinWithoutAName) {
     folder_.file("QOR_Skin.xml", "<Skin/>");
-    EXPECT_EQ(checkSkin(folder_.path()), (Lines{"The skin has no name: it cannot be saved",
-                                                "A save changes QOR_Skin.xml from line 1 on"}));
+    EXPECT_EQ(checked(folder_.path()), (Lines{"The skin has no name: it cannot be saved",
+                                              "A save changes QOR_Skin.xml from line 1 on"}));
 }
 
 TEST_F(SkinCheckTest, ElementsOffTheScreen) {
@@ -156,7 +168,7 @@ TEST_F(SkinCheckTest, CharactersAndMendedLines) {
     folder_.file("QOR_Skin.xml",
                  "<Skin name=\"x\">\n<Information>\n<Author>a < b</Author>\n</Information>\n"
                  "</Skin>\n");
-    EXPECT_EQ(checkSkin(folder_.path()),
+    EXPECT_EQ(checked(folder_.path()),
               (Lines{"Line 3 is no XML and was read as the text that it shows",
                      "A save changes QOR_Skin.xml from line 1 on"}));
 }
