@@ -10,7 +10,7 @@ cd "$(dirname "$0")/.."
 seconds=${1:-600}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(reader tag_scanner encodings catalogue recovery)
+[ ${#targets[@]} -gt 0 ] || targets=(reader tag_scanner encodings catalogue recovery clipboard pictures)
 
 scripts/setup fuzz
 cmake -S . -B build/fuzz -G Ninja -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
@@ -23,12 +23,17 @@ seeds() {
     rm -rf "$out"
     mkdir -p "$out"
     case $1 in
-    recovery)
-        build/fuzz/src/fuzz_recovery_seeds "$out" tests/fixtures/*/in examples/*/
-        return
+    recovery | clipboard)
+        build/fuzz/src/"fuzz_$1_seeds" "$out" tests/fixtures/*/in examples/*/
+        [ "$1" = recovery ] && return
         ;;
     catalogue)
         cp assets/modifiers.xml "$out"
+        ;;
+    pictures)
+        find examples tests/fixtures assets packaging -name '*.png' -o -name '*.jpg' -o -name '*.bmp' |
+            while read -r file; do head -c 2000 "$file" >"$out/${file//\//_}"; done
+        return
         ;;
     esac
     local number=0
