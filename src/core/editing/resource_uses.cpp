@@ -9,6 +9,7 @@
 #include "text/text_case.h"
 
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
 namespace tarvel {
@@ -76,15 +77,12 @@ bool isTakenByAnother(const std::vector<Resource>& resources, int resource, std:
 
 // From the front to the back, so that the rows of the others stay.
 void deleteElements(SkinDocument& document, const std::vector<Use>& uses) {
-    SkinDocument next = document;
-    for (auto use = uses.rbegin(); use != uses.rend(); ++use) {
-        if (next.currentLayout() != use->screen) {
-            next.setCurrentLayout(use->screen);
+    for (const Use& use : uses | std::views::reverse) {
+        if (document.currentLayout() != use.screen) {
+            document.setCurrentLayout(use.screen);
         }
-        deleteRow(next, use->row);
+        deleteRow(document, use.row);
     }
-    next.setCurrentLayout(document.currentLayout());
-    document = std::move(next);
 }
 
 } // namespace
@@ -166,12 +164,13 @@ bool removeResource(SkinDocument& document, int resource, bool elementsToo) {
     if (!uses.empty() && !elementsToo) {
         return false;
     }
-    if (!uses.empty()) {
-        deleteElements(document, uses);
-    }
-    document.editSettings([&](SkinSettings& settings) {
+    // Nobody sees the screens that are gone through.
+    SkinDocument next = document;
+    deleteElements(next, uses);
+    next.editSettings([&](SkinSettings& settings) {
         settings.resources.erase(settings.resources.begin() + resource);
     });
+    document.showVersion(next, document.currentLayout());
     return true;
 }
 

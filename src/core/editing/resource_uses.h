@@ -35,7 +35,7 @@ bool replaceResourceFile(SkinDocument& document, int resource, std::string_view 
 
 /// Takes a resource out of the list, and with `elementsToo` every element that uses it off its
 /// screen: as many as resourceUses() counts. Returns false, and does nothing, for one in use
-/// otherwise. With elements the observers are told that everything changed.
+/// otherwise. The observers are told once of each screen and of the settings.
 bool removeResource(SkinDocument& document, int resource, bool elementsToo);
 
 struct NewFile {

@@ -141,7 +141,7 @@ template <class Source> std::optional<PictureSize> jpegSize(const Source& source
         const std::uint32_t length = piece.big(2, 2);
         constexpr unsigned restart = 0xD0;
         constexpr unsigned scan = 0xDA;
-        if (length < 2 || (marker >= restart && marker <= scan) || marker <= 1) {
+        if ((marker >= restart && marker <= scan) || marker <= 1) {
             return std::nullopt; // the picture's data begin, or this is no JPEG
         }
         if (isFrame(marker)) {

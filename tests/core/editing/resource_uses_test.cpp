@@ -173,7 +173,12 @@ TEST(RemoveResource, LeavesOneInUseUnlessAskedOtherwise) {
 
 TEST(RemoveResource, TakesItsElementsAlong) {
     SkinDocument document = someUses();
+    document.setCurrentLayout(5);
+    test::RecordingObserver observer;
+    const auto watch = document.watch(observer);
     EXPECT_TRUE(removeResource(document, sky, true));
+    EXPECT_EQ(observer.notes, (std::vector<std::string>{"rows 1 -1", "counts 1 -1", "rows 3 -1",
+                                                        "counts 3 -1", "settings -1 -1"}));
     EXPECT_EQ(document.settings().resources.size(), 3U);
     EXPECT_EQ(document.settings().resources[1].name, "logo");
     EXPECT_EQ(test::rowIds(document, 1), (std::vector<int>{2, 4}));
@@ -181,7 +186,7 @@ TEST(RemoveResource, TakesItsElementsAlong) {
     EXPECT_EQ(document.lockCount(1), 1);
     EXPECT_EQ(document.screenElementCount(1), 2);
     EXPECT_EQ(document.screenElementCount(3), 1);
-    EXPECT_EQ(document.currentLayout(), 1);
+    EXPECT_EQ(document.currentLayout(), 5);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tarvel {
@@ -38,8 +39,15 @@ TEST_F(FileSearchTest, TheNearestAndFirstCounts) {
     EXPECT_EQ(find(), "in/b/a.PNG");
     folder_.file("in/b/A.png", "x");
     EXPECT_EQ(find(), "in/b/A.png");
-    folder_.folder("in/A.PNG"); // no file
+    folder_.folder("in/A.PNG"); // no files
+    ASSERT_EQ(::mkfifo((folder_ / "in/a.png").c_str(), 0600), 0);
     EXPECT_EQ(find(), "in/b/A.png");
+    folder_.file("in/a/a.PNG", "x"); // the order of making is not that of names
+    EXPECT_EQ(find(), "in/a/a.PNG");
+    folder_.file("in/a/a.png", "x");
+    EXPECT_EQ(find(), "in/a/a.PNG");
+    folder_.file("in/a/A.png", "x");
+    EXPECT_EQ(find(), "in/a/A.png");
 }
 
 TEST_F(FileSearchTest, LinksLeadNowhereElse) {
@@ -59,8 +67,9 @@ TEST_F(FileSearchTest, LinksLeadNowhereElse) {
 
 TEST_F(FileSearchTest, PassesOverWhatCannotBeReadOrUsed) {
     EXPECT_EQ(find("gone"), "");
+    folder_.file("odd/a\\name/a.png", "x"); // no path of a skin
+    EXPECT_EQ(find("odd"), "");
     folder_.file("in/closed/a.png", "x");
-    folder_.file("in/odd\\name/a.png", "x"); // no path of a skin
     fs::permissions(folder_ / "in/closed", fs::perms::none);
     if (::geteuid() != 0) {
         EXPECT_EQ(find(), "");

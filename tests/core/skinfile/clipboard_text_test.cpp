@@ -149,6 +149,26 @@ TEST(ClipboardText, ReadsBackWhatASkinFileCarries) {
     }
 }
 
+// XML would make characters of these.
+TEST(ClipboardText, LeavesWhatLooksEscapedAsItIs) {
+    SkinDocument document;
+    document.addRes("a", "\\pics\\a &amp; b.png");
+    Element image;
+    image.elementKind = ElementKind::Image;
+    image.imageSource = "a";
+    document.addElement(std::move(image));
+    Element text;
+    text.elementKind = ElementKind::Text;
+    text.elementControl.kind = ControlKind::txt;
+    text.textIsConstant = true;
+    text.elementControl.caption = "&lt;b&gt;";
+    document.addElement(std::move(text));
+    const auto back = readClipboardText(clipboardText(allOf(document)));
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->resources, document.settings().resources);
+    EXPECT_EQ(back->elements.at(1).elementControl.caption, "&lt;b&gt;");
+}
+
 TEST(ClipboardText, IsReadHoweverItIsTyped) {
     const std::string text = box;
     const std::string line = R"(<layoutelement type="line"><pos x1="1"/></layoutelement>)";
