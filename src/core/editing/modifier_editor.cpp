@@ -110,6 +110,12 @@ void ModifierEditor::showModifier(XmlNode modifier) {
     }
 }
 
+bool ModifierEditor::isOffered(ElementKind kind) const {
+    const std::vector<std::string> types = catalogue_.typesFor(kind);
+    return std::find(types.begin(), types.end(), mods_.at(static_cast<std::size_t>(modRow_))) !=
+           types.end();
+}
+
 void ModifierEditor::chooseType(int row) {
     modRow_ = row;
     targets_.clear();

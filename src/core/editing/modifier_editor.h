@@ -53,6 +53,9 @@ class ModifierEditor {
     /// The frame that is shown for the chosen type.
     [[nodiscard]] ParameterPanel frame() const { return frame_; }
 
+    /// Whether the catalogue has the chosen type for a kind; "None" is for all.
+    [[nodiscard]] bool isOffered(ElementKind kind) const;
+
     /// Chooses a type, 0 for "None", and with it the first of its targets.
     void chooseType(int row);
     /// Chooses a target; row < targets().size().

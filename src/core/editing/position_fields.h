@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string_view>
 #include <tuple>
+#include <vector>
 
 namespace tarvel {
 
@@ -29,5 +30,12 @@ positionCaptions(ControlKind kind);
 /// Returns whether the document was changed; a locked element stays as it is.
 bool enterPosition(SkinDocument& document, int elementId, PositionField field,
                    std::string_view text);
+
+/// The same with several elements, the last of which leads: it takes the number, and the difference
+/// moves or sizes the others. Of a line a number of its first end moves others, and one of its
+/// second end sizes them; lines are moved as a whole, sized by their second end, and follow a line
+/// end by end.
+bool enterPositions(SkinDocument& document, const std::vector<int>& ids, PositionField field,
+                    std::string_view text);
 
 } // namespace tarvel

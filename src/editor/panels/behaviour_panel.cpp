@@ -11,6 +11,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
+
 namespace tarvel {
 
 namespace {
@@ -51,12 +54,13 @@ void BehaviourPanel::addOk(const QString& name, const QString& deed) {
     rows_->addWidget(cmdOK_, 0, Qt::AlignRight);
 }
 
-void BehaviourPanel::open(int elementId) {
-    if (elementId < 1 || elementId > document_.lastElementId()) {
+void BehaviourPanel::open(const std::vector<int>& elementIds) {
+    if (elementIds.empty() || elementIds.back() < 1 ||
+        elementIds.back() > document_.lastElementId()) {
         return;
     }
-    elementId_ = elementId;
-    fill(document_.element(elementId));
+    elementIds_ = elementIds;
+    fill(document_.element(shownId()));
     untouched_ = stored();
     show();
     raise();
@@ -67,8 +71,8 @@ void BehaviourPanel::open(int elementId) {
 
 void BehaviourPanel::ok() {
     if (hasElement()) {
-        const OpenEdit edit(document_, stepName(step_, document_.element(elementId_)));
-        document_.editElement(elementId_, [this](Element& element) { store(element); });
+        const OpenEdit edit(document_, stepName(step_, document_, elementIds_));
+        storeToAll();
     }
     hide();
     emit closed();
@@ -76,11 +80,20 @@ void BehaviourPanel::ok() {
 
 // The document may have been replaced.
 bool BehaviourPanel::hasElement() const {
-    return elementId_ <= document_.lastElementId();
+    return std::all_of(elementIds_.begin(), elementIds_.end(),
+                       [this](int id) { return id <= document_.lastElementId(); });
+}
+
+void BehaviourPanel::storeToAll() {
+    std::vector<int> suited;
+    std::copy_if(
+        elementIds_.begin(), elementIds_.end(), std::back_inserter(suited),
+        [this](int id) { return id == shownId() || suits(document_.element(id).elementKind); });
+    document_.editElements(suited, [this](Element& element) { store(element); });
 }
 
 Element BehaviourPanel::stored() const {
-    Element element = document_.element(elementId_);
+    Element element = document_.element(shownId());
     store(element);
     return element;
 }
@@ -90,12 +103,16 @@ bool BehaviourPanel::isChanged() const {
 }
 
 void BehaviourPanel::storeNow() {
-    before_ = document_.element(elementId_);
-    document_.editElement(elementId_, [this](Element& element) { store(element); });
+    before_.clear();
+    for (const int id : elementIds_) {
+        before_.push_back(document_.element(id));
+    }
+    storeToAll();
 }
 
 void BehaviourPanel::takeBack() {
-    document_.editElement(elementId_, [this](Element& element) { element = before_; });
+    auto before = before_.begin();
+    document_.editElements(elementIds_, [&](Element& element) { element = *before++; });
 }
 
 void BehaviourPanel::paintEvent(QPaintEvent* /*event*/) {

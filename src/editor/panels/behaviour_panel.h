@@ -22,13 +22,15 @@ class BehaviourPanel : public QFrame {
     Q_OBJECT
 
   public:
-    /// Shows the panel for an element. Nothing happens for an id without an element.
-    void open(int elementId);
-    /// What the OK button does: takes what the panel shows into the element and hides the panel.
+    /// Shows the panel for the last of the elements; what it stores goes to all of them that it
+    /// suits. Nothing happens for an id without an element.
+    void open(const std::vector<int>& elementIds);
+    void open(int elementId) { open(std::vector<int>{elementId}); }
+    /// What the OK button does: takes what the panel shows into the elements and hides the panel.
     void ok();
     /// Whether OK would store something else than right after opening.
     [[nodiscard]] bool isChanged() const;
-    /// Takes what the panel shows into the element, and stays open; takeBack() undoes that.
+    /// Takes what the panel shows into the elements, and stays open; takeBack() undoes that.
     void storeNow();
     void takeBack();
 
@@ -45,6 +47,8 @@ class BehaviourPanel : public QFrame {
     virtual void fill(const Element& element) = 0;
     /// Takes what the controls show into the element.
     virtual void store(Element& element) const = 0;
+    /// Whether an element of another kind than that of the panel's own can take what it shows.
+    [[nodiscard]] virtual bool suits(ElementKind /*kind*/) const { return true; }
 
     /// The panel's rows, below the heading.
     [[nodiscard]] QVBoxLayout& rows() { return *rows_; }
@@ -59,13 +63,16 @@ class BehaviourPanel : public QFrame {
 
   private:
     [[nodiscard]] bool hasElement() const;
+    [[nodiscard]] int shownId() const { return elementIds_.empty() ? 0 : elementIds_.back(); }
     [[nodiscard]] Element stored() const;
 
     SkinDocument& document_;
     std::string_view step_;
-    int elementId_ = 0;
-    Element untouched_; // the element after an OK without a change
-    Element before_;    // the element before storeNow()
+    void storeToAll();
+
+    std::vector<int> elementIds_; // the last one is shown
+    Element untouched_;           // that one after an OK without a change
+    std::vector<Element> before_; // all of them before storeNow()
     QVBoxLayout* rows_;
     QPushButton* cmdOK_ = nullptr;
     QWidget* firstControl_ = nullptr;

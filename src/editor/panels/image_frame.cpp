@@ -72,9 +72,19 @@ void ImageFrame::fillPicker() {
     for (const Resource& resource : resources) {
         names << qtText(resource.name);
     }
-    lstR_->setPlaceholderText(resources.empty() ? tr("No resources yet") : tr("Choose one"));
     lstR_->addItems(names);
     lstR_->setEnabled(!resources.empty());
+    showPlaceholder();
+}
+
+void ImageFrame::showPlaceholder() {
+    const QString choose = various_ ? qtText(variousText) : tr("Choose one");
+    lstR_->setPlaceholderText(lstR_->count() == 0 ? tr("No resources yet") : choose);
+}
+
+void ImageFrame::setVarious(const VariousParts& various) {
+    various_ = various.resource;
+    showPlaceholder();
 }
 
 void ImageFrame::resourcesChanged() {

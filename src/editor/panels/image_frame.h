@@ -1,7 +1,7 @@
 // The frame of the resource that an image shows.
 #pragma once
 
-#include "editing/panel_values.h"
+#include "editing/several_values.h"
 
 #include <QGroupBox>
 
@@ -26,6 +26,8 @@ class ImageFrame : public QGroupBox {
 
     /// Shows the values. The preview begins anew only when it shows another resource than before.
     void refresh();
+    /// What no resource means: that several elements have various ones.
+    void setVarious(const VariousParts& various);
     /// The frame is out of sight: nothing plays.
     void leave();
     /// The skin has other resources: the chosen one stays chosen, by its name.
@@ -40,6 +42,7 @@ class ImageFrame : public QGroupBox {
   private:
     void buildPicker();
     void fillPicker();
+    void showPlaceholder();
     void lstR_Click();
     [[nodiscard]] const Resource* chosen() const;
 
@@ -47,6 +50,7 @@ class ImageFrame : public QGroupBox {
     const SkinDocument& document_;
     QComboBox* lstR_ = nullptr;
     ResourcePreview* preview_ = nullptr;
+    bool various_ = false;
     std::optional<Resource> previewed_; // none while the frame is out of sight
 };
 

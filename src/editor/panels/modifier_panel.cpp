@@ -214,6 +214,10 @@ void ModifierPanel::fill(const Element& element) {
     refreshLists();
 }
 
+bool ModifierPanel::suits(ElementKind kind) const {
+    return editor_.isOffered(kind);
+}
+
 void ModifierPanel::store(Element& element) const {
     XmlTree modifiers = editor_.stored(element.elementModifiers.get());
     element.elementModifiers =

@@ -31,6 +31,7 @@ class ModifierPanel : public BehaviourPanel {
   protected:
     void fill(const Element& element) override;
     void store(Element& element) const override;
+    [[nodiscard]] bool suits(ElementKind kind) const override;
 
   private:
     /// A box and the text that it shows, which belongs to the editor.

@@ -80,16 +80,39 @@ void PropertyPanel::addBeside(QWidget* control) {
 }
 
 void PropertyPanel::showElement(const Element& element) {
+    setVarious({});
     showFrames(showEditControls(element, document_.settings().resources, values_));
     cmdApply_->setEnabled(true);
 }
 
+void PropertyPanel::showElements(const std::vector<int>& ids) {
+    setVarious({});
+    const Element& element = document_.element(ids.back());
+    const PanelLayout layout = showEditControls(element, document_.settings().resources, values_);
+    leading_ = values_;
+    setVarious(variousParts(document_, ids, leading_));
+    values_ = before_ = withoutVarious(leading_, various_);
+    showFrames(layout);
+    cmdApply_->setEnabled(true);
+}
+
+// What was various and is not shown any more is the leading element's again.
+void PropertyPanel::setVarious(const VariousParts& various) {
+    values_ = values();
+    various_ = various;
+    fraShared_->setVarious(various);
+    fraText_->setVarious(various);
+    fraImg_->setVarious(various);
+}
+
 void PropertyPanel::showKind(ElementKind kind) {
+    setVarious({});
     showFrames(editControls(newControl(kind), values_));
     cmdApply_->setEnabled(false); // nothing is there yet to apply to
 }
 
 void PropertyPanel::showNothing() {
+    setVarious({});
     showFrames(PanelLayout{});
     cmdApply_->setEnabled(false);
 }
@@ -111,6 +134,7 @@ void PropertyPanel::takeMenuSettings(const MenuSettings& settings) {
 }
 
 void PropertyPanel::takeValues(const PanelValues& values) {
+    setVarious({});
     values_ = values;
     showFrames(shown_);
 }

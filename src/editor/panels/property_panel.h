@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/document_observer.h"
-#include "editing/panel_values.h"
+#include "editing/several_values.h"
 
 #include <QWidget>
 
@@ -30,14 +30,20 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     PropertyPanel(const SkinDocument& document, Prompts& prompts, PictureCache& pictures,
                   QWidget* parent = nullptr);
 
-    /// What the controls hold now.
-    [[nodiscard]] PanelValues values() const { return values_; }
+    /// What the controls hold now; of what is various, the leading element's.
+    [[nodiscard]] PanelValues values() const { return withLeading(values_, various_, leading_); }
+    /// While several elements are shown: what applyChanged() takes.
+    [[nodiscard]] const PanelValues& valuesBefore() const { return before_; }
+    [[nodiscard]] const PanelValues& valuesNow() const { return values_; }
 
     /// The values of the next element drawn, as they were when they were asked for.
     void takeValues(const PanelValues& values);
 
     /// An element became current: takes its values over.
     void showElement(const Element& element);
+    /// Several elements became current: shows what they have in common, and of the last one, which
+    /// leads, what else it has.
+    void showElements(const std::vector<int>& ids);
     /// A tool was chosen: shows the frames of the kind that it draws.
     void showKind(ElementKind kind);
     /// Neither element nor tool: shows no frames.
@@ -67,10 +73,14 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     void buildFrames();
     void buildRow();
     void showFrames(const PanelLayout& layout);
+    void setVarious(const VariousParts& various);
 
     const SkinDocument& document_;
     DocumentWatch watch_;
     PanelValues values_;
+    VariousParts various_; // nothing, but for several elements
+    PanelValues leading_;  // of these: the values of the one that leads
+    PanelValues before_;   // and what the controls held when they were shown
     PanelLayout shown_;
     QStackedWidget* frames_ = nullptr;
     QWidget* nothing_ = nullptr;

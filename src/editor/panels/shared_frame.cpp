@@ -190,10 +190,16 @@ void SharedFrame::Row::setVisible(bool visible) const {
     clear->setVisible(visible);
 }
 
+void SharedFrame::setVarious(const VariousParts& various) {
+    txtAlpha_->setPlaceholderText(various.opacity ? qtText(variousText) : QString());
+}
+
 void SharedFrame::Row::show(const Swatch& swatch) const {
-    well->setSwatch(swatch);
-    value->setText(well->valueText());
-    value->setToolTip(well->toolTip());
+    const bool various = isVarious(swatch);
+    well->setSwatch(various ? Swatch() : swatch);
+    value->setText(various ? qtText(variousText) : well->valueText());
+    value->setToolTip(various ? QObject::tr("The selected elements have various colors")
+                              : well->toolTip());
 }
 
 } // namespace tarvel

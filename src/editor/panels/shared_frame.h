@@ -1,7 +1,7 @@
 // The frame "Shared": the colours and the opacity of boxes, lines and texts.
 #pragma once
 
-#include "editing/panel_values.h"
+#include "editing/several_values.h"
 
 #include <QGroupBox>
 
@@ -26,6 +26,8 @@ class SharedFrame : public QGroupBox {
 
     /// Shows the values.
     void refresh();
+    /// What an opacity without a text means: that several elements have various ones.
+    void setVarious(const VariousParts& various);
     /// Shows the controls of a kind, with its captions, and the values.
     void refresh(const PanelLayout& layout);
 

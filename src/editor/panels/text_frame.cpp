@@ -107,9 +107,14 @@ void TextFrame::showText() {
     txtText_->lineEdit()->setCursorPosition(0);
 }
 
+void TextFrame::setVarious(const VariousParts& various) {
+    txtText_->lineEdit()->setPlaceholderText(various.text ? qtText(variousText) : QString());
+}
+
 void TextFrame::showFont() {
-    cmdFont_->setChoice(values_.font);
-    fontName_->setText(describeFont(values_.font));
+    const bool various = isVarious(values_.font);
+    cmdFont_->setChoice(various ? FontChoice() : values_.font);
+    fontName_->setText(various ? qtText(variousText) : describeFont(values_.font));
     fontName_->setToolTip(fontName_->text());
 }
 

@@ -1,7 +1,7 @@
 // The frame "Text": what a text shows, and its font.
 #pragma once
 
-#include "editing/panel_values.h"
+#include "editing/several_values.h"
 
 #include <QGroupBox>
 
@@ -23,6 +23,8 @@ class TextFrame : public QGroupBox {
 
     /// Shows the values.
     void refresh();
+    /// What no text means: that several elements have various ones.
+    void setVarious(const VariousParts& various);
 
   signals:
     /// The user changed a value.

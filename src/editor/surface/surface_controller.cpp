@@ -150,7 +150,9 @@ void SurfaceController::press(const QMouseEvent& event) {
     if (event.button() == Qt::LeftButton) {
         pressLeft(pointOf(event), event.modifiers().testFlag(Qt::ControlModifier));
     } else if (event.button() == Qt::RightButton) {
-        pick(pointOf(event));
+        if (!leadAt(pointOf(event))) {
+            pick(pointOf(event));
+        }
         emit menuWanted(event.globalPosition().toPoint());
     } else {
         host_.selection().clear();
@@ -205,13 +207,22 @@ bool SurfaceController::pressSeveral(SkinPoint point) {
         work_ = std::make_unique<GroupScaleTool>(host_, handle, point);
         return true;
     }
-    const int row = picks_.rowAt(document, point);
-    const int id = row < 0 ? 0 : document.itemData(document.currentLayout(), row);
-    if (!selection.contains(id)) {
+    if (!leadAt(point)) {
         return false;
     }
-    selection.lead(id);
-    work_ = std::make_unique<GroupMoveTool>(host_, id, point);
+    work_ = std::make_unique<GroupMoveTool>(host_, selection.curNum(), point);
+    return true;
+}
+
+// Lets the one of several selected elements lead that is at the point.
+bool SurfaceController::leadAt(SkinPoint point) {
+    const SkinDocument& document = host_.document();
+    const int row = picks_.rowAt(document, point);
+    const int id = row < 0 ? 0 : document.itemData(document.currentLayout(), row);
+    if (host_.selection().size() < 2 || !host_.selection().contains(id)) {
+        return false;
+    }
+    host_.selection().lead(id);
     return true;
 }
 

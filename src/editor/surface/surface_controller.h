@@ -63,6 +63,7 @@ class SurfaceController : public QObject, private DocumentObserver {
     void press(const QMouseEvent& event);
     void pressLeft(SkinPoint point, bool adds);
     bool pressSeveral(SkinPoint point);
+    bool leadAt(SkinPoint point);
     void toggleAt(SkinPoint point);
     void pick(SkinPoint point);
     void move(const QMouseEvent& event);

@@ -26,15 +26,15 @@ BehaviourPanels::BehaviourPanels(SkinDocument& document, Prompts& prompts, Windo
     room.side.installEventFilter(this);
 }
 
-void BehaviourPanels::cmdModifier_Click(int index, int elementId) {
-    if (elementId == 0 || isOpen()) {
+void BehaviourPanels::cmdModifier_Click(int index, const std::vector<int>& elementIds) {
+    if (elementIds.empty() || isOpen()) {
         return;
     }
     BehaviourPanel& panel = *panels_.at(static_cast<std::size_t>(index));
     focusBefore_ = room_.side.window()->focusWidget();
     gate_.disablex(panel);
     place(panel);
-    panel.open(elementId);
+    panel.open(elementIds);
     place(panel); // what it shows may need more room
     panel.raise();
 }

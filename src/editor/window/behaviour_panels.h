@@ -39,8 +39,9 @@ class BehaviourPanels : public QObject {
     BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, Room room,
                     const std::filesystem::path& programFolder);
 
-    /// Opens panel 0 modifiers, 1 timers or 2 condition for an element; for id 0 nothing happens.
-    void cmdModifier_Click(int index, int elementId);
+    /// Opens panel 0 modifiers, 1 timers or 2 condition for elements, the last of which
+    /// leads; without any nothing happens.
+    void cmdModifier_Click(int index, const std::vector<int>& elementIds);
     [[nodiscard]] bool isOpen() const;
     /// Takes an open panel over that was changed since it opened, and leaves it open; a panel only
     /// looked at stores nothing. Returns what takes that back; it may be empty.

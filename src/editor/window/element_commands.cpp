@@ -25,10 +25,15 @@ std::string_view nameOf(StackingCommand command) {
 } // namespace
 
 std::string ElementCommands::stepWith(std::string_view what) const {
-    return stepName(what, document_.element(selection_.curNum()));
+    return stepName(what, document_, selection_.ids());
 }
 
 void ElementCommands::restackSelected(StackingCommand command) {
+    if (selection_.size() > 1) {
+        const OpenEdit edit(document_, stepWith(nameOf(command)));
+        restackRows(document_, selection_.rows(), command);
+        return;
+    }
     const int row = selection_.leadingRow();
     if (stackingTarget(document_, row, command) != row) {
         const OpenEdit edit(document_, stepWith(nameOf(command)));
@@ -41,11 +46,12 @@ void ElementCommands::mnuDeSel_Click() {
 }
 
 void ElementCommands::mnuLocked_Click() {
-    const int row = selection_.leadingRow();
+    const std::vector<int> ids = selection_.ids();
+    const std::vector<int> rows = selection_.rows();
     const OpenEdit edit(document_, stepWith(step::lock));
     selection_.clear(); // a locked element shows no selection marks in the flat picture
-    lockRows(document_, row);
-    selection_.select(row);
+    lockRows(document_, rows.empty() ? -1 : rows.back());
+    selection_.selectIds(ids);
 }
 
 void ElementCommands::mnuUnlock_Click() {
@@ -54,13 +60,13 @@ void ElementCommands::mnuUnlock_Click() {
 }
 
 bool ElementCommands::mnuDelete_Click() {
-    const int row = selection_.leadingRow();
-    if (row < 0) {
+    const std::vector<int> rows = selection_.rows();
+    if (rows.empty()) {
         return false;
     }
     const OpenEdit edit(document_, stepWith(step::remove));
     selection_.clear();
-    deleteRow(document_, row);
+    deleteRows(document_, rows);
     return true;
 }
 

@@ -6,7 +6,7 @@
 
 namespace tarvel {
 
-/// Works on the selected element. Document and selection are not owned and outlive it.
+/// Works on what is selected. Document and selection are not owned and outlive it.
 class ElementCommands {
   public:
     ElementCommands(SkinDocument& document, Selection& selection)
@@ -18,10 +18,10 @@ class ElementCommands {
     void mnuForward_Click() { restackSelected(StackingCommand::Forward); }
     void mnuBackward_Click() { restackSelected(StackingCommand::Backward); }
     void mnuDeSel_Click();
-    /// Locks the selected element and all behind it.
+    /// Locks up to the frontmost of the selected elements.
     void mnuLocked_Click();
     void mnuUnlock_Click();
-    /// Deletes the selected element. Returns whether one was selected.
+    /// Deletes the selected elements. Returns whether one was selected.
     bool mnuDelete_Click();
 
   private:

@@ -4,6 +4,7 @@
 #include "document/layout_screens.h"
 #include "document/open_edit.h"
 #include "editing/element_update.h"
+#include "editing/several_values.h"
 #include "editing/step_names.h"
 #include "panels/layout_panel.h"
 #include "panels/property_panel.h"
@@ -71,16 +72,20 @@ void FrmMain::setBolds() {
 }
 
 void FrmMain::enterPosition(PositionField field, const QString& text) {
-    const int id = selection_.curNum();
-    const OpenEdit edit(document_, stepName(step::place, document_.element(id)));
-    tarvel::enterPosition(document_, id, field, coreText(text));
+    const OpenEdit edit(document_, stepName(step::place, document_, selection_.ids()));
+    enterPositions(document_, selection_.ids(), field, coreText(text));
     views_->setCurrentSel(); // what was typed may read differently
 }
 
 void FrmMain::applyChanges() {
-    const int id = selection_.curNum();
-    const OpenEdit edit(document_, stepName(step::apply, document_.element(id)));
-    updateControls(document_, id, properties_->values());
+    const std::vector<int>& ids = selection_.ids();
+    const OpenEdit edit(document_, stepName(step::apply, document_, ids));
+    if (ids.size() > 1) {
+        applyChanged(document_, ids, properties_->valuesBefore(), properties_->valuesNow());
+        views_->showSelection();
+    } else {
+        updateControls(document_, selection_.curNum(), properties_->values());
+    }
 }
 
 void FrmMain::load() {

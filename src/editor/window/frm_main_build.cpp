@@ -220,7 +220,7 @@ void FrmMain::connectPanels() {
     connect(properties_, &PropertyPanel::addResourceClicked, this,
             [this] { dialogs_->mnuResource_Click(); });
     connect(behaviours_, &BehaviourButtons::cmdModifier_Click, this,
-            [this](int index) { behaviourPanels_->cmdModifier_Click(index, selection_.curNum()); });
+            [this](int index) { behaviourPanels_->cmdModifier_Click(index, selection_.ids()); });
     connect(behaviourPanels_, &BehaviourPanels::closed, this, &FrmMain::setBolds);
     connect(&files_, &SkinFileCommands::told, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });

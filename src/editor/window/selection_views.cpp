@@ -39,7 +39,9 @@ void SelectionViews::showSelection() {
     setCurrentSel();
     setBolds();
     views_.behaviours.setAvailable(!selection_.isEmpty());
-    if (!selection_.isEmpty()) {
+    if (selection_.size() > 1) {
+        views_.properties.showElements(selection_.ids());
+    } else if (!selection_.isEmpty()) {
         views_.properties.showElement(document_.element(selection_.curNum()));
     } else if (!views_.tools.tool()) {
         views_.properties.showNothing();
@@ -48,8 +50,10 @@ void SelectionViews::showSelection() {
 }
 
 void SelectionViews::showDifference() {
+    const PropertyPanel& panel = views_.properties;
     views_.properties.setDiffers(
-        panelDiffers(document_, selection_.curNum(), views_.properties.values()));
+        selection_.size() > 1 ? !(panel.valuesNow() == panel.valuesBefore())
+                              : panelDiffers(document_, selection_.curNum(), panel.values()));
 }
 
 void SelectionViews::setCurrentSel() {
