@@ -101,6 +101,9 @@ Element changed(const SkinDocument& document, const Element& element, const Pane
         takeChanges(after.menuSettings.edit(), untouched.menuSettings.get(),
                     taken.menuSettings.get());
     }
+    if (after == element) {
+        return after;
+    }
     after.label = freshLabel(after);
     if (element.label.starts_with(lockPrefix)) {
         after.label.insert(0, lockPrefix);

@@ -5,14 +5,17 @@
 #include "editing/step_names.h"
 #include "surface/pic.h"
 
+#include <utility>
+
 namespace tarvel {
 
-SelectTool::SelectTool(ToolHost& host, Pic& surface, SkinPoint press, bool adds)
+SelectTool::SelectTool(ToolHost& host, Pic& surface, SkinPoint press, std::vector<int> before,
+                       bool adds)
     : CanvasTool(host.document(), std::string(step::select))
     , host_(host)
     , surface_(surface)
     , press_(press)
-    , before_(host.selection().ids())
+    , before_(std::move(before))
     , kept_(adds ? before_ : std::vector<int>())
     , band_(std::make_unique<QRubberBand>(QRubberBand::Rectangle, &surface)) {
     band_->setObjectName(QStringLiteral("selectBand"));

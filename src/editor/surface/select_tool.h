@@ -15,8 +15,8 @@ class Pic;
 /// Draws a rubber band from a press on an empty place, and selects what it touches meanwhile.
 class SelectTool : public CanvasTool {
   public:
-    /// `adds` keeps what is selected already.
-    SelectTool(ToolHost& host, Pic& surface, SkinPoint press, bool adds);
+    /// `before` was selected at the press; `adds` keeps it so.
+    SelectTool(ToolHost& host, Pic& surface, SkinPoint press, std::vector<int> before, bool adds);
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
@@ -27,8 +27,8 @@ class SelectTool : public CanvasTool {
     ToolHost& host_;
     Pic& surface_;
     SkinPoint press_;
-    std::vector<int> before_; // selected at the press
-    std::vector<int> kept_;   // of these, what stays selected
+    std::vector<int> before_;
+    std::vector<int> kept_; // of these, what stays selected
     std::unique_ptr<QRubberBand> band_;
 };
 

@@ -181,6 +181,7 @@ void SurfaceController::pressLeft(SkinPoint point, bool adds) {
         }
         return;
     }
+    const std::vector<int> before = host_.selection().ids();
     pick(point);
     if (const int id = host_.selection().curNum(); id != 0) {
         // A line is held by the end that was pressed.
@@ -191,7 +192,7 @@ void SurfaceController::pressLeft(SkinPoint point, bool adds) {
             work_ = std::make_unique<MoveTool>(host_, point);
         }
     } else {
-        work_ = std::make_unique<SelectTool>(host_, surface_, point, false);
+        work_ = std::make_unique<SelectTool>(host_, surface_, point, before, false);
     }
 }
 
@@ -232,7 +233,7 @@ void SurfaceController::toggleAt(SkinPoint point) {
     if (row >= 0) {
         host_.selection().toggle(row);
     } else {
-        work_ = std::make_unique<SelectTool>(host_, surface_, point, true);
+        work_ = std::make_unique<SelectTool>(host_, surface_, point, host_.selection().ids(), true);
     }
 }
 

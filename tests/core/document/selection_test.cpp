@@ -97,6 +97,71 @@ TEST(Selection, TellsOfWhatIsSelectedOnceMore) {
     EXPECT_EQ(counter.told, (std::vector<int>{1, 1, 0, 0}));
 }
 
+using Ids = std::vector<int>;
+
+TEST(Selection, HasTheOnePickedLastLead) {
+    Selected at;
+    Selection& selection = at.selection;
+    selection.select(2);
+    selection.toggle(0);
+    selection.toggle(1);
+    EXPECT_EQ(selection.ids(), (Ids{3, 1, 2}));
+    EXPECT_EQ(selection.rows(), (Ids{0, 1, 2}));
+    EXPECT_EQ(selection.curNum(), 2);
+    EXPECT_EQ(selection.leadingRow(), 1);
+    selection.toggle(1); // the one before it leads again
+    EXPECT_EQ(selection.ids(), (Ids{3, 1}));
+    EXPECT_EQ(selection.leadingRow(), 0);
+    EXPECT_FALSE(selection.contains(2));
+    EXPECT_TRUE(selection.contains(3));
+    selection.lead(3);
+    EXPECT_EQ(selection.ids(), (Ids{1, 3}));
+    selection.lead(2); // not selected
+    selection.toggle(-1);
+    EXPECT_EQ(selection.ids(), (Ids{1, 3}));
+    selection.select(1);
+    EXPECT_EQ(selection.ids(), Ids{2});
+    EXPECT_FALSE(selection.contains(1));
+}
+
+TEST(Selection, TakesIdsThatTheScreenHolds) {
+    Selected at;
+    const Counter counter(at.selection);
+    at.selection.selectIds({3, 4, 1, 99, 3}); // 4 is on another screen
+    EXPECT_EQ(at.selection.ids(), (Ids{3, 1}));
+    at.selection.selectIds({});
+    EXPECT_TRUE(at.selection.isEmpty());
+    EXPECT_EQ(counter.told, (Ids{1, 0})); // once each time
+}
+
+TEST(Selection, KeepsThoseWhoseRowsStay) {
+    Selected at;
+    at.selection.selectIds({1, 2, 3});
+    const Counter counter(at.selection);
+    at.document.moveRow(1, 0, 2);
+    EXPECT_EQ(at.selection.ids(), (Ids{1, 2, 3}));
+    EXPECT_EQ(counter.told, Ids());
+    at.document.delItems({0, 1}); // 2 and 3
+    EXPECT_EQ(at.selection.ids(), Ids{1});
+    EXPECT_EQ(at.selection.leadingRow(), 0);
+    EXPECT_EQ(counter.told, Ids{1});
+    at.document.addElement(Element());
+    at.selection.toggle(1); // an id that came later
+    EXPECT_EQ(at.selection.ids(), (Ids{1, 5}));
+    at.document.delItems({0, 1});
+    EXPECT_TRUE(at.selection.isEmpty());
+}
+
+TEST(Selection, EndsARunWhenItChanges) {
+    Selected at;
+    at.selection.select(0);
+    at.document.continueRun("move Box");
+    at.selection.select(0);
+    EXPECT_TRUE(at.document.isRunOpen());
+    at.selection.toggle(1);
+    EXPECT_FALSE(at.document.isRunOpen());
+}
+
 TEST(Selection, IsRightBeforeLaterObserversAreTold) {
     struct Asking : DocumentObserver {
         explicit Asking(Selection& asked)
