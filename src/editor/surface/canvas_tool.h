@@ -5,6 +5,7 @@
 #include "document/open_edit.h"
 #include "document/selection.h"
 #include "editing/panel_values.h"
+#include "editing/snap_drag.h"
 
 #include <optional>
 
@@ -41,6 +42,8 @@ class CanvasTool {
     /// The pointer moved with the button held. `keepProportions` while Shift is held.
     virtual void move(SkinPoint point, bool keepProportions) = 0;
     virtual void release(SkinPoint point) = 0;
+    /// What the pointer drags, for snapping; nothing where nothing snaps.
+    [[nodiscard]] virtual std::optional<SnapSubject> snapSubject() const { return std::nullopt; }
     /// Takes back what was done since the press.
     void cancel() {
         takeBack();

@@ -22,6 +22,7 @@ DrawTool::DrawTool(ToolHost& host, ElementKind kind, SkinPoint press)
     : CanvasTool(host.document(), stepName(step::draw, kind))
     , host_(host)
     , kind_(kind)
+    , press_(press)
     , drag_(makeSelected(host, kind, press), press) {}
 
 void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
@@ -31,6 +32,13 @@ void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
 void DrawTool::release(SkinPoint point) {
     drag_.finish(host_.document(), point, host_.naturalSize(kind_));
     host_.drawingEnded();
+}
+
+std::optional<SnapSubject> DrawTool::snapSubject() const {
+    return SnapSubject{.what = kind_ == ElementKind::Line ? SnapSubject::What::lineEnd
+                                                          : SnapSubject::What::corner,
+                       .press = press_,
+                       .ids = {host_.selection().curNum()}};
 }
 
 void DrawTool::takeBack() {

@@ -15,12 +15,14 @@ class DrawTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override;
 
   private:
     void takeBack() override;
 
     ToolHost& host_;
     ElementKind kind_;
+    SkinPoint press_;
     DrawDrag drag_;
 };
 

@@ -12,11 +12,29 @@ std::string nameOf(std::string_view verb, ToolHost& host) {
     return stepName(verb, host.document(), host.selection().ids());
 }
 
+// The selected element's rectangle, dragged from the press.
+SnapSubject subjectOf(ToolHost& host, SnapSubject::What what, SkinPoint press,
+                      Handle handle = Handle::none) {
+    const int id = host.selection().curNum();
+    return {.what = what,
+            .start = placeOf(host.document().element(id).elementControl),
+            .press = press,
+            .handle = handle,
+            .ids = {id}};
+}
+
+SnapSubject subjectOf(const std::vector<StartPlace>& starts, SnapSubject::What what,
+                      SkinPoint press, const std::vector<int>& ids, Handle handle = Handle::none) {
+    return {
+        .what = what, .start = commonFrame(starts), .press = press, .handle = handle, .ids = ids};
+}
+
 } // namespace
 
 MoveTool::MoveTool(ToolHost& host, SkinPoint press)
     : CanvasTool(host.document(), nameOf(step::move, host))
     , host_(host)
+    , snap_(subjectOf(host, SnapSubject::What::whole, press))
     , drag_(host.document(), host.selection().curNum(), press) {}
 
 void MoveTool::move(SkinPoint point, bool /*keepProportions*/) {
@@ -32,6 +50,7 @@ void MoveTool::takeBack() {
 ResizeTool::ResizeTool(ToolHost& host, Handle handle, SkinPoint press)
     : CanvasTool(host.document(), nameOf(step::size, host))
     , host_(host)
+    , snap_(subjectOf(host, SnapSubject::What::handle, press, handle))
     , drag_(host.document(), host.selection().curNum(), handle, press) {}
 
 void ResizeTool::move(SkinPoint point, bool keepProportions) {
@@ -49,7 +68,8 @@ GroupMoveTool::GroupMoveTool(ToolHost& host, int pressedId, SkinPoint press)
     , host_(host)
     , pressedId_(pressedId)
     , press_(press)
-    , starts_(startPlaces(host.document(), host.selection().ids())) {}
+    , starts_(startPlaces(host.document(), host.selection().ids()))
+    , snap_(subjectOf(starts_, SnapSubject::What::whole, press, host.selection().ids())) {}
 
 void GroupMoveTool::move(SkinPoint point, bool /*keepProportions*/) {
     moved_ = moved_ || point != press_;
@@ -74,7 +94,8 @@ GroupScaleTool::GroupScaleTool(ToolHost& host, Handle handle, SkinPoint press)
     , handle_(handle)
     , press_(press)
     , starts_(startPlaces(host.document(), host.selection().ids()))
-    , frame_(commonFrame(starts_)) {}
+    , frame_(commonFrame(starts_))
+    , snap_(subjectOf(starts_, SnapSubject::What::handle, press, host.selection().ids(), handle)) {}
 
 void GroupScaleTool::move(SkinPoint point, bool keepProportions) {
     const Place frame =
@@ -91,6 +112,7 @@ void GroupScaleTool::takeBack() {
 LineEndTool::LineEndTool(ToolHost& host, Handle end, SkinPoint press)
     : CanvasTool(host.document(), nameOf(step::moveEnd, host))
     , host_(host)
+    , snap_(subjectOf(host, SnapSubject::What::lineEnd, press))
     , drag_(host.document(), host.selection().curNum(), end, press) {}
 
 void LineEndTool::move(SkinPoint point, bool /*keepProportions*/) {

@@ -13,11 +13,13 @@ class MoveTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override { return snap_; }
 
   private:
     void takeBack() override;
 
     ToolHost& host_;
+    SnapSubject snap_;
     MoveDrag drag_;
 };
 
@@ -27,11 +29,13 @@ class ResizeTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override { return snap_; }
 
   private:
     void takeBack() override;
 
     ToolHost& host_;
+    SnapSubject snap_;
     ResizeDrag drag_;
 };
 
@@ -42,6 +46,7 @@ class GroupMoveTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override { return snap_; }
 
   private:
     void takeBack() override;
@@ -50,6 +55,7 @@ class GroupMoveTool : public CanvasTool {
     int pressedId_;
     SkinPoint press_;
     std::vector<StartPlace> starts_;
+    SnapSubject snap_;
     bool moved_ = false;
 };
 
@@ -60,6 +66,7 @@ class GroupScaleTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override { return snap_; }
 
   private:
     void takeBack() override;
@@ -69,6 +76,7 @@ class GroupScaleTool : public CanvasTool {
     SkinPoint press_;
     std::vector<StartPlace> starts_;
     Place frame_;
+    SnapSubject snap_;
 };
 
 class LineEndTool : public CanvasTool {
@@ -77,11 +85,13 @@ class LineEndTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override { return snap_; }
 
   private:
     void takeBack() override;
 
     ToolHost& host_;
+    SnapSubject snap_;
     LineEndDrag drag_;
 };
 

@@ -5,6 +5,7 @@
 #include "editing/step_names.h"
 #include "surface/draw_tools.h"
 #include "surface/edit_tools.h"
+#include "surface/guide_marks.h"
 #include "surface/pic.h"
 #include "surface/select_tool.h"
 #include "surface/selection_marks.h"
@@ -62,7 +63,8 @@ SurfaceController::SurfaceController(Pic& surface, ToolHost& host, SelectionMark
     , host_(host)
     , marks_(marks)
     , watch_(host.document().watch(*this))
-    , picksWatch_(host.document().watch(picks_)) {
+    , picksWatch_(host.document().watch(picks_))
+    , guides_(new GuideMarks(surface)) {
     using namespace std::chrono_literals;
     nudgeEnd_.setSingleShot(true);
     nudgeEnd_.setInterval(1s);
@@ -82,7 +84,7 @@ void SurfaceController::setTool(std::optional<ElementKind> kind) {
 void SurfaceController::documentChanged(const DocumentChange& change) {
     if (change.what == DocumentChange::What::everything ||
         change.what == DocumentChange::What::currentLayout) {
-        work_.reset(); // what it worked on is not shown any more
+        (void)takeWork(); // what it worked on is not shown any more
     }
     showPointerLater();
 }
@@ -91,14 +93,49 @@ SkinPoint SurfaceController::pointOf(const QMouseEvent& event) const {
     return surface_.mapping().pixelAt(event.position());
 }
 
+void SurfaceController::setSnapping(const SnapOptions& options) {
+    snapping_ = options;
+    guides_->showGrid(options.toGrid ? options.grid : 0);
+}
+
+double SurfaceController::snapTolerance() const {
+    return snapReach / surface_.mapping().scale();
+}
+
+// Ctrl suspends snapping, and with Shift the other side decides.
+SkinPoint SurfaceController::snappedPointOf(const QMouseEvent& event) {
+    const SkinPoint point = pointOf(event);
+    const auto subject = work_->snapSubject();
+    const bool keepsProportions = event.modifiers().testFlag(Qt::ShiftModifier) && subject &&
+                                  subject->what == SnapSubject::What::handle;
+    if (!subject || !snapping_.isOn() || keepsProportions ||
+        event.modifiers().testFlag(Qt::ControlModifier)) {
+        guides_->showGuides({});
+        return point;
+    }
+    if (!snap_) {
+        snap_.emplace(host_.document(), *subject, snapping_);
+    }
+    const SkinPoint snapped = snap_->snapped(point, snapTolerance());
+    guides_->showGuides(snap_->guides());
+    return snapped;
+}
+
+std::unique_ptr<CanvasTool> SurfaceController::takeWork() {
+    snap_.reset();
+    drawnFrom_.reset();
+    guides_->showGuides({});
+    return std::move(work_);
+}
+
 void SurfaceController::cancelWork() {
-    if (const auto work = std::move(work_)) {
+    if (const auto work = takeWork()) {
         work->cancel();
     }
 }
 
 void SurfaceController::endWork() {
-    if (const auto work = std::move(work_)) {
+    if (const auto work = takeWork()) {
         work->release(lastPoint_);
     }
 }
@@ -241,7 +278,11 @@ void SurfaceController::draw(ElementKind kind, SkinPoint press) {
     host_.selection().clear();
     if (!refused(kind)) {
         const QScopedValueRollback making(making_, true);
-        work_ = startDrawing(host_, kind, press);
+        const SkinPoint from =
+            snapping_.isOn() ? snappedPress(host_.document(), press, snapping_, snapTolerance())
+                             : press;
+        drawnFrom_ = {press, from};
+        work_ = startDrawing(host_, kind, from);
     }
 }
 
@@ -266,10 +307,10 @@ bool SurfaceController::refused(ElementKind kind) {
 }
 
 void SurfaceController::move(const QMouseEvent& event) {
-    const SkinPoint point = pointOf(event);
-    hover_ = lastPoint_ = point;
+    hover_ = lastPoint_ = pointOf(event);
     if (work_ != nullptr && event.buttons().testFlag(Qt::LeftButton)) {
-        work_->move(point, event.modifiers().testFlag(Qt::ShiftModifier));
+        lastPoint_ = snappedPointOf(event);
+        work_->move(lastPoint_, event.modifiers().testFlag(Qt::ShiftModifier));
     } else if (event.buttons() == Qt::NoButton) {
         showPointer();
     }
@@ -277,8 +318,12 @@ void SurfaceController::move(const QMouseEvent& event) {
 
 void SurfaceController::release(const QMouseEvent& event) {
     if (event.button() == Qt::LeftButton) {
-        if (const auto work = std::move(work_)) {
-            work->release(pointOf(event));
+        if (work_ != nullptr) {
+            // A press that was snapped is not drawn away from by a pointer that has not moved.
+            const SkinPoint point = drawnFrom_ && pointOf(event) == drawnFrom_->pressed
+                                        ? drawnFrom_->snapped
+                                        : snappedPointOf(event);
+            takeWork()->release(point);
         }
     }
 }

@@ -22,6 +22,7 @@ class QWidget;
 namespace tarvel {
 
 class Pic;
+class GuideMarks;
 class SelectionMarks;
 
 /// Watches the surface's events. Surface, host and marks are not owned and outlive it.
@@ -34,6 +35,8 @@ class SurfaceController : public QObject, private DocumentObserver {
 
     /// The kind that the next press draws; nothing lets presses pick.
     void setTool(std::optional<ElementKind> kind);
+    /// What is drawn, moved and sized from now on snaps to.
+    void setSnapping(const SnapOptions& options);
     /// Whether the pointer is drawing or dragging.
     [[nodiscard]] bool isWorking() const { return work_ != nullptr; }
     /// Whether an element is just being made and selected.
@@ -78,6 +81,9 @@ class SurfaceController : public QObject, private DocumentObserver {
     void draw(ElementKind kind, SkinPoint press);
     [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point);
     [[nodiscard]] SkinPoint pointOf(const QMouseEvent& event) const;
+    [[nodiscard]] SkinPoint snappedPointOf(const QMouseEvent& event);
+    [[nodiscard]] double snapTolerance() const;
+    [[nodiscard]] std::unique_ptr<CanvasTool> takeWork();
     [[nodiscard]] bool refused(ElementKind kind);
 
     Pic& surface_;
@@ -89,6 +95,14 @@ class SurfaceController : public QObject, private DocumentObserver {
     QTimer nudgeEnd_; // between arrow keys that are one step
     std::optional<ElementKind> kind_;
     std::unique_ptr<CanvasTool> work_;
+    SnapOptions snapping_;
+    std::optional<SnapDrag> snap_; // of work_, from its first move on
+    struct DrawnFrom {
+        SkinPoint pressed;
+        SkinPoint snapped;
+    };
+    std::optional<DrawnFrom> drawnFrom_; // while work_ draws
+    GuideMarks* guides_;
     bool making_ = false;
     SkinPoint lastPoint_;
     std::optional<SkinPoint> hover_; // where the pointer stands, while it is over the surface

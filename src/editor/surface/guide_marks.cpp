@@ -1,0 +1,95 @@
+// Paints guides and grid.
+#include "surface/guide_marks.h"
+
+#include "surface/pic.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace tarvel {
+
+namespace {
+
+const QColor guideColor(255, 0, 170);
+const QColor gridColor(130, 130, 130, 110);
+constexpr double tick = 3; // pixels: half of the strokes at the ends of a gap
+
+} // namespace
+
+GuideMarks::GuideMarks(Pic& surface)
+    : QWidget(&surface)
+    , surface_(surface) {
+    setObjectName(QStringLiteral("guideMarks"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setVisible(false);
+}
+
+void GuideMarks::showGuides(const std::vector<Guide>& guides) {
+    if (guides != guides_) {
+        guides_ = guides;
+        showOrHide();
+    }
+}
+
+void GuideMarks::showGrid(int grid) {
+    if (grid != grid_) {
+        grid_ = grid;
+        showOrHide();
+    }
+}
+
+void GuideMarks::showOrHide() {
+    setGeometry(surface_.rect());
+    setVisible(grid_ > 0 || !guides_.empty());
+    update();
+}
+
+void GuideMarks::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (grid_ > 0) {
+        paintGrid(painter);
+    }
+    for (const Guide& guide : guides_) {
+        paintGuide(painter, guide);
+    }
+}
+
+// A dot at each crossing; of a grid too fine to be seen every second, fourth and so on.
+void GuideMarks::paintGrid(QPainter& painter) const {
+    constexpr double finest = 6; // pixels between dots
+    const ViewMapping& mapping = surface_.mapping();
+    int step = grid_;
+    while (step * mapping.scale() < finest) {
+        step *= 2;
+    }
+    painter.setPen(QPen(gridColor, 1));
+    std::vector<QPointF> dots;
+    for (int y = 0; y < skinHeight; y += step) {
+        for (int x = 0; x < skinWidth; x += step) {
+            dots.push_back(mapping.toWidget(QPointF(x, y)) + QPointF(0.5, 0.5));
+        }
+    }
+    painter.drawPoints(dots.data(), static_cast<int>(dots.size()));
+}
+
+void GuideMarks::paintGuide(QPainter& painter, const Guide& guide) const {
+    const bool upright = (guide.axis == Axis::across) == (guide.kind == GuideKind::line);
+    const auto at = [&](double along, double across) {
+        return surface_.mapping().toWidget(upright ? QPointF(across, along)
+                                                   : QPointF(along, across));
+    };
+    const QPointF first = at(guide.from, guide.position);
+    const QPointF second = at(guide.to, guide.position);
+    painter.setPen(
+        QPen(guideColor, 1, guide.kind == GuideKind::line ? Qt::DashLine : Qt::SolidLine));
+    painter.drawLine(first, second);
+    if (guide.kind == GuideKind::gap) {
+        const QPointF stroke = upright ? QPointF(tick, 0) : QPointF(0, tick);
+        painter.drawLine(first - stroke, first + stroke);
+        painter.drawLine(second - stroke, second + stroke);
+    }
+}
+
+} // namespace tarvel
