@@ -1,6 +1,8 @@
 // Shortens a path in its middle to the width that the label has.
 #include "widgets/path_label.h"
 
+#include "widgets/qt_text.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -14,7 +16,7 @@ PathLabel::PathLabel(QWidget* parent)
 
 void PathLabel::setPath(const QString& path) {
     setText(path);
-    setToolTip(path);
+    setToolTip(plainToolTip(path));
 }
 
 QSize PathLabel::minimumSizeHint() const {

@@ -1,6 +1,8 @@
 // Asks by Qt's message boxes and choosers.
 #include "widgets/qt_prompts.h"
 
+#include "widgets/remembered.h"
+
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -55,16 +57,27 @@ QString QtPrompts::input(QWidget* owner, const QString& prompt) {
     return QInputDialog::getText(owner, QStringLiteral("Tarvel"), prompt);
 }
 
+QString QtPrompts::lastFolder() const {
+    return remembered_ != nullptr ? remembered_->lastFolder() : lastFolder_;
+}
+
+void QtPrompts::setLastFolder(const QString& folder) {
+    lastFolder_ = folder;
+    if (remembered_ != nullptr) {
+        remembered_->rememberLastFolder(folder);
+    }
+}
+
 QString QtPrompts::folder(QWidget* owner, const QString& title) {
-    QString chosen = QFileDialog::getExistingDirectory(owner, title, lastFolder_);
+    QString chosen = QFileDialog::getExistingDirectory(owner, title, lastFolder());
     if (!chosen.isEmpty()) {
-        lastFolder_ = chosen;
+        setLastFolder(chosen);
     }
     return chosen;
 }
 
 QStringList QtPrompts::files(QWidget* owner, const QString& filter, bool several) {
-    QFileDialog dialog(owner, QStringLiteral("Open"), lastFolder_, qtFilter(filter));
+    QFileDialog dialog(owner, QStringLiteral("Open"), lastFolder(), qtFilter(filter));
     dialog.setFileMode(several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted) {
         return {};
@@ -72,7 +85,7 @@ QStringList QtPrompts::files(QWidget* owner, const QString& filter, bool several
     QStringList chosen = dialog.selectedFiles();
     if (!chosen.isEmpty()) {
         // Not the folder that the dialog shows: a path that was typed leads out of it.
-        lastFolder_ = QFileInfo(chosen.front()).absolutePath();
+        setLastFolder(QFileInfo(chosen.front()).absolutePath());
     }
     return chosen;
 }

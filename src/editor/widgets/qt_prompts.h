@@ -5,9 +5,16 @@
 
 namespace tarvel {
 
-/// Folder and file choosers start where the last one ended, within a run.
+class Remembered;
+
+/// Folder and file choosers start in the folder used last: the one that is remembered, or without
+/// something that remembers the one where the last chooser ended.
 class QtPrompts : public Prompts {
   public:
+    /// `remembered` is not owned and outlives the prompts.
+    explicit QtPrompts(Remembered* remembered = nullptr)
+        : remembered_(remembered) {}
+
     void message(QWidget* owner, const QString& text) override;
     Answer question(QWidget* owner, const QString& text) override;
     bool confirm(QWidget* owner, const QString& text) override;
@@ -18,6 +25,10 @@ class QtPrompts : public Prompts {
     std::optional<QFont> font(QWidget* owner, const QFont& initial) override;
 
   private:
+    [[nodiscard]] QString lastFolder() const;
+    void setLastFolder(const QString& folder);
+
+    Remembered* remembered_;
     QString lastFolder_;
 };
 

@@ -2,6 +2,7 @@
 #include "support/dialog_support.h"
 #include "support/ui_test.h"
 #include "widgets/qt_prompts.h"
+#include "widgets/remembered.h"
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
@@ -81,6 +82,7 @@ class QtPromptsTest : public QObject {
     void folderIsChosen();
     void choosersStartWhereTheLastOneEnded();
     void choosersStartWhereATypedPathLed();
+    void choosersStartWhereThoseOfARunBeforeEnded();
     void colorIsChosen();
     void fontIsChosen();
 
@@ -289,6 +291,35 @@ void QtPromptsTest::choosersStartWhereATypedPathLed() {
         }));
         QCOMPARE(start, path("sub"));
     }
+}
+
+void QtPromptsTest::choosersStartWhereThoseOfARunBeforeEnded() {
+    const QString file = path("settings.ini");
+    QString start;
+    const auto startOf = [&](QtPrompts& prompts) {
+        start.clear();
+        return asking<QFileDialog>([&] { prompts.folder(&owner_, "Folder"); },
+                                   [&](QFileDialog& dialog) {
+                                       start = dialog.directory().absolutePath();
+                                       cancel(dialog);
+                                   });
+    };
+    {
+        Remembered remembered(file);
+        QtPrompts prompts(&remembered);
+        QVERIFY(asking<QFileDialog>([&] { prompts.files(&owner_, {}, false); },
+                                    [&](QFileDialog& dialog) { take(dialog, path("sub/c.jpg")); }));
+    }
+    Remembered remembered(file);
+    QtPrompts prompts(&remembered);
+    QVERIFY(startOf(prompts));
+    QCOMPARE(start, path("sub"));
+    QVERIFY(asking<QFileDialog>([&] { prompts.folder(&owner_, "Folder"); },
+                                [&](QFileDialog& dialog) { take(dialog, folder_.path()); }));
+    QCOMPARE(remembered.lastFolder(), folder_.path());
+    remembered.rememberLastFolder(path("gone")); // meanwhile
+    QVERIFY(startOf(prompts));
+    QVERIFY2(QDir(start).exists(), qPrintable(start));
 }
 
 void QtPromptsTest::colorIsChosen() {
