@@ -8,6 +8,7 @@
 #include "editing/pick_index.h"
 #include "widgets/panel_slide.h"
 #include "widgets/prompts.h"
+#include "widgets/remembered.h"
 #include "window/frm_main.h"
 
 #include <QAction>
@@ -265,7 +266,8 @@ class Window {
   private:
     QTemporaryDir folder_;
     NoPrompts prompts_;
-    FrmMain window_{prompts_, folder_.path().toStdString()};
+    Remembered remembered_{folder_.filePath(QStringLiteral("settings.ini"))};
+    FrmMain window_{prompts_, folder_.path().toStdString(), remembered_};
 };
 
 Times selectionTimes(Window& window) {

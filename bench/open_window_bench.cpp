@@ -9,6 +9,7 @@
 #include "skins.h"
 #include "support/scripted_prompts.h"
 #include "widgets/panel_slide.h"
+#include "widgets/remembered.h"
 #include "window/frm_main.h"
 
 #include <QAction>
@@ -17,6 +18,7 @@
 #include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
@@ -91,7 +93,9 @@ int make(const std::filesystem::path& folder, int count, std::string_view kind) 
 int open(QApplication& application, const QString& folder) {
     test::ScriptedPrompts prompts;
     prompts.folders << folder;
-    FrmMain window(prompts, programFolder());
+    const QTemporaryDir settings;
+    Remembered remembered(settings.filePath(QStringLiteral("settings.ini")));
+    FrmMain window(prompts, programFolder(), remembered);
     window.show();
     // The panels slide in for the same time whatever is loaded; without it the ratio says more.
     QApplication::processEvents();

@@ -8,6 +8,7 @@
 #include "widgets/easing.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
+#include "widgets/remembered.h"
 #include "window/frm_main.h"
 
 #include <QAction>
@@ -57,7 +58,8 @@ inline Element lineFrom(float x1, float y1, float x2, float y2) {
 struct Editor {
     QTemporaryDir folder;
     ScriptedPrompts prompts;
-    FrmMain window{prompts, hostPathOf(folder.path())};
+    Remembered remembered{folder.filePath("settings.ini")};
+    FrmMain window{prompts, hostPathOf(folder.path()), remembered};
 
     SkinDocument& document() { return window.document(); }
     template <class Widget> Widget* find(const char* name) {

@@ -17,15 +17,18 @@
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
 #include "window/main_menus.h"
+#include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
+#include "window/skin_status.h"
 #include "window/tool_choice.h"
 #include "window/window_keys.h"
 #include "window/work_history.h"
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QRandomGenerator>
@@ -43,12 +46,15 @@ std::string randomSkinName() {
 
 } // namespace
 
-FrmMain::FrmMain(Prompts& prompts, const std::filesystem::path& programFolder)
+FrmMain::FrmMain(Prompts& prompts, const std::filesystem::path& programFolder,
+                 Remembered& remembered)
     : prompts_(prompts)
+    , remembered_(remembered)
     , files_(document_, prompts,
-             {.window = this, .programFolder = programFolder, .showInformation = [this] {
-                  dialogs_->mnuInfo_Click();
-              }}) {
+             {.window = this,
+              .remembered = remembered,
+              .programFolder = programFolder,
+              .showInformation = [this] { dialogs_->mnuInfo_Click(); }}) {
     build(programFolder);
     pic_->setDocument(&document_);
     optScreen_Click(menuScreen);
@@ -91,6 +97,38 @@ void FrmMain::applyChanges() {
 void FrmMain::load() {
     tools_->endWork();
     files_.mnuLoad_Click();
+}
+
+void FrmMain::openFolder(const QString& folder) {
+    tools_->endWork();
+    files_.openFolder(folder);
+}
+
+void FrmMain::saveAgain() {
+    tools_->endWork();
+    files_.mnuSaveAgain_Click();
+}
+
+void FrmMain::startRunsBy(std::function<bool(const QString&)> start) {
+    startRun_ = std::move(start);
+}
+
+void FrmMain::newWindow(const QString& folder) {
+    if (!startRun_ || !startRun_(folder)) {
+        prompts_.message(this, tr("A new window cannot be opened."));
+    }
+}
+
+void FrmMain::begin(const QStringList& folders) {
+    const bool isBack = offerLostWork();
+    const QString work = files_.skinFolder();
+    for (qsizetype i = 0; i < folders.size(); ++i) {
+        if (i == 0 && !isBack) {
+            openFolder(folders[i]);
+        } else if (work.isEmpty() || QDir(folders[i]) != QDir(work)) {
+            newWindow(folders[i]);
+        }
+    }
 }
 
 void FrmMain::loaded(const SkinDocument& before) {
@@ -171,10 +209,8 @@ void FrmMain::keepWorkIn(const std::filesystem::path& folder) {
             [this](const QString& text) { statusBar()->showMessage(text); });
 }
 
-void FrmMain::offerLostWork() {
-    if (keeper_ != nullptr) {
-        keeper_->offerLost();
-    }
+bool FrmMain::offerLostWork() {
+    return keeper_ != nullptr && keeper_->offerLost();
 }
 
 void FrmMain::keepWorkNow() {

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 class QLabel;
@@ -30,24 +31,27 @@ class PictureWatch;
 class PositionPanel;
 class Prompts;
 class PropertyPanel;
+class RecentMenu;
 class RecoveryKeeper;
+class Remembered;
 class SelectionMarks;
 class SelectionViews;
 class SkinDialogs;
+class SkinStatus;
 class ToolChoice;
 class WindowGate;
 class WindowKeys;
 class WorkHistory;
 
 /// Owns the document and what is selected in it. Asks the user through `prompts`, which outlives
-/// the window.
+/// the window, as `remembered` does.
 class FrmMain : public QMainWindow {
     Q_OBJECT
 
   public:
     /// `programFolder` holds the program's own files: the modifier catalogue, and "temp.xml" while
     /// a skin is saved.
-    FrmMain(Prompts& prompts, const std::filesystem::path& programFolder);
+    FrmMain(Prompts& prompts, const std::filesystem::path& programFolder, Remembered& remembered);
     ~FrmMain() override;
 
     [[nodiscard]] SkinDocument& document() { return document_; }
@@ -67,8 +71,15 @@ class FrmMain : public QMainWindow {
     /// Keeps the work in a folder from now on, for a run that does not end by closing the window.
     /// Throws FileError when nothing can be kept there.
     void keepWorkIn(const std::filesystem::path& folder);
-    /// Asks whether to bring back what lost runs have kept there.
-    void offerLostWork();
+    /// How a further run is started, with a folder to open or with an empty text; false when that
+    /// cannot be done.
+    void startRunsBy(std::function<bool(const QString& folder)> start);
+    /// Asks whether to bring back what lost runs have kept there. True when something is back.
+    bool offerLostWork();
+    /// Begins a run that was started with folders of skins: asks about lost work, opens the first
+    /// folder, and starts a run for each further one. Work that was brought back stays alone: then
+    /// the first folder, too, has a run of its own, unless the work is of that folder.
+    void begin(const QStringList& folders);
     /// Keeps the work as it is now: the program is about to end.
     void keepWorkNow();
 
@@ -88,16 +99,21 @@ class FrmMain : public QMainWindow {
     void connectPanels();
     void connectMenus();
     void buildHistory();
+    void buildStatus();
     void watchPictures();
     void slideIn();
     void popupMenu(QPoint globalPosition);
     void enterPosition(PositionField field, const QString& text);
     void applyChanges();
     void load();
+    void openFolder(const QString& folder);
+    void saveAgain();
+    void newWindow(const QString& folder);
     void loaded(const SkinDocument& before);
     void deleteSelected();
 
     Prompts& prompts_;
+    Remembered& remembered_;
     SkinDocument document_;
     Selection selection_{document_};
     PictureCache pictures_;
@@ -125,11 +141,13 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<WindowKeys> keys_;
     std::unique_ptr<ChangeTeller> changes_;
     std::unique_ptr<WorkHistory> history_;
-    QLabel* lblUnsaved_ = nullptr;
+    std::unique_ptr<SkinStatus> status_;
+    std::unique_ptr<RecentMenu> recent_;
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;
     std::unique_ptr<RecoveryKeeper> keeper_;
+    std::function<bool(const QString&)> startRun_;
     bool slidIn_ = false;
 };
 

@@ -21,9 +21,11 @@
 #include "window/change_teller.h"
 #include "window/frm_main.h"
 #include "window/main_menus.h"
+#include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
+#include "window/skin_status.h"
 #include "window/tool_choice.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"
@@ -31,6 +33,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -79,6 +82,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
                             {.side = *right, .roof = *fraPos_, .floor = *cmdStop_}, programFolder);
     buildReactions();
     buildHistory();
+    buildStatus();
     connectPanels();
     connectMenus();
     watchPictures();
@@ -190,19 +194,23 @@ void FrmMain::buildHistory() {
                            .undo = *menus_->mnuUndo,
                            .redo = *menus_->mnuRedo,
                            .isOpen = [this] { return !gate_->isClosed(); }});
-    lblUnsaved_ = new QLabel;
-    lblUnsaved_->setObjectName(QStringLiteral("lblUnsaved"));
-    statusBar()->addPermanentWidget(lblUnsaved_);
     auto* history = history_.get();
-    connect(history, &WorkHistory::changed, this, [this] {
-        lblUnsaved_->setText(history_->history().isChanged() ? tr("Unsaved changes") : QString());
-    });
     connect(history, &WorkHistory::told, this,
             [this](const QString& text) { statusBar()->showMessage(text); });
     connect(gate_, &WindowGate::changed, history, &WorkHistory::refresh);
     connect(&files_, &SkinFileCommands::saved, history,
             [history] { history->history().markSaved(); });
     connect(&files_, &SkinFileCommands::loaded, this, &FrmMain::loaded);
+    connect(history, &WorkHistory::loadUndone, &files_, &SkinFileCommands::loadUndone);
+    connect(history, &WorkHistory::loadRedone, &files_, &SkinFileCommands::loadRedone);
+}
+
+void FrmMain::buildStatus() {
+    status_ = std::make_unique<SkinStatus>(document_, *statusBar());
+    connect(history_.get(), &WorkHistory::changed, status_.get(),
+            [this] { status_->setUnsaved(history_->history().isChanged()); });
+    connect(&files_, &SkinFileCommands::skinFolderChanged, status_.get(),
+            [this] { status_->setFolder(files_.skinFolder()); });
 }
 
 void FrmMain::connectPanels() {
@@ -232,6 +240,10 @@ void FrmMain::connectMenus() {
     };
     on(menus_->mnuSave, [this] { files_.mnuSave_Click(); });
     on(menus_->mnuLoad, [this] { load(); });
+    on(menus_->mnuNewWindow, [this] { newWindow({}); });
+    on(menus_->mnuSaveAgain, [this] { saveAgain(); });
+    recent_ = std::make_unique<RecentMenu>(*menus_->mnuRecent->menu(), remembered_,
+                                           [this](const QString& folder) { openFolder(folder); });
     on(menus_->mnuView, [this] { files_.mnuView_Click(); });
     on(menus_->mnuDelays, [this] { dialogs_->mnuDelays_Click(); });
     on(menus_->mnuInfo, [this] { dialogs_->mnuInfo_Click(); });

@@ -1,15 +1,20 @@
-// Starts the editor: the folder of the program with its catalogue, and the main window.
+// Starts the editor: its arguments, the folder of the program with its catalogue, and the window.
 #include "files/host_files.h"
 #include "widgets/qt_prompts.h"
 #include "widgets/qt_text.h"
+#include "widgets/remembered.h"
 #include "window/application.h"
+#include "window/arguments.h"
 #include "window/end_signals.h"
 #include "window/frm_main.h"
+#include "window/other_runs.h"
 
 #include <QFile>
 #include <QGuiApplication>
 #include <QStandardPaths>
 #include <QTimer>
+
+#include <cstdio>
 
 namespace {
 
@@ -37,21 +42,31 @@ void keepWork(tarvel::FrmMain& window, tarvel::Prompts& prompts) {
     } catch (const tarvel::FileError& error) {
         prompts.message(&window, QObject::tr("Your work cannot be kept for the case of a crash: %1")
                                      .arg(tarvel::qtText(error.what())));
-        return;
     }
-    window.offerLostWork();
+}
+
+int answer(const tarvel::Reply& reply) {
+    std::fputs(reply.text.c_str(), reply.exitCode == 0 ? stdout : stderr);
+    return reply.exitCode;
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
+    const tarvel::Arguments arguments =
+        tarvel::parseArguments({argv + (argc > 0 ? 1 : 0), argv + argc});
+    if (arguments.reply) {
+        return answer(*arguments.reply);
+    }
     tarvel::Application application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tarvel"));
     QApplication::setDesktopFileName(QStringLiteral("tarvel"));
     const std::filesystem::path folder = tarvel::programFolder();
     layCatalogue(folder);
-    tarvel::QtPrompts prompts;
-    tarvel::FrmMain window(prompts, folder);
+    tarvel::Remembered remembered(tarvel::Remembered::usersFile());
+    tarvel::QtPrompts prompts(&remembered);
+    tarvel::FrmMain window(prompts, folder, remembered);
+    window.startRunsBy(tarvel::startRun);
     application.tellFailures([&](const QString& words) { prompts.message(&window, words); });
     const tarvel::EndSignals endSignals([&](int signal) {
         constexpr int endedBySignal = 128;
@@ -61,6 +76,9 @@ int main(int argc, char* argv[]) {
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                      &tarvel::FrmMain::keepWorkNow, Qt::DirectConnection);
     window.show();
-    QTimer::singleShot(0, &window, [&] { keepWork(window, prompts); });
+    QTimer::singleShot(0, &window, [&] {
+        keepWork(window, prompts);
+        window.begin(arguments.folders);
+    });
     return QApplication::exec();
 }

@@ -20,6 +20,9 @@ struct MainMenus::Table {
         Entry{"mnuSkin", "mnuSave", "Save", &MainMenus::mnuSave},
         Entry{"mnuSkin", "mnuLoad", "Load", &MainMenus::mnuLoad},
         Entry{"mnuSkin", "mnuView", "View XML (for testing only)", &MainMenus::mnuView},
+        Entry{"mnuSkin", "mnuNewWindow", "New Window", &MainMenus::mnuNewWindow},
+        Entry{"mnuSkin", "mnuSaveAgain", "Save Again", &MainMenus::mnuSaveAgain},
+        Entry{"mnuSkin", "mnuRecent", "Open Recent", &MainMenus::mnuRecent},
         Entry{"mnuConfig", "mnuDelays", "Delays", &MainMenus::mnuDelays},
         Entry{"mnuConfig", "mnuInfo", "Skin Info", &MainMenus::mnuInfo},
         Entry{"mnuConfig", "mnuColors", "System Colors", &MainMenus::mnuColors},
@@ -80,8 +83,12 @@ MainMenus::MainMenus(QMainWindow& window)
     fill(window, *mnuRight2_);
     // The table makes every member.
     Q_ASSERT(mnuSave != nullptr && mnuLoad != nullptr && mnuCover != nullptr &&
-             mnuLocked != nullptr && mnuUndo != nullptr && mnuRedo != nullptr);
-    mnuSave->setShortcut(QKeySequence::Save);
+             mnuLocked != nullptr && mnuUndo != nullptr && mnuRedo != nullptr &&
+             mnuNewWindow != nullptr && mnuSaveAgain != nullptr && mnuRecent != nullptr);
+    mnuSave->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    mnuSaveAgain->setShortcut(QKeySequence::Save);
+    mnuNewWindow->setShortcut(QKeySequence::New);
+    mnuRecent->setMenu(new QMenu(&window));
     mnuLoad->setShortcut(QKeySequence::Open);
     mnuUndo->setShortcut(Qt::CTRL | Qt::Key_Z);
     mnuRedo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});

@@ -20,6 +20,10 @@ class MainMenus {
     QAction* mnuSave = nullptr;
     QAction* mnuLoad = nullptr;
     QAction* mnuView = nullptr;
+    QAction* mnuNewWindow = nullptr;
+    QAction* mnuSaveAgain = nullptr;
+    QAction* mnuRecent = nullptr; ///< holds a menu, which is empty
+    QAction* mnuCheck = nullptr;
     QAction* mnuDelays = nullptr;
     QAction* mnuInfo = nullptr;
     QAction* mnuColors = nullptr;

@@ -125,7 +125,7 @@ void RecoveryKeeper::endProperly() {
     store_.endProperly();
 }
 
-void RecoveryKeeper::offerLost() {
+bool RecoveryKeeper::offerLost() {
     const auto lost = store_.takeLost();
     for (auto file = lost.begin(); file != lost.end(); ++file) {
         std::optional<WorkState> state = readOrSetAside(*file);
@@ -135,8 +135,9 @@ void RecoveryKeeper::offerLost() {
         bringBack(std::move(*state));
         giveUp(*file);
         std::for_each(file + 1, lost.end(), [this](const auto& other) { store_.leave(other); });
-        return;
+        return true;
     }
+    return false;
 }
 
 std::optional<WorkState> RecoveryKeeper::readOrSetAside(const std::filesystem::path& lost) {

@@ -46,8 +46,8 @@ class RecoveryKeeper : public QObject,
     ~RecoveryKeeper() override;
 
     /// Asks for each lost run, the newest first, whether to bring it back, up to the first Yes; the
-    /// others are left to the next run.
-    void offerLost();
+    /// others are left to the next run. True when something was brought back.
+    bool offerLost();
     /// Keeps the work as it is, and returns when that is done; false when it cannot be kept.
     bool keepNow();
     /// The run ends: there is nothing to bring back.

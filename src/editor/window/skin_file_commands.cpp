@@ -12,13 +12,29 @@
 #include "widgets/copy_progress.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
+#include "widgets/remembered.h"
 #include "widgets/usable_files.h"
 #include "widgets/wait_cursor.h"
 #include "window/xml_window.h"
 
+#include <QDir>
+
+#include <algorithm>
 #include <exception>
 
 namespace tarvel {
+
+namespace {
+
+QString withSeparator(const QString& folder) {
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
+
+bool isSame(const QString& folder, const QString& other) {
+    return QDir::cleanPath(folder) == QDir::cleanPath(other);
+}
+
+} // namespace
 
 SkinFileCommands::SkinFileCommands(SkinDocument& document, Prompts& prompts,
                                    Surroundings surroundings)
@@ -36,13 +52,24 @@ bool SkinFileCommands::mnuSave_Click() {
     if (saveFolder_.isEmpty()) {
         return false;
     }
-    if (!saveFolder_.endsWith(QLatin1Char('/'))) {
-        saveFolder_ += QLatin1Char('/');
+    saveFolder_ = withSeparator(saveFolder_);
+    if (!saveInto(saveFolder_, document_)) {
+        return false;
     }
-    return saveInto(saveFolder_);
+    FrmInstructions(saveFolder_, surroundings_.window).exec();
+    return true;
 }
 
-bool SkinFileCommands::saveInto(const QString& folder) {
+bool SkinFileCommands::mnuSaveAgain_Click() {
+    if (document_.settings().skinName.empty() || skinFolder_.isEmpty() ||
+        !QDir(skinFolder_).exists()) {
+        return mnuSave_Click();
+    }
+    SkinDocument copy = document_; // a save moves the shown screen along
+    return saveInto(withSeparator(skinFolder_), copy);
+}
+
+bool SkinFileCommands::saveInto(const QString& folder, SkinDocument& document) {
     SkinWriter writer(surroundings_.programFolder);
     CopyProgress progress(surroundings_.window);
     const SaveHooks hooks{
@@ -53,7 +80,7 @@ bool SkinFileCommands::saveInto(const QString& folder) {
             },
         .progress = [&](std::string_view file, std::uintmax_t done,
                         std::uintmax_t total) { return progress.step(file, done, total); }};
-    const SaveOutcome outcome = saveSkin(document_, writer, hostPathOf(folder), hooks);
+    const SaveOutcome outcome = saveSkin(document, writer, hostPathOf(folder), hooks);
     progress.hide();
     for (const std::string& message :
          {outsideMessage(outcome.leftOut), sharedNamesMessage(outcome.sharedNames)}) {
@@ -67,17 +94,51 @@ bool SkinFileCommands::saveInto(const QString& folder) {
                       : tr("The skin was not saved: %1").arg(qtText(outcome.writeProblem)));
         return false;
     }
-    skinFolder_ = folder;
+    setSkinFolder(folder);
+    surroundings_.remembered.rememberSkinFolder(folder);
     emit saved();
     emit told(tr("Saved to %1").arg(folder));
-    FrmInstructions(folder, surroundings_.window).exec();
     return true;
 }
 
-void SkinFileCommands::mnuLoad_Click() {
+void SkinFileCommands::setSkinFolder(const QString& folder) {
+    skinFolder_ = folder;
+    emit skinFolderChanged();
+}
+
+void SkinFileCommands::loadUndone() {
+    const auto load = std::find_if(loads_.rbegin(), loads_.rend(), [this](const Load& each) {
+        return isSame(each.folderAfter, skinFolder_) && each.before.holdsTheSame(document_);
+    });
+    if (load != loads_.rend()) {
+        setSkinFolder(load->folderBefore);
+    }
+}
+
+void SkinFileCommands::loadRedone() {
+    const auto load = std::find_if(loads_.rbegin(), loads_.rend(), [this](const Load& each) {
+        return isSame(each.folderBefore, skinFolder_) && each.after.holdsTheSame(document_);
+    });
+    if (load != loads_.rend()) {
+        setSkinFolder(load->folderAfter);
+    }
+}
+
+void SkinFileCommands::adviseBeforeLoading() {
     if (document_.holdsAnything()) {
         prompts_.message(surroundings_.window, qtText(loadAdvice));
     }
+}
+
+void SkinFileCommands::openFolder(const QString& folder) {
+    adviseBeforeLoading();
+    if (!loadFrom(folder)) {
+        document_.setCurrentLayout(menuScreen);
+    }
+}
+
+void SkinFileCommands::mnuLoad_Click() {
+    adviseBeforeLoading();
     const QString folder = prompts_.folder(surroundings_.window, qtText(loadFolderTitle));
     if (folder.isEmpty() || !loadFrom(folder)) {
         document_.setCurrentLayout(menuScreen);
@@ -97,7 +158,10 @@ bool SkinFileCommands::loadFrom(const QString& folder) {
         prompts_.message(surroundings_.window, qtText(error.what()));
         return false;
     }
-    skinFolder_ = folder;
+    loads_.push_back({before, document_, skinFolder_, folder});
+    setSkinFolder(folder);
+    surroundings_.remembered.rememberSkinFolder(folder);
+    surroundings_.remembered.rememberLastFolder(folder);
     emit told(tr("Loaded from %1").arg(folder));
     if (!notes.outside.empty()) {
         prompts_.message(surroundings_.window, qtText(outsideMessage(notes.outside)));

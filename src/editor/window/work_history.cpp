@@ -1,6 +1,7 @@
 // Leads the window back to where a step was made, and decides whose keys Undo and Redo are.
 #include "window/work_history.h"
 
+#include "editing/step_names.h"
 #include "panels/property_panel.h"
 #include "surface/selection_marks.h"
 #include "widgets/qt_text.h"
@@ -44,14 +45,20 @@ WorkHistory::WorkHistory(const Parts& parts)
     , history_(parts.document, *this)
     , watch_(history_.watch(*this)) {
     connect(&parts_.undo, &QAction::triggered, this, [this] {
-        const std::string step = history_.undoName();
+        const std::string undone = history_.undoName();
         history_.undo();
-        emit told(tr("Undone: %1").arg(qtText(step)));
+        if (undone == step::loadSkin) {
+            emit loadUndone();
+        }
+        emit told(tr("Undone: %1").arg(qtText(undone)));
     });
     connect(&parts_.redo, &QAction::triggered, this, [this] {
-        const std::string step = history_.redoName();
+        const std::string redone = history_.redoName();
         history_.redo();
-        emit told(tr("Redone: %1").arg(qtText(step)));
+        if (redone == step::loadSkin) {
+            emit loadRedone();
+        }
+        emit told(tr("Redone: %1").arg(qtText(redone)));
     });
     QApplication::instance()->installEventFilter(this);
     refresh();

@@ -47,6 +47,9 @@ class WorkHistory : public QObject, private WorkPlaces, private HistoryObserver 
     void told(const QString& text);
     /// Whether there are changes that no folder holds may be another thing now.
     void changed();
+    /// What was undone or redone is the loading of a skin.
+    void loadUndone();
+    void loadRedone();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

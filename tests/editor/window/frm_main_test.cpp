@@ -69,6 +69,9 @@ void FrmMainTest::hasEveryMenuEntry_data() {
     row("mnuSave", "mnuSkin", "Save");
     row("mnuLoad", "mnuSkin", "Load");
     row("mnuView", "mnuSkin", "View XML (for testing only)");
+    row("mnuNewWindow", "mnuSkin", "New Window");
+    row("mnuSaveAgain", "mnuSkin", "Save Again");
+    row("mnuRecent", "mnuSkin", "Open Recent");
     row("mnuDelays", "mnuConfig", "Delays");
     row("mnuInfo", "mnuConfig", "Skin Info");
     row("mnuColors", "mnuConfig", "System Colors");
