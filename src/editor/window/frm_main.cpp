@@ -16,6 +16,7 @@
 #include "widgets/qt_text.h"
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
+#include "window/check_window.h"
 #include "window/main_menus.h"
 #include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
@@ -23,6 +24,7 @@
 #include "window/skin_dialogs.h"
 #include "window/skin_status.h"
 #include "window/tool_choice.h"
+#include "window/window_gate.h"
 #include "window/window_keys.h"
 #include "window/work_history.h"
 
@@ -117,6 +119,36 @@ void FrmMain::newWindow(const QString& folder) {
     if (!startRun_ || !startRun_(folder)) {
         prompts_.message(this, tr("A new window cannot be opened."));
     }
+}
+
+void FrmMain::check() {
+    if (frmCheck_ == nullptr) {
+        frmCheck_ = new CheckWindow(
+            document_, [this] { return files_.skinFolder(); }, this);
+        connect(frmCheck_, &CheckWindow::chosen, this, &FrmMain::showFinding);
+    }
+    frmCheck_->check();
+    frmCheck_->show();
+    frmCheck_->raise();
+    frmCheck_->activateWindow();
+}
+
+void FrmMain::showFinding(const Finding& finding) {
+    if (!finding.screen || !finding.elementId) {
+        return;
+    }
+    if (gate_->isClosed()) { // the open panel is one of the selected element
+        statusBar()->showMessage(tr("Close the open panel first."));
+        return;
+    }
+    tools_->endWork();
+    const int row = document_.rowOf(*finding.screen, *finding.elementId);
+    if (row < 0) {
+        statusBar()->showMessage(tr("The element is no longer there."));
+        return;
+    }
+    document_.setCurrentLayout(*finding.screen);
+    selection_.select(row);
 }
 
 void FrmMain::begin(const QStringList& folders) {

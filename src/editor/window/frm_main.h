@@ -20,6 +20,7 @@ namespace tarvel {
 class BehaviourButtons;
 class BehaviourPanels;
 class ChangeTeller;
+class CheckWindow;
 class CreatePanel;
 class ElementsPanel;
 class LayoutPanel;
@@ -42,6 +43,7 @@ class ToolChoice;
 class WindowGate;
 class WindowKeys;
 class WorkHistory;
+struct Finding;
 
 /// Owns the document and what is selected in it. Asks the user through `prompts`, which outlives
 /// the window, as `remembered` does.
@@ -109,6 +111,8 @@ class FrmMain : public QMainWindow {
     void openFolder(const QString& folder);
     void saveAgain();
     void newWindow(const QString& folder);
+    void check();
+    void showFinding(const Finding& finding);
     void loaded(const SkinDocument& before);
     void deleteSelected();
 
@@ -143,6 +147,7 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<WorkHistory> history_;
     std::unique_ptr<SkinStatus> status_;
     std::unique_ptr<RecentMenu> recent_;
+    CheckWindow* frmCheck_ = nullptr; // made when it is wanted
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;

@@ -242,6 +242,7 @@ void FrmMain::connectMenus() {
     on(menus_->mnuLoad, [this] { load(); });
     on(menus_->mnuNewWindow, [this] { newWindow({}); });
     on(menus_->mnuSaveAgain, [this] { saveAgain(); });
+    on(menus_->mnuCheck, [this] { check(); });
     recent_ = std::make_unique<RecentMenu>(*menus_->mnuRecent->menu(), remembered_,
                                            [this](const QString& folder) { openFolder(folder); });
     on(menus_->mnuView, [this] { files_.mnuView_Click(); });

@@ -23,6 +23,7 @@ struct MainMenus::Table {
         Entry{"mnuSkin", "mnuNewWindow", "New Window", &MainMenus::mnuNewWindow},
         Entry{"mnuSkin", "mnuSaveAgain", "Save Again", &MainMenus::mnuSaveAgain},
         Entry{"mnuSkin", "mnuRecent", "Open Recent", &MainMenus::mnuRecent},
+        Entry{"mnuSkin", "mnuCheck", "Check", &MainMenus::mnuCheck},
         Entry{"mnuConfig", "mnuDelays", "Delays", &MainMenus::mnuDelays},
         Entry{"mnuConfig", "mnuInfo", "Skin Info", &MainMenus::mnuInfo},
         Entry{"mnuConfig", "mnuColors", "System Colors", &MainMenus::mnuColors},
@@ -84,7 +85,8 @@ MainMenus::MainMenus(QMainWindow& window)
     // The table makes every member.
     Q_ASSERT(mnuSave != nullptr && mnuLoad != nullptr && mnuCover != nullptr &&
              mnuLocked != nullptr && mnuUndo != nullptr && mnuRedo != nullptr &&
-             mnuNewWindow != nullptr && mnuSaveAgain != nullptr && mnuRecent != nullptr);
+             mnuNewWindow != nullptr && mnuSaveAgain != nullptr && mnuRecent != nullptr &&
+             mnuCheck != nullptr);
     mnuSave->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     mnuSaveAgain->setShortcut(QKeySequence::Save);
     mnuNewWindow->setShortcut(QKeySequence::New);

@@ -72,6 +72,7 @@ void FrmMainTest::hasEveryMenuEntry_data() {
     row("mnuNewWindow", "mnuSkin", "New Window");
     row("mnuSaveAgain", "mnuSkin", "Save Again");
     row("mnuRecent", "mnuSkin", "Open Recent");
+    row("mnuCheck", "mnuSkin", "Check");
     row("mnuDelays", "mnuConfig", "Delays");
     row("mnuInfo", "mnuConfig", "Skin Info");
     row("mnuColors", "mnuConfig", "System Colors");
