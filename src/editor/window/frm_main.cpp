@@ -154,12 +154,14 @@ void FrmMain::showFinding(const Finding& finding) {
 void FrmMain::begin(const QStringList& folders) {
     const bool isBack = offerLostWork();
     const QString work = files_.skinFolder();
-    for (qsizetype i = 0; i < folders.size(); ++i) {
-        if (i == 0 && !isBack) {
-            openFolder(folders[i]);
-        } else if (work.isEmpty() || QDir(folders[i]) != QDir(work)) {
-            newWindow(folders[i]);
+    const QStringList others = isBack ? folders : folders.mid(1);
+    for (const QString& folder : others) {
+        if (work.isEmpty() || QDir(folder) != QDir(work)) {
+            newWindow(folder);
         }
+    }
+    if (!isBack && !folders.isEmpty()) {
+        openFolder(folders.front()); // last: it may have something to tell, and waits then
     }
 }
 

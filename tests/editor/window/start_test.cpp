@@ -118,7 +118,8 @@ void StartTest::aWrongFolderIsTold() {
     QFETCH(QString, folder);
     StartedEditor editor;
     editor.newFolder("empty");
-    editor.remembered.rememberLastFolder("/skins"); // makes the file
+    editor.remembered.rememberLastFolder("/skins");                      // makes the file
+    editor.prompts.onMessage = [&] { QCOMPARE(editor.runs.size(), 1); }; // it waits for nobody
     editor.window.begin({editor.path(folder), "/skins/a"});
     QCOMPARE(editor.prompts.messages, QStringList(noSkin));
     QCOMPARE(editor.prompts.lastOwner, static_cast<QWidget*>(&editor.window));
