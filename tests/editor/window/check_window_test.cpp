@@ -64,6 +64,8 @@ class CheckWindowTest : public QObject {
     void anElementThatIsGone();
     void anotherDocument();
     void whileDrawing();
+    void whileMoving();
+    void afterAPressAlone();
     void withAnOpenPanel();
     void belowAModalDialog();
     void oneWindow();
@@ -189,6 +191,7 @@ void CheckWindowTest::returnLeadsToTheElement() {
     QCOMPARE(editor.window.curNum(), second);
     QVERIFY(editor.frmCheck()->isVisible());
     QVERIFY(editor.list().hasFocus());
+    QCOMPARE(editor.list().currentRow(), 1); // the list is the same: nothing was checked again
 }
 
 void CheckWindowTest::aFindingOfTheWholeSkinLeadsNowhere() {
@@ -247,6 +250,41 @@ void CheckWindowTest::whileDrawing() {
     QVERIFY(!editor.document().isEditOpen());
     editor.entry("mnuUndo")->trigger();
     QCOMPARE(editor.document().rowCount(1), 1);
+}
+
+void CheckWindowTest::whileMoving() {
+    CheckedEditor editor;
+    const int found = editor.addOff(1);
+    editor.selectRow(1, 0);
+    const int moved = editor.window.curNum();
+    const float left = editor.control(moved).left;
+    QVERIFY(editor.check());
+    editor.list().setCurrentRow(0);
+    editor.press({60, 40});
+    editor.drag({100, 40});
+    QTest::keyClick(&editor.list(), Qt::Key_Return); // the pointer is busy
+    QCOMPARE(editor.window.curNum(), found);
+    const SkinDocument before = editor.document();
+    QVERIFY(editor.control(moved).left > left); // ended where it stood
+    editor.drag({200, 40});
+    editor.release({200, 40});
+    QVERIFY(editor.document() == before);
+    QVERIFY(!editor.document().isEditOpen());
+}
+
+// What is begun by the press becomes what a click would have made.
+void CheckWindowTest::afterAPressAlone() {
+    CheckedEditor editor;
+    editor.addOff(3);
+    editor.clickScreen(1);
+    QVERIFY(editor.check());
+    editor.list().setCurrentRow(0);
+    editor.chooseTool("optBox");
+    editor.press({300, 300});
+    QTest::keyClick(&editor.list(), Qt::Key_Return);
+    QCOMPARE(editor.document().currentLayout(), 3);
+    const ElementControl& made = editor.control(editor.document().lastElementId());
+    QCOMPARE(QSizeF(made.width, made.height), QSizeF(120, 80));
 }
 
 void CheckWindowTest::withAnOpenPanel() {
