@@ -13,7 +13,7 @@ namespace tarvel {
 namespace {
 
 const QColor guideColor(255, 0, 170);
-const QColor gridColor(130, 130, 130, 110);
+const QColor gridColor(160, 160, 160, 190);
 constexpr double tick = 3; // pixels: half of the strokes at the ends of a gap
 
 } // namespace
@@ -68,7 +68,7 @@ void GuideMarks::paintGrid(QPainter& painter) const {
     std::vector<QPointF> dots;
     for (int y = 0; y < skinHeight; y += step) {
         for (int x = 0; x < skinWidth; x += step) {
-            dots.push_back(mapping.toWidget(QPointF(x, y)) + QPointF(0.5, 0.5));
+            dots.push_back(mapping.toWidget(QPointF(x, y)));
         }
     }
     painter.drawPoints(dots.data(), static_cast<int>(dots.size()));

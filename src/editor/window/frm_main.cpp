@@ -23,6 +23,7 @@
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
 #include "window/skin_status.h"
+#include "window/snap_choice.h"
 #include "window/tool_choice.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"

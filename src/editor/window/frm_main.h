@@ -38,6 +38,7 @@ class Remembered;
 class SelectionMarks;
 class SelectionViews;
 class SkinDialogs;
+class SnapChoice;
 class SkinStatus;
 class ToolChoice;
 class WindowGate;
@@ -143,6 +144,7 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<ToolChoice> tools_;
     std::unique_ptr<SelectionViews> views_;
     std::unique_ptr<WindowKeys> keys_;
+    std::unique_ptr<SnapChoice> snapping_;
     std::unique_ptr<ChangeTeller> changes_;
     std::unique_ptr<WorkHistory> history_;
     std::unique_ptr<SkinStatus> status_;

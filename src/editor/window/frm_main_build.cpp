@@ -26,6 +26,7 @@
 #include "window/selection_views.h"
 #include "window/skin_dialogs.h"
 #include "window/skin_status.h"
+#include "window/snap_choice.h"
 #include "window/tool_choice.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"
@@ -34,6 +35,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -217,6 +219,11 @@ void FrmMain::connectPanels() {
     connect(pic_, &Pic::pointerMoved, this,
             [this](QPointF point) { lblPos_->setText(qtText(readoutText(pixelOf(point)))); });
     SurfaceController& controller = tools_->controller();
+    snapping_ =
+        std::make_unique<SnapChoice>(*menuBar()->findChild<QMenu*>("mnuOptions"),
+                                     *menus_->mnuSnapElements, *menus_->mnuSnapGrid, remembered_);
+    controller.setSnapping(snapping_->options());
+    connect(snapping_.get(), &SnapChoice::changed, &controller, &SurfaceController::setSnapping);
     connect(&controller, &SurfaceController::menuWanted, this, &FrmMain::popupMenu);
     connect(&controller, &SurfaceController::fileDropped, this,
             [this](const QString& file) { dialogs_->addResource(file); });

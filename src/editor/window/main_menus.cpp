@@ -48,6 +48,9 @@ struct MainMenus::Table {
         Entry{"mnuOptions", "mnuCover", "Cover objects while moving (to prevent blinking)",
               &MainMenus::mnuCover},
         Entry{"mnuOptions", "mnuBorders", "View safe borders (customize to your TV)", nullptr},
+        Entry{"mnuOptions", "mnuDash4", "-", nullptr},
+        Entry{"mnuOptions", "mnuSnapElements", "Snap to elements", &MainMenus::mnuSnapElements},
+        Entry{"mnuOptions", "mnuSnapGrid", "Snap to grid", &MainMenus::mnuSnapGrid},
         Entry{"mnuEdit", "mnuUndo", "Undo", &MainMenus::mnuUndo},
         Entry{"mnuEdit", "mnuRedo", "Redo", &MainMenus::mnuRedo},
     };

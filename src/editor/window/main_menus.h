@@ -40,6 +40,8 @@ class MainMenus {
     QAction* mnuLocked = nullptr;
     QAction* mnuDelete = nullptr;
     QAction* mnuCover = nullptr;
+    QAction* mnuSnapElements = nullptr;
+    QAction* mnuSnapGrid = nullptr;
     QAction* mnuUndo = nullptr;
     QAction* mnuRedo = nullptr;
 

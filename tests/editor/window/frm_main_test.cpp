@@ -93,6 +93,8 @@ void FrmMainTest::hasEveryMenuEntry_data() {
     row("mnuDelete", "mnuRight", "Delete");
     row("mnuCover", "mnuOptions", "Cover objects while moving (to prevent blinking)");
     row("mnuBorders", "mnuOptions", "View safe borders (customize to your TV)");
+    row("mnuSnapElements", "mnuOptions", "Snap to elements");
+    row("mnuSnapGrid", "mnuOptions", "Snap to grid");
     row("mnuUndo", "mnuEdit", "Undo");
     row("mnuRedo", "mnuEdit", "Redo");
 }
