@@ -304,6 +304,30 @@ Times undoTimes(Window& window) {
     return times;
 }
 
+/// Selects all rows and none in turn, each to the end of the repaint.
+Times selectAllTimes(Window& window) {
+    auto& list = window.find<QListView>("lst(1)");
+    PaintCount paints(window.find<QWidget>("Pic"));
+    Times times;
+    constexpr int turns = 30;
+    for (int turn = 0; turn < turns; ++turn) {
+        times.take([&] {
+            list.selectAll();
+            paints.wait();
+        });
+        list.clearSelection();
+        paints.wait();
+    }
+    return times;
+}
+
+/// Drags all boxes at once; the pointer is over one of them wherever it is.
+Times dragAllTimes(Window& window) {
+    window.find<QListView>("lst(1)").selectAll();
+    QApplication::processEvents();
+    return dragTimes(window.find<QWidget>("Pic"));
+}
+
 /// A step that changes every element, or brings them all.
 void changeAll(SkinDocument& document) {
     const OpenEdit edit(document, "change all");
@@ -364,6 +388,14 @@ bool runAll() {
         add("undo and redo of a drag among 10,000 boxes", undoTimes(window), shown);
         changeAll(window.document());
         add("the same of a change of all 10,000", undoTimes(window), shown);
+    }
+    {
+        constexpr Limits frame = {1000.0 / 60, 0};
+        Window window(many);
+        add("select all of 10,000 boxes", selectAllTimes(window), {50, 50});
+        add("a move of 10,000 selected boxes", dragAllTimes(window), frame);
+        window.find<QAction>("mnuSnapElements").setChecked(true);
+        add("the same, snapping", dragAllTimes(window), frame);
     }
     {
         Window window(0);
