@@ -184,7 +184,7 @@ const Element& SkinDocument::element(int id) const {
     return id == 0 ? slotZero : state_.elements[at(id) - 1];
 }
 
-int SkinDocument::addElement(Element&& element) {
+int SkinDocument::append(Element&& element) {
     const int screen = state_.currentLayout;
     const int id = ++state_.lastElementId;
     element.elementLayout = static_cast<std::int16_t>(screen);
@@ -192,9 +192,28 @@ int SkinDocument::addElement(Element&& element) {
     state_.elements.push_back(std::move(element));
     state_.lst.at(at(screen)).edit().push_back(id);
     ++state_.screenElementCount.at(at(screen));
-    tell({DocumentChange::What::rows, screen, id});
-    tell({DocumentChange::What::counts, screen});
     return id;
+}
+
+int SkinDocument::addElement(Element&& element) {
+    const int id = append(std::move(element));
+    tell({DocumentChange::What::rows, state_.currentLayout, id});
+    tell({DocumentChange::What::counts, state_.currentLayout});
+    return id;
+}
+
+std::vector<int> SkinDocument::addElements(std::vector<Element>&& elements) {
+    std::vector<int> ids;
+    ids.reserve(elements.size());
+    for (Element& element : elements) {
+        ids.push_back(append(std::move(element)));
+    }
+    if (!ids.empty()) {
+        const int only = ids.size() == 1 ? ids.front() : -1;
+        tell({DocumentChange::What::rows, state_.currentLayout, only});
+        tell({DocumentChange::What::counts, state_.currentLayout});
+    }
+    return ids;
 }
 
 const SkinDocument::Rows& SkinDocument::rows(int screen) const {

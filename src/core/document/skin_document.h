@@ -107,6 +107,8 @@ class SkinDocument {
     }
     /// Gives the element the next id and the last row of the current screen, and counts it there.
     int addElement(Element&& element);
+    /// The same with many, in their order. Tells of all at once. Returns their ids.
+    std::vector<int> addElements(std::vector<Element>&& elements);
 
     // Rows of a screen's list.
     [[nodiscard]] int rowCount(int screen) const;
@@ -172,6 +174,7 @@ class SkinDocument {
         observers_.each([&](DocumentObserver& observer) { observer.documentChanged(change); });
     }
     [[nodiscard]] const Rows& rows(int screen) const;
+    int append(Element&& element);
     void tellOfElements(const std::vector<int>& ids, const std::vector<int>& relabelled) const;
 
     // Made when it is worth it. It goes along with the settings that it was made of.

@@ -137,12 +137,7 @@ std::vector<int> pasteElements(SkinDocument& document, const ClipboardContent& c
                                       std::make_move_iterator(added.end()));
         });
     }
-    std::vector<int> ids;
-    ids.reserve(elements.size());
-    for (Element& element : elements) {
-        ids.push_back(document.addElement(std::move(element)));
-    }
-    return ids;
+    return document.addElements(std::move(elements));
 }
 
 } // namespace tarvel

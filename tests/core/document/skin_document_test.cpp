@@ -380,4 +380,40 @@ TEST(ResourceNamed, FollowsEveryChange) {
     EXPECT_EQ(contentNamed(document, "a"), "of the copy");
 }
 
+namespace {
+
+// Counts what is told.
+struct ChangeCounter : DocumentObserver {
+    void documentChanged(const DocumentChange& change) override {
+        ++(change.what == DocumentChange::What::rows ? rows : others);
+    }
+    int rows = 0;
+    int others = 0;
+};
+
+} // namespace
+
+TEST(AddElements, DoesAsOneByOneAndTellsOnce) {
+    constexpr std::size_t many = 300;
+    SkinDocument oneByOne = fourBoxes();
+    SkinDocument atOnce = oneByOne;
+    std::vector<Element> elements(many);
+    for (std::size_t i = 0; i < many; ++i) {
+        elements[i].label = std::to_string(i);
+        elements[i].elementLocked = true; // which a new one never is
+        oneByOne.addElement(Element(elements[i]));
+    }
+    ChangeCounter told;
+    const DocumentWatch watch = atOnce.watch(told);
+    const Ids ids = atOnce.addElements(std::move(elements));
+    EXPECT_TRUE(atOnce == oneByOne);
+    EXPECT_EQ(ids.size(), many);
+    EXPECT_EQ(ids.front(), 5);
+    EXPECT_EQ(ids.back(), 304);
+    EXPECT_EQ(told.rows, 1);
+    EXPECT_EQ(told.others, 1); // the count
+    EXPECT_EQ(atOnce.addElements({}), Ids());
+    EXPECT_EQ(told.rows, 1);
+}
+
 } // namespace tarvel
