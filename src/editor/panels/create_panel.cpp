@@ -6,9 +6,28 @@
 #include "widgets/control_names.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace tarvel {
+
+namespace {
+
+bool asksToKeep(const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonDblClick) {
+        return static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+    }
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return key.key() == Qt::Key_Space && key.modifiers() == Qt::ShiftModifier;
+}
+
+} // namespace
 
 CreatePanel::CreatePanel(QWidget* parent)
     : QGroupBox(QStringLiteral("CREATE"), parent) {
@@ -27,6 +46,7 @@ CreatePanel::CreatePanel(QWidget* parent)
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setCheckable(true);
         button->setFocusPolicy(Qt::StrongFocus);
+        button->installEventFilter(this);
         connect(button, &QToolButton::clicked, this, [this, i] { clicked(i); });
         row->addWidget(button);
         buttons_[i] = button;
@@ -40,7 +60,38 @@ void CreatePanel::clicked(std::size_t index) {
             buttons_[i]->setChecked(false);
         }
     }
+    isKept_ = false;
+    showKept();
     emit toolChosen(tool());
+}
+
+// The first click of a double click has chosen the tool, or let it go.
+void CreatePanel::keep(std::size_t index) {
+    if (!buttons_.at(index)->isChecked()) {
+        buttons_.at(index)->setChecked(true);
+        clicked(index);
+    }
+    isKept_ = true;
+    showKept();
+}
+
+void CreatePanel::showKept() {
+    for (QToolButton* button : buttons_) {
+        const bool isKept = isKept_ && button->isChecked();
+        QFont font = button->font();
+        font.setUnderline(isKept); // which leaves all buttons in their places
+        button->setFont(font);
+        button->setAccessibleDescription(isKept ? tr("Kept until Escape") : QString());
+    }
+}
+
+bool CreatePanel::eventFilter(QObject* watched, QEvent* event) {
+    const auto found = std::find(buttons_.begin(), buttons_.end(), watched);
+    if (found == buttons_.end() || !(*found)->isEnabled() || !asksToKeep(*event)) {
+        return QGroupBox::eventFilter(watched, event);
+    }
+    keep(static_cast<std::size_t>(found - buttons_.begin()));
+    return true; // to the button it would be one more click
 }
 
 std::optional<ElementKind> CreatePanel::tool() const {
@@ -56,6 +107,8 @@ void CreatePanel::releaseTool() {
     for (QToolButton* button : buttons_) {
         button->setChecked(false);
     }
+    isKept_ = false;
+    showKept();
 }
 
 } // namespace tarvel

@@ -2,6 +2,8 @@
 #include "surface/edit_tools.h"
 
 #include "editing/group_scale.h"
+#include "editing/paste.h"
+#include "editing/stacking.h"
 #include "editing/step_names.h"
 
 namespace tarvel {
@@ -86,6 +88,35 @@ void GroupMoveTool::release(SkinPoint /*point*/) {
 
 void GroupMoveTool::takeBack() {
     (void)placeAll(host_.document(), starts_);
+}
+
+CopyMoveTool::CopyMoveTool(ToolHost& host, SkinPoint press)
+    : CanvasTool(host.document(), nameOf(step::copy, host))
+    , host_(host)
+    , press_(press)
+    , originals_(host.selection().ids()) {}
+
+void CopyMoveTool::move(SkinPoint point, bool /*keepProportions*/) {
+    SkinDocument& document = host_.document();
+    if (starts_.empty()) {
+        if (point == press_) {
+            return;
+        }
+        const auto copies = pasteElements(document, copyElements(document, originals_), {0, 0});
+        host_.selection().selectIds(copies);
+        starts_ = startPlaces(document, copies);
+    }
+    (void)moveAll(document, starts_, double{point.x} - press_.x, double{point.y} - press_.y);
+}
+
+void CopyMoveTool::release(SkinPoint /*point*/) {}
+
+void CopyMoveTool::takeBack() {
+    if (!starts_.empty()) {
+        const std::vector<int> rows = host_.selection().rows(); // those of the copies
+        deleteRows(host_.document(), rows);
+        host_.selection().selectIds(originals_);
+    }
 }
 
 GroupScaleTool::GroupScaleTool(ToolHost& host, Handle handle, SkinPoint press)

@@ -59,6 +59,24 @@ class GroupMoveTool : public CanvasTool {
     bool moved_ = false;
 };
 
+/// Leaves what is selected where it is and moves a copy of it, which is made with the first move
+/// and selected then: a press without a drag copies nothing.
+class CopyMoveTool : public CanvasTool {
+  public:
+    CopyMoveTool(ToolHost& host, SkinPoint press);
+
+    void move(SkinPoint point, bool keepProportions) override;
+    void release(SkinPoint point) override;
+
+  private:
+    void takeBack() override;
+
+    ToolHost& host_;
+    SkinPoint press_;
+    std::vector<int> originals_;
+    std::vector<StartPlace> starts_; // of the copies; none before there are some
+};
+
 /// Scales all selected elements by a handle of the frame around them.
 class GroupScaleTool : public CanvasTool {
   public:

@@ -185,7 +185,7 @@ void SurfaceController::press(const QMouseEvent& event) {
     lastPoint_ = pointOf(event);
     emit pressed();
     if (event.button() == Qt::LeftButton) {
-        pressLeft(pointOf(event), event.modifiers().testFlag(Qt::ControlModifier));
+        pressLeft(pointOf(event), event.modifiers());
     } else if (event.button() == Qt::RightButton) {
         if (!leadAt(pointOf(event))) {
             pick(pointOf(event));
@@ -196,46 +196,20 @@ void SurfaceController::press(const QMouseEvent& event) {
     }
 }
 
-void SurfaceController::pressLeft(SkinPoint point, bool adds) {
+void SurfaceController::pressLeft(SkinPoint point, Qt::KeyboardModifiers keys) {
+    const bool copies = keys.testFlag(Qt::AltModifier);
     if (kind_) {
         draw(*kind_, point);
-        return;
-    }
-    if (adds) {
+    } else if (keys.testFlag(Qt::ControlModifier)) {
         toggleAt(point);
-        return;
-    }
-    if (pressSeveral(point)) {
-        return;
-    }
-    const int selected = host_.selection().curNum();
-    const Handle handle = handleAt(host_.document().element(selected), point);
-    if (selected != 0 && handle != Handle::none) {
-        if (edgesOf(handle).x == 0 && edgesOf(handle).y == 0) {
-            work_ = std::make_unique<LineEndTool>(host_, handle, point);
-        } else {
-            work_ = std::make_unique<ResizeTool>(host_, handle, point);
-        }
-        return;
-    }
-    const std::vector<int> before = host_.selection().ids();
-    pick(point);
-    if (const int id = host_.selection().curNum(); id != 0) {
-        // A line is held by the end that was pressed.
-        const Handle end = handleAt(host_.document().element(id), point);
-        if (end == Handle::firstEnd || end == Handle::secondEnd) {
-            work_ = std::make_unique<LineEndTool>(host_, end, point);
-        } else {
-            work_ = std::make_unique<MoveTool>(host_, point);
-        }
-    } else {
-        work_ = std::make_unique<SelectTool>(host_, surface_, point, before, false);
+    } else if (!pressSeveral(point, copies) && !pressSelected(point, copies)) {
+        pressAnew(point, copies);
     }
 }
 
 // Several selected elements are moved by any of them, and scaled by the frame around them.
-bool SurfaceController::pressSeveral(SkinPoint point) {
-    Selection& selection = host_.selection();
+bool SurfaceController::pressSeveral(SkinPoint point, bool copies) {
+    const Selection& selection = host_.selection();
     if (selection.size() < 2) {
         return false;
     }
@@ -248,7 +222,11 @@ bool SurfaceController::pressSeveral(SkinPoint point) {
     if (!leadAt(point)) {
         return false;
     }
-    work_ = std::make_unique<GroupMoveTool>(host_, selection.curNum(), point);
+    if (copies) {
+        work_ = std::make_unique<CopyMoveTool>(host_, point);
+    } else {
+        work_ = std::make_unique<GroupMoveTool>(host_, selection.curNum(), point);
+    }
     return true;
 }
 
@@ -262,6 +240,44 @@ bool SurfaceController::leadAt(SkinPoint point) {
     }
     host_.selection().lead(id);
     return true;
+}
+
+// The selected element is sized by its handles. The ends of a line are all that it can be held by,
+// so its copy is drawn from it by these.
+bool SurfaceController::pressSelected(SkinPoint point, bool copies) {
+    const int selected = host_.selection().curNum();
+    const Handle handle = handleAt(host_.document().element(selected), point);
+    if (selected == 0 || handle == Handle::none) {
+        return false;
+    }
+    const bool isEnd = edgesOf(handle).x == 0 && edgesOf(handle).y == 0;
+    if (isEnd && copies) {
+        work_ = std::make_unique<CopyMoveTool>(host_, point);
+    } else if (isEnd) {
+        work_ = std::make_unique<LineEndTool>(host_, handle, point);
+    } else {
+        work_ = std::make_unique<ResizeTool>(host_, handle, point);
+    }
+    return true;
+}
+
+void SurfaceController::pressAnew(SkinPoint point, bool copies) {
+    const std::vector<int> before = host_.selection().ids();
+    pick(point);
+    const int id = host_.selection().curNum();
+    if (id == 0) {
+        work_ = std::make_unique<SelectTool>(host_, surface_, point, before, false);
+        return;
+    }
+    // A line is held by the end that was pressed.
+    const Handle end = handleAt(host_.document().element(id), point);
+    if (copies) {
+        work_ = std::make_unique<CopyMoveTool>(host_, point);
+    } else if (end == Handle::firstEnd || end == Handle::secondEnd) {
+        work_ = std::make_unique<LineEndTool>(host_, end, point);
+    } else {
+        work_ = std::make_unique<MoveTool>(host_, point);
+    }
 }
 
 // With Ctrl: an element joins the others or leaves them, and so does what a rubber band touches.

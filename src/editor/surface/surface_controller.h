@@ -64,8 +64,10 @@ class SurfaceController : public QObject, private DocumentObserver {
   private:
     void documentChanged(const DocumentChange& change) override;
     void press(const QMouseEvent& event);
-    void pressLeft(SkinPoint point, bool adds);
-    bool pressSeveral(SkinPoint point);
+    void pressLeft(SkinPoint point, Qt::KeyboardModifiers keys);
+    bool pressSeveral(SkinPoint point, bool copies);
+    bool pressSelected(SkinPoint point, bool copies);
+    void pressAnew(SkinPoint point, bool copies);
     bool leadAt(SkinPoint point);
     void toggleAt(SkinPoint point);
     void pick(SkinPoint point);

@@ -71,8 +71,16 @@ void ToolChoice::endWork() {
 }
 
 void ToolChoice::drawingEnded() {
-    letGo();
+    // A drawing that was given up has left nothing selected, and a tool is kept until Escape only.
+    const bool keeps = parts_.tools.isKept() && !parts_.selection.isEmpty();
+    if (!keeps) {
+        letGo();
+    }
     views_->showSelection();
+    if (keeps) { // the next element gets what this one got
+        parts_.properties.takeValues(drawnWith_);
+        views_->showDifference();
+    }
 }
 
 // What is being drawn is selected too, and keeps its tool.
@@ -104,7 +112,8 @@ void ToolChoice::chooseTool(std::optional<ElementKind> kind) {
 
 void ToolChoice::refuseInvalid(ElementKind kind, bool& refuse) {
     cover_->hurry(); // what is drawn takes what the tool's panel shows
-    const auto faults = isInvalid(kind, panelValues());
+    drawnWith_ = panelValues();
+    const auto faults = isInvalid(kind, drawnWith_);
     for (const std::string_view text : faults) {
         parts_.prompts.message(parts_.surface.window(), qtText(text));
     }

@@ -20,7 +20,8 @@ class SurfaceCover;
 
 /// Gives the surface its tool, and keeps tool and panel of one kind: selecting an element lets the
 /// tool go. Owns the surface's controller and its cover. What it is given is not owned and outlives
-/// it, but for the views, which come after it.
+/// it, but for the views, which come after it. A tool that is kept stays
+/// chosen after an element was drawn.
 class ToolChoice : public QObject, private ToolHost, private SelectionObserver {
     Q_OBJECT
 
@@ -66,6 +67,7 @@ class ToolChoice : public QObject, private ToolHost, private SelectionObserver {
 
     Parts parts_;
     SelectionViews* views_ = nullptr;
+    PanelValues drawnWith_;
     SelectionWatch watch_;
     std::unique_ptr<SurfaceController> controller_;
     std::unique_ptr<SurfaceCover> cover_;
