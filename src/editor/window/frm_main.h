@@ -17,10 +17,12 @@ class QLabel;
 
 namespace tarvel {
 
+class ArrangeCommands;
 class BehaviourButtons;
 class BehaviourPanels;
 class ChangeTeller;
 class CheckWindow;
+class ClipboardCommands;
 class CreatePanel;
 class ElementsPanel;
 class LayoutPanel;
@@ -101,6 +103,7 @@ class FrmMain : public QMainWindow {
     void buildReactions();
     void connectPanels();
     void connectMenus();
+    void buildEditCommands();
     void buildHistory();
     void buildStatus();
     void watchPictures();
@@ -150,6 +153,8 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<SkinStatus> status_;
     std::unique_ptr<RecentMenu> recent_;
     CheckWindow* frmCheck_ = nullptr; // made when it is wanted
+    std::unique_ptr<ClipboardCommands> clipboard_;
+    std::unique_ptr<ArrangeCommands> arranging_;
     std::unique_ptr<LockedGround> ground_;
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;

@@ -17,8 +17,10 @@
 #include "widgets/focus_frame.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
+#include "window/arrange_commands.h"
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
+#include "window/clipboard_commands.h"
 #include "window/frm_main.h"
 #include "window/main_menus.h"
 #include "window/recent_menu.h"
@@ -87,6 +89,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     buildStatus();
     connectPanels();
     connectMenus();
+    buildEditCommands();
     watchPictures();
 }
 
@@ -271,6 +274,35 @@ void FrmMain::connectMenus() {
     });
     on(menus_->mnuUnlock, [this] { commands_.mnuUnlock_Click(); });
     on(menus_->mnuDelete, [this] { deleteSelected(); });
+}
+
+void FrmMain::buildEditCommands() {
+    clipboard_ = std::make_unique<ClipboardCommands>(
+        ClipboardCommands::Parts{.document = document_,
+                                 .selection = selection_,
+                                 .gate = *gate_,
+                                 .pictures = pictures_,
+                                 .entries = {.cut = *menus_->mnuCut,
+                                             .copy = *menus_->mnuCopy,
+                                             .paste = *menus_->mnuPaste,
+                                             .duplicate = *menus_->mnuDuplicate,
+                                             .deleteSelected = *menus_->mnuDeleteSelected,
+                                             .selectAll = *menus_->mnuSelectAll},
+                                 .panelValues = [this] { return properties_->values(); },
+                                 .skinFolder = [this] { return files_.skinFolder(); }});
+    auto* clipboard = clipboard_.get();
+    connect(menus_->mnuDeleteSelected, &QAction::triggered, this, &FrmMain::deleteSelected);
+    connect(clipboard, &ClipboardCommands::told, this,
+            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(clipboard, &ClipboardCommands::filePasted, this,
+            [this](const QString& file) { dialogs_->addResource(file); });
+    arranging_ = std::make_unique<ArrangeCommands>(ArrangeCommands::Parts{
+        .document = document_,
+        .selection = selection_,
+        .gate = *gate_,
+        .menu = menus_->mnuArrange(),
+        .stacking = {menus_->mnuFront, menus_->mnuBack, menus_->mnuForward, menus_->mnuBackward},
+        .lock = *menus_->mnuLocked});
 }
 
 void FrmMain::watchPictures() {

@@ -53,6 +53,14 @@ struct MainMenus::Table {
         Entry{"mnuOptions", "mnuSnapGrid", "Snap to grid", &MainMenus::mnuSnapGrid},
         Entry{"mnuEdit", "mnuUndo", "Undo", &MainMenus::mnuUndo},
         Entry{"mnuEdit", "mnuRedo", "Redo", &MainMenus::mnuRedo},
+        Entry{"mnuEdit", "mnuDash3", "-", nullptr},
+        Entry{"mnuEdit", "mnuCut", "Cut", &MainMenus::mnuCut},
+        Entry{"mnuEdit", "mnuCopy", "Copy", &MainMenus::mnuCopy},
+        Entry{"mnuEdit", "mnuPaste", "Paste", &MainMenus::mnuPaste},
+        Entry{"mnuEdit", "mnuDuplicate", "Duplicate", &MainMenus::mnuDuplicate},
+        // The key is the window's, wherever the focus is; here it is but shown.
+        Entry{"mnuEdit", "mnuDeleteSelected", "Delete\tDel", &MainMenus::mnuDeleteSelected},
+        Entry{"mnuEdit", "mnuSelectAll", "Select All", &MainMenus::mnuSelectAll},
     };
 };
 
@@ -63,9 +71,12 @@ struct BarMenu {
     const char* caption;
 };
 
-constexpr std::array barMenus = {BarMenu{"mnuSkin", "Skin"}, BarMenu{"mnuConfig", "Configuration"},
+constexpr std::array barMenus = {BarMenu{"mnuSkin", "Skin"},
+                                 BarMenu{"mnuConfig", "Configuration"},
                                  BarMenu{"mnuBackground", "Background"},
-                                 BarMenu{"mnuOptions", "Options"}, BarMenu{"mnuEdit", "Edit"}};
+                                 BarMenu{"mnuOptions", "Options"},
+                                 BarMenu{"mnuEdit", "Edit"},
+                                 BarMenu{"mnuArrange", "Arrange"}};
 
 QMenu* contextMenu(QMainWindow& window, const QString& name) {
     auto* menu = new QMenu(QStringLiteral("Right"), &window);
@@ -76,13 +87,15 @@ QMenu* contextMenu(QMainWindow& window, const QString& name) {
 } // namespace
 
 MainMenus::MainMenus(QMainWindow& window)
-    : mnuRight_(contextMenu(window, QStringLiteral("mnuRight")))
+    : mnuArrange_(nullptr)
+    , mnuRight_(contextMenu(window, QStringLiteral("mnuRight")))
     , mnuRight2_(contextMenu(window, QStringLiteral("mnuRight2"))) {
     for (const auto& [name, caption] : barMenus) {
         QMenu* menu = window.menuBar()->addMenu(QLatin1String(caption));
         menu->setObjectName(QLatin1String(name));
         fill(window, *menu);
     }
+    mnuArrange_ = window.findChild<QMenu*>(QStringLiteral("mnuArrange"));
     fill(window, *mnuRight_);
     fill(window, *mnuRight2_);
     // The table makes every member.
@@ -90,15 +103,24 @@ MainMenus::MainMenus(QMainWindow& window)
              mnuLocked != nullptr && mnuUndo != nullptr && mnuRedo != nullptr &&
              mnuNewWindow != nullptr && mnuSaveAgain != nullptr && mnuRecent != nullptr &&
              mnuCheck != nullptr);
+    mnuRecent->setMenu(new QMenu(&window));
+    mnuCover->setCheckable(true);
+    mnuLocked->setCheckable(true);
+    setKeys();
+}
+
+void MainMenus::setKeys() {
     mnuSave->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     mnuSaveAgain->setShortcut(QKeySequence::Save);
     mnuNewWindow->setShortcut(QKeySequence::New);
-    mnuRecent->setMenu(new QMenu(&window));
     mnuLoad->setShortcut(QKeySequence::Open);
     mnuUndo->setShortcut(Qt::CTRL | Qt::Key_Z);
     mnuRedo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
-    mnuCover->setCheckable(true);
-    mnuLocked->setCheckable(true);
+    mnuCut->setShortcut(Qt::CTRL | Qt::Key_X);
+    mnuCopy->setShortcut(Qt::CTRL | Qt::Key_C);
+    mnuPaste->setShortcut(Qt::CTRL | Qt::Key_V);
+    mnuDuplicate->setShortcut(Qt::CTRL | Qt::Key_D);
+    mnuSelectAll->setShortcut(Qt::CTRL | Qt::Key_A);
 }
 
 void MainMenus::fill(QMainWindow& window, QMenu& menu) {

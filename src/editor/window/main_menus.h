@@ -44,11 +44,19 @@ class MainMenus {
     QAction* mnuSnapGrid = nullptr;
     QAction* mnuUndo = nullptr;
     QAction* mnuRedo = nullptr;
+    QAction* mnuCut = nullptr;
+    QAction* mnuCopy = nullptr;
+    QAction* mnuPaste = nullptr;
+    QAction* mnuDuplicate = nullptr;
+    QAction* mnuDeleteSelected = nullptr;
+    QAction* mnuSelectAll = nullptr;
 
     /// Modifiers, timers and condition of the selected element.
     [[nodiscard]] std::array<QAction*, 3> mnuModifier() const {
         return {mnuModifier0_, mnuModifier1_, mnuModifier2_};
     }
+    /// In the menu bar; empty here, see ArrangeCommands.
+    [[nodiscard]] QMenu& mnuArrange() const { return *mnuArrange_; }
     /// Shown for a selected element.
     [[nodiscard]] QMenu& mnuRight() const { return *mnuRight_; }
     /// Shown where no element is selected.
@@ -58,10 +66,12 @@ class MainMenus {
     struct Entry;
     struct Table;
     void fill(QMainWindow& window, QMenu& menu);
+    void setKeys();
 
     QAction* mnuModifier0_ = nullptr;
     QAction* mnuModifier1_ = nullptr;
     QAction* mnuModifier2_ = nullptr;
+    QMenu* mnuArrange_;
     QMenu* mnuRight_;
     QMenu* mnuRight2_;
 };

@@ -97,6 +97,12 @@ void FrmMainTest::hasEveryMenuEntry_data() {
     row("mnuSnapGrid", "mnuOptions", "Snap to grid");
     row("mnuUndo", "mnuEdit", "Undo");
     row("mnuRedo", "mnuEdit", "Redo");
+    row("mnuCut", "mnuEdit", "Cut");
+    row("mnuCopy", "mnuEdit", "Copy");
+    row("mnuPaste", "mnuEdit", "Paste");
+    row("mnuDuplicate", "mnuEdit", "Duplicate");
+    row("mnuDeleteSelected", "mnuEdit", "Delete\tDel");
+    row("mnuSelectAll", "mnuEdit", "Select All");
 }
 
 void FrmMainTest::hasEveryMenuEntry() {
@@ -126,7 +132,8 @@ void FrmMainTest::separatorsOfTheElementMenu() {
     for (const QAction* action : editor.window.menuBar()->actions()) {
         bar << action->text();
     }
-    QCOMPARE(bar, QStringList({"Skin", "Configuration", "Background", "Options", "Edit"}));
+    QCOMPARE(bar,
+             QStringList({"Skin", "Configuration", "Background", "Options", "Edit", "Arrange"}));
     QCOMPARE(editor.find<QMenu>("mnuRight")->title(), QStringLiteral("Right"));
     QCOMPARE(editor.find<QMenu>("mnuRight2")->title(), QStringLiteral("Right"));
 }
