@@ -104,6 +104,34 @@ bool restackRows(SkinDocument& document, const std::vector<int>& rows, StackingC
     return true;
 }
 
+bool moveRows(SkinDocument& document, const std::vector<int>& rows, int before) {
+    const std::vector<int> ids = idsOf(document);
+    const int screen = document.currentLayout();
+    const auto at = static_cast<std::size_t>(
+        std::clamp(before, document.lockCount(screen), document.rowCount(screen)));
+    std::vector<bool> isChosen(ids.size());
+    for (const int row : rows) {
+        isChosen[static_cast<std::size_t>(row)] = !isLocked(document, row);
+    }
+    std::vector<int> order;
+    order.reserve(ids.size());
+    const auto take = [&](std::size_t from, std::size_t to, bool chosen) {
+        for (std::size_t row = from; row < to; ++row) {
+            if (isChosen[row] == chosen) {
+                order.push_back(ids[row]);
+            }
+        }
+    };
+    take(0, at, false);
+    take(0, ids.size(), true);
+    take(at, ids.size(), false);
+    if (order == ids) {
+        return false;
+    }
+    document.setRowOrder(screen, std::move(order));
+    return true;
+}
+
 bool deleteRow(SkinDocument& document, int row) {
     return row >= 0 && deleteRows(document, {row});
 }

@@ -25,6 +25,11 @@ int restack(SkinDocument& document, int row, StackingCommand command);
 /// among each other. Returns whether anything moved.
 bool restackRows(SkinDocument& document, const std::vector<int>& rows, StackingCommand command);
 
+/// Brings rows, from the back to the front, before the row that is `before` now; the number of rows
+/// stands for the front. Locked rows stay where they are, and what is brought before one of them
+/// comes in front of them all. Returns whether anything moved.
+bool moveRows(SkinDocument& document, const std::vector<int>& rows, int before);
+
 /// Takes the row's element off the screen and lowers the screen's element count, and for a locked
 /// row its lock count too. Returns whether the row was locked, so that the flat picture of the
 /// locked rows is out of date.

@@ -21,6 +21,7 @@ inline constexpr std::string_view front = "bring to front";
 inline constexpr std::string_view back = "send to back";
 inline constexpr std::string_view forward = "bring forward";
 inline constexpr std::string_view backward = "send backward";
+inline constexpr std::string_view reorder = "reorder";
 inline constexpr std::string_view lock = "lock up to";
 inline constexpr std::string_view apply = "apply changes to";
 inline constexpr std::string_view place = "position of";

@@ -40,6 +40,9 @@ QVariant ElementListModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::ToolTipRole) {
         return plainToolTip(qtText(document_.element(id).label));
     }
+    if (role == lockedRole) {
+        return document_.element(id).elementLocked;
+    }
     return role == Qt::UserRole ? QVariant(id) : QVariant{};
 }
 

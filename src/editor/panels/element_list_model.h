@@ -9,6 +9,9 @@
 
 namespace tarvel {
 
+/// The role of whether a row's element is locked.
+inline constexpr int lockedRole = Qt::UserRole + 1;
+
 /// Shows the rows straight from the document; opening thousands of rows costs one pass over their
 /// ids. The document is not owned and outlives the model.
 class ElementListModel : public QAbstractListModel {

@@ -3,11 +3,10 @@
 
 #include "document/layout_screens.h"
 #include "panels/element_list_model.h"
+#include "panels/element_list_view.h"
 #include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 
-#include <QListView>
-#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStackedLayout>
 #include <QVBoxLayout>
@@ -17,53 +16,6 @@
 #include <unordered_set>
 
 namespace tarvel {
-
-class ElementListView : public QListView {
-  public:
-    /// The selected rows, from the back to the front.
-    [[nodiscard]] std::vector<int> selectedRows() const {
-        std::vector<int> rows;
-        for (const QModelIndex& index : selectionModel()->selectedIndexes()) {
-            rows.push_back(index.row());
-        }
-        std::sort(rows.begin(), rows.end());
-        return rows;
-    }
-
-    /// Selects rows, given from the back to the front; `leading` is one of them, or -1 for none.
-    void setSelectedRows(const std::vector<int>& rows, int leading) {
-        if (rows.empty()) {
-            selectionModel()->clear();
-        } else if (rows != selectedRows() || leading != currentIndex().row()) {
-            const QModelIndex index = model()->index(leading, 0);
-            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-            selectionModel()->select(rangesOf(rows), QItemSelectionModel::ClearAndSelect);
-            scrollTo(index);
-        }
-    }
-
-  protected:
-    [[nodiscard]] QItemSelection rangesOf(const std::vector<int>& rows) const {
-        QItemSelection ranges;
-        for (auto first = rows.begin(); first != rows.end();) {
-            auto last = first;
-            while (last + 1 != rows.end() && *(last + 1) == *last + 1) {
-                ++last;
-            }
-            ranges.select(model()->index(*first, 0), model()->index(*last, 0));
-            first = last + 1;
-        }
-        return ranges;
-    }
-
-    // The right button asks for the menu of what is selected. Without a row under it, it would
-    // take the selection away first.
-    void mousePressEvent(QMouseEvent* event) override {
-        if (event->button() != Qt::RightButton || indexAt(event->position().toPoint()).isValid()) {
-            QListView::mousePressEvent(event);
-        }
-    }
-};
 
 ElementsPanel::ElementsPanel(const SkinDocument& document, Selection& selection, QWidget* parent)
     : QGroupBox(QStringLiteral("ELEMENTS (Z-ORDER)"), parent)
@@ -98,6 +50,8 @@ ElementListView* ElementsPanel::makeList(int screen) {
             [this, screen] { lst_Click(screen); });
     // A click on the row that is selected already shows its values once more.
     connect(list, &QListView::clicked, this, [this, screen] { lst_Click(screen); });
+    connect(list, &ElementListView::rowsDropped, this, &ElementsPanel::rowsDropped);
+    connect(list, &ElementListView::rowHovered, this, &ElementsPanel::hover);
     list->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(list, &QListView::customContextMenuRequested, this,
             [this, list](const QPoint& point) { askForMenu(*list, point); });
@@ -142,13 +96,41 @@ void ElementsPanel::askForMenu(const QListView& list, QPoint point) {
     emit menuWanted(list.viewport()->mapToGlobal(at));
 }
 
+void ElementsPanel::hover(int row) {
+    const int screen = document_.currentLayout();
+    hovered_ = row < 0 || row >= document_.rowCount(screen) ? 0 : document_.itemData(screen, row);
+    emit elementHovered(hovered_);
+}
+
+bool ElementsPanel::isDragging() const {
+    return current().isDragging();
+}
+
+void ElementsPanel::cancelDrag() {
+    current().cancelDrag();
+}
+
+ElementListView& ElementsPanel::current() const {
+    return *lst_.at(static_cast<std::size_t>(document_.currentLayout()));
+}
+
 void ElementsPanel::selectionChanged() {
     const QScopedValueRollback following(following_, true);
-    lst_.at(static_cast<std::size_t>(document_.currentLayout()))
-        ->setSelectedRows(selection_.rows(), selection_.leadingRow());
+    current().setSelectedRows(selection_.rows(), selection_.leadingRow());
 }
 
 void ElementsPanel::documentChanged(const DocumentChange& change) {
+    showChange(change);
+    const bool isElsewhere = change.what == DocumentChange::What::element ||
+                             change.what == DocumentChange::What::rowText;
+    if (hovered_ != 0 && !(isElsewhere && change.elementId != hovered_)) {
+        const bool stays = document_.rowOf(document_.currentLayout(), hovered_) >= 0;
+        hovered_ = stays ? hovered_ : 0;
+        emit elementHovered(hovered_);
+    }
+}
+
+void ElementsPanel::showChange(const DocumentChange& change) {
     const QScopedValueRollback following(following_, true);
     switch (change.what) {
     case DocumentChange::What::everything:

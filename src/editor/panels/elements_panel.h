@@ -23,13 +23,25 @@ class ElementsPanel : public QGroupBox, private DocumentObserver, private Select
   public:
     ElementsPanel(const SkinDocument& document, Selection& selection, QWidget* parent = nullptr);
 
+    /// Whether rows are being dragged.
+    [[nodiscard]] bool isDragging() const;
+    void cancelDrag();
+
   signals:
+    /// The selected rows were dropped before a row.
+    void rowsDropped(int before);
+    /// The pointer came over the row of an element, or its place may be another one; 0 when it is
+    /// over none any more.
+    void elementHovered(int elementId);
     /// The right button asks for a menu.
     void menuWanted(QPoint globalPosition);
 
   private:
     void documentChanged(const DocumentChange& change) override;
+    void showChange(const DocumentChange& change);
     void selectionChanged() override;
+    void hover(int row);
+    [[nodiscard]] ElementListView& current() const;
     ElementListView* makeList(int screen);
     void lst_Click(int screen);
     void askForMenu(const QListView& list, QPoint point);
@@ -42,6 +54,7 @@ class ElementsPanel : public QGroupBox, private DocumentObserver, private Select
     std::array<ElementListModel*, screenCount> models_{};
     std::array<ElementListView*, screenCount> lst_{};
     QStackedLayout* stack_;
+    int hovered_ = 0;        // element whose row is below the pointer
     bool following_ = false; // the lists change by the document, not by a hand
     DocumentWatch documentWatch_;
     SelectionWatch selectionWatch_;

@@ -2,6 +2,7 @@
 #include "window/arrange_commands.h"
 
 #include "document/open_edit.h"
+#include "editing/stacking.h"
 #include "editing/step_names.h"
 
 #include <QAction>
@@ -97,6 +98,14 @@ void ArrangeCommands::carryOut(ArrangeCommand command) {
     const std::vector<int>& ids = parts_.selection.ids();
     const OpenEdit edit(parts_.document, stepName(arrangeStep(command), parts_.document, ids));
     arrange(parts_.document, ids, parts_.selection.curNum(), command);
+}
+
+void ArrangeCommands::reorder(int before) {
+    if (watch_.mayWork()) {
+        const OpenEdit edit(parts_.document,
+                            stepName(step::reorder, parts_.document, parts_.selection.ids()));
+        moveRows(parts_.document, parts_.selection.rows(), before);
+    }
 }
 
 } // namespace tarvel

@@ -32,6 +32,9 @@ class ArrangeCommands : public QObject {
 
     explicit ArrangeCommands(const Parts& parts);
 
+    /// Brings the selected rows before another one, as moveRows() does.
+    void reorder(int before);
+
   private:
     void fillMenu();
     void refresh();

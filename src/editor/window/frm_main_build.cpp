@@ -8,6 +8,7 @@
 #include "panels/position_panel.h"
 #include "panels/property_panel.h"
 #include "skinfile/version.h"
+#include "surface/hover_mark.h"
 #include "surface/locked_ground.h"
 #include "surface/pic.h"
 #include "surface/picture_watch.h"
@@ -183,6 +184,8 @@ void FrmMain::buildReactions() {
     keys_ = std::make_unique<WindowKeys>(
         *this, [this] { return !gate_->isClosed(); },
         std::vector<WindowKeys::Key>{
+            {Qt::Key_Escape, [this] { return fraElements_->isDragging(); },
+             [this] { fraElements_->cancelDrag(); }},
             {Qt::Key_Escape, [this] { return tools_->isBusy(); }, [this] { tools_->giveUp(); }},
             {Qt::Key_Escape, [this] { return fraElements_->isAncestorOf(focusWidget()); },
              [this] { selection_.clear(); }},
@@ -303,6 +306,10 @@ void FrmMain::buildEditCommands() {
         .menu = menus_->mnuArrange(),
         .stacking = {menus_->mnuFront, menus_->mnuBack, menus_->mnuForward, menus_->mnuBackward},
         .lock = *menus_->mnuLocked});
+    connect(fraElements_, &ElementsPanel::rowsDropped, arranging_.get(), &ArrangeCommands::reorder);
+    auto* hoverMark = new HoverMark(*pic_);
+    connect(fraElements_, &ElementsPanel::elementHovered, hoverMark,
+            [this, hoverMark](int elementId) { hoverMark->mark(document_, elementId); });
 }
 
 void FrmMain::watchPictures() {

@@ -31,6 +31,32 @@ SkinDocument boxes(int count, int locked = 0) {
     return document;
 }
 
+TEST(Stacking, BringsRowsBeforeAnotherButNeverIntoTheLocked) {
+    struct Case {
+        int locked;
+        std::vector<int> rows;
+        int before;
+        Ids ids;
+    };
+    const Case cases[] = {
+        {0, {0}, 2, {2, 1, 3, 4, 5}},       {0, {0}, 0, {1, 2, 3, 4, 5}},
+        {0, {0}, 1, {1, 2, 3, 4, 5}},       {0, {0}, 5, {2, 3, 4, 5, 1}},
+        {0, {4}, 0, {5, 1, 2, 3, 4}},       {0, {0, 2, 4}, 2, {2, 1, 3, 5, 4}},
+        {0, {0, 2, 4}, 0, {1, 3, 5, 2, 4}}, {0, {0, 1, 2, 3, 4}, 3, {1, 2, 3, 4, 5}},
+        {2, {4}, 0, {1, 2, 5, 3, 4}},       {2, {4}, 2, {1, 2, 5, 3, 4}},
+        {2, {0, 4}, 3, {1, 2, 3, 5, 4}},    {2, {0, 1}, 5, {1, 2, 3, 4, 5}},
+        {5, {0}, 5, {1, 2, 3, 4, 5}},       {0, {}, 3, {1, 2, 3, 4, 5}},
+        {0, {1}, 99, {1, 3, 4, 5, 2}},      {0, {1}, -1, {2, 1, 3, 4, 5}},
+    };
+    for (const Case& each : cases) {
+        SkinDocument document = boxes(5, each.locked);
+        const SkinDocument before = document;
+        EXPECT_EQ(moveRows(document, each.rows, each.before), each.ids != Ids({1, 2, 3, 4, 5}));
+        EXPECT_EQ(rowIds(document, menu), each.ids) << each.before;
+        EXPECT_EQ(document.lockCount(menu), before.lockCount(menu));
+    }
+}
+
 TEST(Stacking, MovesRowsAndGivesTheRowToSelect) {
     struct Case {
         int rows;

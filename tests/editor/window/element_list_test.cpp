@@ -1,0 +1,218 @@
+// The element list by hand: rows dragged to another place, found by typing, shown on the surface.
+#include "support/behaviour_editor.h"
+#include "support/clipboard_support.h"
+#include "support/ui_test.h"
+
+using namespace tarvel;
+using namespace tarvel::test;
+
+namespace {
+
+// Boxes named A to E, 20 pixels apart, on "Menu".
+void addFive(Editor& editor) {
+    for (int i = 0; i < 5; ++i) {
+        Element box = boxAt(20 + 20 * static_cast<float>(i), 30, 15, 40);
+        box.label = std::string("Box ") + static_cast<char>('A' + i);
+        editor.add(box);
+    }
+    editor.show();
+}
+
+// A point of a row, a part of its height below its top.
+QPoint pointIn(Editor& editor, int row, double part) {
+    const QListView* list = editor.lst(1);
+    const QRect rect = list->visualRect(list->model()->index(row, 0));
+    return {rect.left() + 10, rect.top() + static_cast<int>(part * rect.height())};
+}
+
+void moveTo(Editor& editor, QPoint at, Qt::MouseButtons held = Qt::LeftButton) {
+    QWidget* target = editor.lst(1)->viewport();
+    QMouseEvent move(QEvent::MouseMove, at, target->mapToGlobal(at), Qt::NoButton, held, {});
+    QApplication::sendEvent(target, &move);
+}
+
+void press(Editor& editor, QPoint at) {
+    QTest::mousePress(editor.lst(1)->viewport(), Qt::LeftButton, {}, at);
+}
+
+void release(Editor& editor, QPoint at) {
+    QTest::mouseRelease(editor.lst(1)->viewport(), Qt::LeftButton, {}, at);
+}
+
+void dragRow(Editor& editor, int row, QPoint to) {
+    press(editor, pointIn(editor, row, 0.5));
+    moveTo(editor, (pointIn(editor, row, 0.5) + to) / 2);
+    moveTo(editor, to);
+    release(editor, to);
+}
+
+constexpr double above = 0.2;
+constexpr double below = 0.8;
+constexpr int endOfList = 5;
+
+} // namespace
+
+class ElementListTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void draggedRowsTakeTheirPlace_data();
+    void draggedRowsTakeTheirPlace();
+    void lockedRowsStay();
+    void escapeEndsADrag();
+    void aClickOnOneOfSeveralSelectsIt();
+    void typingFindsTheNextRow();
+    void rowBelowThePointerIsMarked();
+};
+
+void ElementListTest::draggedRowsTakeTheirPlace_data() {
+    QTest::addColumn<std::vector<int>>("selected");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("target");
+    QTest::addColumn<double>("part");
+    QTest::addColumn<int>("locked");
+    QTest::addColumn<std::vector<int>>("ids");
+    using Rows = std::vector<int>;
+    const auto row = [](const char* name, const Rows& selected, int dragged, int target,
+                        double part, int locked, const Rows& ids) {
+        QTest::newRow(name) << selected << dragged << target << part << locked << ids;
+    };
+    row("down", {}, 0, 2, below, 0, {2, 3, 1, 4, 5});
+    row("up", {}, 4, 1, above, 0, {1, 5, 2, 3, 4});
+    row("to the front", {}, 1, 4, below, 0, {1, 3, 4, 5, 2});
+    row("beyond the last row", {}, 1, endOfList, 0, 0, {1, 3, 4, 5, 2});
+    row("several", {0, 3}, 3, 1, below, 0, {2, 1, 4, 3, 5});
+    row("another than the selected", {0, 1}, 3, 0, above, 0, {4, 1, 2, 3, 5});
+    row("onto its place", {}, 2, 3, above, 0, {1, 2, 3, 4, 5});
+    row("into the locked", {}, 4, 0, above, 2, {1, 2, 5, 3, 4});
+    row("locked ones among them", {0, 3, 4}, 3, 2, above, 2, {1, 2, 4, 5, 3});
+}
+
+void ElementListTest::draggedRowsTakeTheirPlace() {
+    QFETCH(std::vector<int>, selected);
+    QFETCH(int, row);
+    QFETCH(int, target);
+    QFETCH(double, part);
+    QFETCH(int, locked);
+    QFETCH(std::vector<int>, ids);
+    Editor editor;
+    addFive(editor);
+    if (locked > 0) {
+        selectRows(editor, 1, {locked - 1});
+        editor.entry("mnuLocked")->trigger();
+        editor.entry("mnuDeSel")->trigger();
+    }
+    selectRows(editor, 1, selected);
+    const int dragged = editor.document().itemData(1, row);
+    const SkinDocument before = editor.document();
+    const QString undo = editor.entry("mnuUndo")->text();
+    const QPoint to = target == endOfList ? pointIn(editor, 4, 1.5) : pointIn(editor, target, part);
+    dragRow(editor, row, to);
+    QCOMPARE(idsOn(editor, 1), ids);
+    QCOMPARE(editor.document().lockCount(1), locked);
+    const bool wasSelected = std::find(selected.begin(), selected.end(), row) != selected.end();
+    const auto many = wasSelected ? selected.size() : 1;
+    QCOMPARE(static_cast<std::size_t>(selectedRows(editor, 1).size()), many);
+    QVERIFY(selectedRows(editor, 1).contains(editor.document().rowOf(1, dragged)));
+    if (ids == std::vector<int>({1, 2, 3, 4, 5})) {
+        QCOMPARE(editor.entry("mnuUndo")->text(), undo); // no step
+        return;
+    }
+    const QString what =
+        many == 1 ? QStringLiteral("Box") : QStringLiteral("%1 elements").arg(many);
+    QCOMPARE(editor.entry("mnuUndo")->text(), "Undo reorder " + what);
+    editor.entry("mnuUndo")->trigger();
+    QVERIFY(editor.document().holdsTheSame(before));
+    editor.entry("mnuRedo")->trigger();
+    QCOMPARE(idsOn(editor, 1), ids);
+}
+
+void ElementListTest::lockedRowsStay() {
+    Editor editor;
+    addFive(editor);
+    selectRows(editor, 1, {1});
+    editor.entry("mnuLocked")->trigger();
+    const SkinDocument before = editor.document();
+    dragRow(editor, 0, pointIn(editor, 4, below));
+    QVERIFY(editor.document() == before);
+}
+
+void ElementListTest::escapeEndsADrag() {
+    Editor editor;
+    addFive(editor);
+    const SkinDocument before = editor.document();
+    press(editor, pointIn(editor, 1, 0.5));
+    moveTo(editor, pointIn(editor, 3, below));
+    QTest::keyClick(editor.lst(1), Qt::Key_Escape);
+    moveTo(editor, pointIn(editor, 4, below));
+    release(editor, pointIn(editor, 4, below));
+    QVERIFY(editor.document() == before);
+    QCOMPARE(selectedRows(editor, 1), QList<int>({1})); // it stays selected
+    dragRow(editor, 1, pointIn(editor, 4, below));      // the next one goes
+    QCOMPARE(idsOn(editor, 1), (std::vector<int>{1, 3, 4, 5, 2}));
+}
+
+void ElementListTest::aClickOnOneOfSeveralSelectsIt() {
+    Editor editor;
+    addFive(editor);
+    selectRows(editor, 1, {0, 2, 3});
+    press(editor, pointIn(editor, 2, 0.5));
+    QCOMPARE(selectedRows(editor, 1), QList<int>({0, 2, 3})); // they may be about to be dragged
+    release(editor, pointIn(editor, 2, 0.5));
+    QCOMPARE(selectedRows(editor, 1), QList<int>({2}));
+}
+
+void ElementListTest::typingFindsTheNextRow() {
+    Editor editor;
+    for (const char* label : {"Box", "Image Sky", "Box sky", "Line", "SKYLINE"}) {
+        Element box = boxAt(20, 30, 15, 40);
+        box.label = label;
+        editor.add(box);
+    }
+    editor.show();
+    auto* list = editor.lst(1);
+    list->setFocus();
+    const auto typed = [&](const char* letters) {
+        // After a pause letters begin a new search.
+        const int pause = QApplication::keyboardInputInterval();
+        QApplication::setKeyboardInputInterval(0);
+        QTest::keyClick(list, letters[0]);
+        QApplication::setKeyboardInputInterval(100'000);
+        QTest::keyClicks(list, letters + 1);
+        QApplication::setKeyboardInputInterval(pause);
+        return editor.window.curNum();
+    };
+    QCOMPARE(typed("sky"), 2);
+    QCOMPARE(typed("s"), 3);
+    QCOMPARE(typed("line"), 4);
+    QCOMPARE(typed("sky"), 5);
+    QCOMPARE(typed("sky"), 2); // from the top again
+    QCOMPARE(typed("zz"), 2);  // nowhere
+    QCOMPARE(selectedRows(editor, 1), QList<int>({1}));
+}
+
+void ElementListTest::rowBelowThePointerIsMarked() {
+    Editor editor;
+    addFive(editor);
+    auto* mark = editor.find<QWidget>("hoverMark");
+    QVERIFY(!mark->isVisible());
+    moveTo(editor, pointIn(editor, 2, 0.5), Qt::NoButton);
+    QVERIFY(mark->isVisible());
+    QCOMPARE(mark->geometry(), QRect(60, 30, 15, 40).adjusted(-3, -3, 3, 3));
+    QCOMPARE(editor.window.curNum(), 0); // which selects nothing
+    editor.document().editElement(3, [](Element& box) { box.elementControl.left = 200; });
+    QCOMPARE(mark->geometry().left(), 197);
+    editor.document().delItem(2);
+    QVERIFY(!mark->isVisible());
+    moveTo(editor, pointIn(editor, 0, 0.5), Qt::NoButton);
+    QVERIFY(mark->isVisible());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(editor.lst(1)->viewport(), &leave);
+    QVERIFY(!mark->isVisible());
+    moveTo(editor, pointIn(editor, 0, 0.5), Qt::NoButton);
+    editor.clickScreen(2);
+    QVERIFY(!mark->isVisible());
+}
+
+TARVEL_UI_TEST(ElementListTest)
+#include "element_list_test.moc"
