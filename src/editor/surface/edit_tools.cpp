@@ -94,25 +94,31 @@ CopyMoveTool::CopyMoveTool(ToolHost& host, SkinPoint press)
     : CanvasTool(host.document(), nameOf(step::copy, host))
     , host_(host)
     , press_(press)
-    , originals_(host.selection().ids()) {}
+    , originals_(host.selection().ids())
+    , starts_(startPlaces(host.document(), originals_)) {}
 
 void CopyMoveTool::move(SkinPoint point, bool /*keepProportions*/) {
     SkinDocument& document = host_.document();
-    if (starts_.empty()) {
+    if (copies_.empty()) {
         if (point == press_) {
             return;
         }
-        const auto copies = pasteElements(document, copyElements(document, originals_), {0, 0});
-        host_.selection().selectIds(copies);
-        starts_ = startPlaces(document, copies);
+        copies_ = pasteElements(document, copyElements(document, originals_), {0, 0});
+        host_.selection().selectIds(copies_);
+        starts_ = startPlaces(document, copies_);
     }
     (void)moveAll(document, starts_, double{point.x} - press_.x, double{point.y} - press_.y);
 }
 
 void CopyMoveTool::release(SkinPoint /*point*/) {}
 
+// Copies snap to what they are copied from.
+std::optional<SnapSubject> CopyMoveTool::snapSubject() const {
+    return subjectOf(starts_, SnapSubject::What::whole, press_, copies_);
+}
+
 void CopyMoveTool::takeBack() {
-    if (!starts_.empty()) {
+    if (!copies_.empty()) {
         const std::vector<int> rows = host_.selection().rows(); // those of the copies
         deleteRows(host_.document(), rows);
         host_.selection().selectIds(originals_);

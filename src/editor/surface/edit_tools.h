@@ -67,6 +67,7 @@ class CopyMoveTool : public CanvasTool {
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
+    [[nodiscard]] std::optional<SnapSubject> snapSubject() const override;
 
   private:
     void takeBack() override;
@@ -74,7 +75,8 @@ class CopyMoveTool : public CanvasTool {
     ToolHost& host_;
     SkinPoint press_;
     std::vector<int> originals_;
-    std::vector<StartPlace> starts_; // of the copies; none before there are some
+    std::vector<int> copies_; // none before the first move
+    std::vector<StartPlace> starts_;
 };
 
 /// Scales all selected elements by a handle of the frame around them.

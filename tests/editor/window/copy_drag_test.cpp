@@ -42,6 +42,7 @@ class CopyDragTest : public QObject {
     void altCopiesSeveral();
     void altCopiesALine();
     void altSizesByHandles();
+    void copiesSnapToTheirOriginals();
     void withoutADragNothingIsCopied();
     void escapeTakesAllBack();
     void lockedGroundIsNotCopied();
@@ -107,6 +108,14 @@ void CopyDragTest::altSizesByHandles() {
     altDrag(editor, {120, 70}, {150, 100});
     QCOMPARE(editor.document().rowCount(1), 1);
     QCOMPARE(placeOf(editor.control(1)), (Place{20, 20, 130, 80}));
+}
+
+void CopyDragTest::copiesSnapToTheirOriginals() {
+    BehaviourEditor editor(1);
+    editor.entry("mnuSnapElements")->trigger();
+    altDrag(editor, {60, 40}, {64, 240});
+    QCOMPARE(placeOf(editor.control(2)), (Place{20, 220, 100, 50}));
+    editor.entry("mnuSnapElements")->trigger(); // which would be remembered
 }
 
 void CopyDragTest::withoutADragNothingIsCopied() {
