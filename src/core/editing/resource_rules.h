@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvel {
 
@@ -61,6 +62,11 @@ enum class AddOutcome : std::uint8_t {
 
 /// Adds a file under a name, unless the name is reserved or taken, or either is empty.
 AddOutcome addCustomResource(SkinDocument& document, std::string_view name, std::string_view path);
+/// Adds each of the files, document paths, under its suggested name, and returns how many. One
+/// whose name is taken, in whatever letter case, or reserved gets the first free of "Name 2", "Name
+/// 3" and so on, as a pasted resource does. Left out are files that the skin has under such a name
+/// already. Takes time as the files and the resources grow. The observers are told once.
+int addCustomResources(SkinDocument& document, const std::vector<std::string>& paths);
 /// Adds a preset by its place in presetResources, unless the name is taken or `preset` is -1. Here
 /// no name is reserved.
 AddOutcome addPresetResource(SkinDocument& document, int preset, std::string_view name);

@@ -1,5 +1,6 @@
 // Which resources may be added, and what the presets are.
 #include "editing/resource_rules.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -122,6 +123,64 @@ TEST(AddPresetResource, AddsNothingUnderATakenNameOrWithoutAChoice) {
     EXPECT_EQ(addPresetResource(document, 18, "New"), AddOutcome::incomplete);
     EXPECT_EQ(document, before);
     EXPECT_EQ(addPresetResource(document, 14, "logo"), AddOutcome::added);
+}
+
+TEST(AddCustomResources, NamesEachFileAfterItself) {
+    struct Case {
+        const char* what;
+        std::vector<Resource> before;
+        std::vector<std::string> paths;
+        std::vector<Resource> added;
+    };
+    const std::string logo = "\\a\\Logo.png";
+    const std::string other = "\\b\\logo.jpg";
+    const std::vector<Case> cases = {
+        {"none", {{"x", "\\x"}}, {}, {}},
+        {"free", {}, {logo, "\\a\\clip.wmv"}, {{"Logo", logo}, {"clip", "\\a\\clip.wmv"}}},
+        {"among each other", {}, {logo, other}, {{"Logo", logo}, {"logo 2", other}}},
+        {"taken", {{"LOGO", "\\x"}}, {logo}, {{"Logo 2", logo}}},
+        {"taken twice", {{"Logo", "\\x"}, {"logo 2", "\\y"}}, {logo}, {{"Logo 3", logo}}},
+        {"taken by the dashboard's", {{"Logo", logo, false}}, {logo}, {{"Logo 2", logo}}},
+        {"reserved", {}, {"\\a\\bground.png"}, {{"bground 2", "\\a\\bground.png"}}},
+        {"there", {{"logo", logo}}, {logo, other}, {{"logo 2", other}}},
+        {"there by another name", {{"mine", logo}}, {logo}, {{"Logo", logo}}},
+        {"there by a number", {{"Logo", "\\x"}, {"Logo 7", logo}}, {logo}, {}},
+        {"there twice over", {}, {logo, logo}, {{"Logo", logo}}},
+        {"no number of its own", {{"5", "\\x"}}, {"\\a\\5.png"}, {{"5 2", "\\a\\5.png"}}},
+    };
+    for (const Case& tested : cases) {
+        SkinDocument document;
+        document.editSettings([&](SkinSettings& settings) { settings.resources = tested.before; });
+        SkinDocument expected = document;
+        expected.editSettings([&](SkinSettings& settings) {
+            settings.resources.insert(settings.resources.end(), tested.added.begin(),
+                                      tested.added.end());
+        });
+        EXPECT_EQ(addCustomResources(document, tested.paths), int(tested.added.size()))
+            << tested.what;
+        EXPECT_EQ(document, expected) << tested.what;
+    }
+}
+
+TEST(AddCustomResources, KnowsAFileInAnotherSpelling) {
+    const TemporaryFolder folder;
+    folder.file("Logo.png", "x");
+    SkinDocument document;
+    document.addRes("logo", folder.document("LOGO.PNG"));
+    const SkinDocument before = document;
+    EXPECT_EQ(addCustomResources(document, {folder.document("Logo.png")}), 0);
+    EXPECT_EQ(document, before);
+}
+
+TEST(AddCustomResources, TakesThousandsOfFilesOfOneName) {
+    SkinDocument document;
+    std::vector<std::string> paths;
+    for (int i = 0; i < 20'000; ++i) {
+        paths.push_back("\\" + std::to_string(i) + "\\logo.png");
+    }
+    EXPECT_EQ(addCustomResources(document, paths), 20'000);
+    EXPECT_EQ(document.settings().resources.back().name, "logo 20000");
+    EXPECT_EQ(addCustomResources(document, paths), 0); // all are there
 }
 
 } // namespace
