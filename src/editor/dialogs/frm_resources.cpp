@@ -1,8 +1,8 @@
 // Composes the resources dialog: the two ways to add, the list, and the preview.
 #include "dialogs/frm_resources.h"
 
+#include "dialogs/current_frame.h"
 #include "dialogs/resource_frames.h"
-#include "dialogs/resource_thumbnails.h"
 #include "panels/resource_looks.h"
 #include "panels/resource_preview.h"
 #include "surface/picture_cache.h"
@@ -16,9 +16,7 @@
 #include <QHideEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -44,8 +42,7 @@ FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCach
                  document, prompts, parent)
     , fraCustom_(new CustomFrame(document, prompts, this))
     , fraPreset_(new PresetFrame(document, pictures))
-    , lstRes_(named(new QListWidget, QStringLiteral("lstRes"), tr("Resources of the skin")))
-    , thumbnails_(new ResourceThumbnails(document, pictures, *lstRes_, this))
+    , fraCurrent_(new CurrentFrame(document, prompts, pictures, this))
     , imgPreview_(named(new ResourcePreview(pictures, {320, 240},
                                             tr("Select a resource to see it,\n"
                                                "or drop a file here to add it")),
@@ -57,11 +54,11 @@ FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCach
     buildColumns();
     cmdOK_->setAutoDefault(false); // the focus alone does not make it what Return presses
     cmdOK_->installEventFilter(this);
-    connect(lstRes_, &QListWidget::itemSelectionChanged, this, &FrmResources::lstRes_Click);
+    connect(fraCurrent_, &CurrentFrame::chosen, this, &FrmResources::showChosen);
     connect(fraCustom_->source(), &SourceButtons::chosen, this, &FrmResources::showSource);
     connect(fraPreset_->source(), &SourceButtons::chosen, this, &FrmResources::showSource);
     connect(fraCustom_, &CustomFrame::fileTaken, this, [this](const QString& file) {
-        lstRes_->setCurrentIndex({}); // something else is previewed
+        fraCurrent_->selectNone(); // something else is previewed
         preview({.name = {}, .content = documentPath(hostPathOf(file))});
     });
     connect(fraCustom_, &CustomFrame::inputChanged, this, &FrmResources::showDefault);
@@ -78,7 +75,7 @@ void FrmResources::buildColumns() {
     auto* left = new QVBoxLayout;
     left->addWidget(fraCustom_);
     left->addWidget(fraPreset_);
-    left->addWidget(makeCurrentFrame(), 1);
+    left->addWidget(fraCurrent_, 1);
     auto* right = new QVBoxLayout;
     right->addWidget(makePreviewFrame(), 1);
     auto* columns = new QHBoxLayout;
@@ -87,16 +84,6 @@ void FrmResources::buildColumns() {
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(columns, 1);
     rows->addWidget(cmdOK_, 0, Qt::AlignRight);
-}
-
-QWidget* FrmResources::makeCurrentFrame() {
-    auto* frame = new QGroupBox(QStringLiteral("CURRENT RESOURCES"));
-    lstRes_->setUniformItemSizes(true);
-    lstRes_->setTextElideMode(Qt::ElideMiddle);
-    lstRes_->setMinimumHeight(150);
-    auto* box = new QVBoxLayout(frame);
-    box->addWidget(lstRes_);
-    return frame;
 }
 
 QWidget* FrmResources::makePreviewFrame() {
@@ -110,13 +97,7 @@ QWidget* FrmResources::makePreviewFrame() {
 }
 
 void FrmResources::readDocument() {
-    {
-        const QSignalBlocker quiet(lstRes_);
-        lstRes_->clear();
-    }
-    thumbnails_->restart();
-    listNewResources();
-    lstRes_->setCurrentIndex({});
+    fraCurrent_->readDocument();
     resizeForm(added_); // a hidden window may not have taken the size of another frame
     if (!fraCustom_->hasFile()) {
         fraCustom_->source()->focusChosen(); // not where the last work ended
@@ -126,7 +107,7 @@ void FrmResources::readDocument() {
 void FrmResources::hideEvent(QHideEvent* event) {
     SkinDialog::hideEvent(event);
     if (!event->spontaneous()) {
-        thumbnails_->stop();
+        fraCurrent_->stop();
         imgPreview_->showNothing();
         lblPreview_->setPath({});
         added_ = addedHeight();
@@ -223,25 +204,11 @@ void FrmResources::resizeForm(int added) {
     resize(wide, fitted_ + added);
 }
 
-void FrmResources::listNewResources() {
-    const auto& resources = document().settings().resources;
-    for (auto row = static_cast<std::size_t>(lstRes_->count()); row < resources.size(); ++row) {
-        auto* item = new QListWidgetItem(qtText(resources[row].name), lstRes_); // NOLINT: owned
-        item->setToolTip(resources[row].isFile ? shownPath(resources[row].content)
-                                               : qtText(resources[row].content));
-    }
-    thumbnails_->addRows();
-}
-
-void FrmResources::selectLast() {
-    lstRes_->setCurrentRow(lstRes_->count() - 1);
-}
-
 // Steps back to the start: OK is next, or another file.
 void FrmResources::finishAdding(bool added) {
-    listNewResources();
+    fraCurrent_->listNewResources();
     if (added) {
-        selectLast();
+        fraCurrent_->selectLast();
     }
     showSource(false);
     if (added) {
@@ -249,14 +216,10 @@ void FrmResources::finishAdding(bool added) {
     }
 }
 
-void FrmResources::lstRes_Click() {
-    const auto selected = lstRes_->selectedItems();
-    if (selected.isEmpty()) {
-        return;
-    }
+void FrmResources::showChosen(int row) {
     const auto& resources = document().settings().resources;
-    const auto row = static_cast<std::size_t>(lstRes_->row(selected.front()));
-    preview(row < resources.size() ? resources[row] : Resource{});
+    const auto index = static_cast<std::size_t>(row); // -1 is too large
+    preview(index < resources.size() ? resources[index] : Resource{});
 }
 
 void FrmResources::preview(const Resource& resource) {

@@ -3,18 +3,16 @@
 
 #include "dialogs/skin_dialog.h"
 
-class QListWidget;
-
 namespace tarvel {
 
+class CurrentFrame;
 class CustomFrame;
 class PathLabel;
 class PictureCache;
 class PresetFrame;
 class ResourcePreview;
-class ResourceThumbnails;
 
-/// Lists the resources with a small picture of each, shows the selected one in large and adds new
+/// Lists the resources with what can be done to them, shows the selected one in large and adds new
 /// ones, from files or presets. Files can be dropped anywhere onto it. What was filled in but not
 /// added is forgotten when it closes; the Return key does not close it then.
 class FrmResources : public SkinDialog {
@@ -27,6 +25,8 @@ class FrmResources : public SkinDialog {
 
     /// Fills in a file of the host, as browsing to it does. May be called before exec().
     void takeFile(const QString& file);
+    /// The list of resources.
+    [[nodiscard]] CurrentFrame& current() const { return *fraCurrent_; }
 
   protected:
     void readDocument() override;
@@ -38,7 +38,6 @@ class FrmResources : public SkinDialog {
 
   private:
     void buildColumns();
-    QWidget* makeCurrentFrame();
     QWidget* makePreviewFrame();
     void showSource(bool preset);
     void keepFocusVisible();
@@ -46,17 +45,14 @@ class FrmResources : public SkinDialog {
     bool takeReturn();
     [[nodiscard]] int addedHeight() const;
     void resizeForm(int added);
-    void listNewResources();
-    void selectLast();
     void forgetInput();
     void finishAdding(bool added);
-    void lstRes_Click();
+    void showChosen(int row);
     void preview(const Resource& resource);
 
     CustomFrame* fraCustom_;
     PresetFrame* fraPreset_;
-    QListWidget* lstRes_;
-    ResourceThumbnails* thumbnails_;
+    CurrentFrame* fraCurrent_;
     ResourcePreview* imgPreview_;
     PathLabel* lblPreview_;
     PictureCache& pictures_;

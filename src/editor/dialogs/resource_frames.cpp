@@ -21,13 +21,6 @@
 
 namespace tarvel {
 
-namespace {
-
-constexpr const char* fileFilter = "Pictures and videos|*.png *.jpg *.jpeg *.bmp *.gif *.wmv"
-                                   "|All files|*";
-
-} // namespace
-
 SourceButtons::SourceButtons(const QString& suffix, QWidget* parent)
     : QWidget(parent)
     , optCustom_(named(new QRadioButton(QStringLiteral("Custom (from file)")),
@@ -92,9 +85,29 @@ void CustomFrame::buildGrid() {
 }
 
 void CustomFrame::cmdBrowse_Click() {
-    const QStringList files = prompts_.files(owner_, QLatin1String(fileFilter), false);
-    if (!files.isEmpty() && !files.front().isEmpty()) {
+    const QStringList files = prompts_.files(owner_, QLatin1String(resourceFileFilter), true);
+    if (files.size() > 1) {
+        addFiles(files);
+    } else if (!files.isEmpty() && !files.front().isEmpty()) {
         takeFile(files.front());
+    }
+}
+
+// What is filled in stays: it is for a file of its own.
+void CustomFrame::addFiles(const QStringList& files) {
+    const QStringList usable = usableFiles(files, prompts_, owner_);
+    std::vector<std::string> paths;
+    for (const QString& file : usable) {
+        paths.push_back(documentPath(hostPathOf(file)));
+    }
+    const int added = addCustomResources(document_, paths);
+    if (added > 0) {
+        emit done(true);
+    }
+    if (added < usable.size()) {
+        prompts_.message(owner_, tr("Files that the skin has already: %1 of %2.")
+                                     .arg(usable.size() - added)
+                                     .arg(usable.size()));
     }
 }
 

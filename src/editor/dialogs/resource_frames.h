@@ -17,6 +17,10 @@ class PathLabel;
 class PictureCache;
 class Prompts;
 
+/// What is offered where a file of a resource is chosen, for Prompts.
+inline constexpr const char* resourceFileFilter =
+    "Pictures and videos|*.png *.jpg *.jpeg *.bmp *.gif *.wmv|All files|*";
+
 /// The choice between the two ways. It stands in both frames and shows the same in both.
 class SourceButtons : public QWidget {
     Q_OBJECT
@@ -38,7 +42,8 @@ class SourceButtons : public QWidget {
     QRadioButton* optPreset_;
 };
 
-/// fraCustom: adds files.
+/// fraCustom: adds files. One is filled in first; several are added at once, each named after
+/// itself.
 class CustomFrame : public QGroupBox {
     Q_OBJECT
 
@@ -71,6 +76,7 @@ class CustomFrame : public QGroupBox {
     void buildGrid();
     [[nodiscard]] bool hasName() const;
     void cmdBrowse_Click();
+    void addFiles(const QStringList& files);
     void cmdAdd_Click();
 
     SkinDocument& document_;

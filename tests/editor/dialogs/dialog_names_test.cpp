@@ -11,6 +11,7 @@
 #include "support/ui_test.h"
 #include "surface/picture_cache.h"
 #include "widgets/copy_progress.h"
+#include "widgets/search_progress.h"
 
 #include <QTest>
 
@@ -64,8 +65,10 @@ std::vector<Case> DialogNamesTest::cases() {
          [this] { return std::make_unique<FrmMusic>(document_, prompts_); }},
         {"picture", {}, [] { return std::make_unique<FrmPic>(); }},
         {"progress", {"Cancel"}, [] { return std::make_unique<CopyProgress>(nullptr); }},
+        {"search", {"Cancel"}, [] { return std::make_unique<SearchProgress>(nullptr); }},
         {"resources",
-         {"Custom (from file)", "Preset (in QOR)", "Browse", "Add", "Add Resource", "OK"},
+         {"Custom (from file)", "Preset (in QOR)", "Browse", "Add", "Add Resource", "Rename",
+          "Replace...", "Remove", "Locate...", "OK"},
          [this] { return std::make_unique<FrmResources>(document_, prompts_, pictures_); }},
     };
 }

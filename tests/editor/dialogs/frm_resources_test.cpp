@@ -189,7 +189,7 @@ void FrmResourcesTest::browsingFillsTheFields() {
     const QString file = picture("My Logo.png", Qt::red);
     prompts_->fileChoices = {{file}};
     click(at<QWidget>("cmdBrowse"));
-    QCOMPARE(prompts_->severals, QList<bool>{false});
+    QCOMPARE(prompts_->severals, QList<bool>{true});
     QCOMPARE(prompts_->lastOwner, dialog_.get());
     QCOMPARE(at<QLabel>("lblFile").text(), file);
     QCOMPARE(at<QLabel>("lblFile").toolTip(), file);
