@@ -47,8 +47,15 @@ void paintLine(QPainter& painter, const QRectF& room, double top, const QFont& f
     painter.drawText(QPointF(qRound(left), top + qRound(metrics.ascent())), shown);
 }
 
+// The usual font of names, or a smaller one where that would be too high.
+QFont nameFontIn(const QRectF& room) {
+    QFont usual = skinFont({.size = 8.25F});
+    const bool isLow = room.height() < qRound(QFontMetricsF(usual).height()) + 2;
+    return isLow ? skinFont({.size = 6}) : usual;
+}
+
 void paintTexts(QPainter& painter, const QRectF& room, const QString& name, const QString& reason) {
-    const QFont nameFont = skinFont({.size = 8.25F});
+    const QFont nameFont = nameFontIn(room);
     const QFont reasonFont = skinFont({.size = 7.5F});
     const double nameHeight = qRound(QFontMetricsF(nameFont).height());
     const double reasonHeight = qRound(QFontMetricsF(reasonFont).height());
@@ -59,8 +66,8 @@ void paintTexts(QPainter& painter, const QRectF& room, const QString& name, cons
     }
     const double top = qRound(room.center().y() - height / 2);
     // A plate keeps the diagonals out of the letters.
-    const double widest = std::max(QFontMetricsF(nameFont).horizontalAdvance(name),
-                                   QFontMetricsF(reasonFont).horizontalAdvance(reason));
+    const double reasonWidth = both ? QFontMetricsF(reasonFont).horizontalAdvance(reason) : 0;
+    const double widest = std::max(QFontMetricsF(nameFont).horizontalAdvance(name), reasonWidth);
     const double plate = std::min(room.width() - 2, widest + 2 * textMargin);
     painter.fillRect(QRectF(qRound(room.center().x() - plate / 2), top, qRound(plate), height),
                      groundColor);
