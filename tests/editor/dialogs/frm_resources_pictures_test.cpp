@@ -5,6 +5,7 @@
 #include "support/ui_test.h"
 
 #include <QLabel>
+#include <QSignalSpy>
 #include <QTimer>
 
 namespace tarvel {
@@ -42,6 +43,8 @@ class FrmResourcesPicturesTest : public QObject, protected test::ResourcesFixtur
     void visibleRowsGetThumbnailsFirst();
     void listStaysAliveWhileThumbnailsAreMade();
     void addedResourceGetsAThumbnail();
+    void thumbnailsFollowTheirRows();
+    void farThumbnailsAreGivenUp();
     void badFilesAreShownAsSuch_data();
     void badFilesAreShownAsSuch();
     void previewShowsAPicture();
@@ -135,6 +138,59 @@ void FrmResourcesPicturesTest::addedResourceGetsAThumbnail() {
     click(at<QWidget>("cmdAdd"));
     QTRY_VERIFY_WITH_TIMEOUT(thumbnails.isDone(), patience);
     QCOMPARE(thumbnailColor(at<QListWidget>("lstRes"), 1), QColor(Qt::green));
+}
+
+void FrmResourcesPicturesTest::thumbnailsFollowTheirRows() {
+    for (const auto& [name, color] :
+         {std::pair("red", Qt::red), std::pair("blue", Qt::blue), std::pair("gray", Qt::gray)}) {
+        const QByteArray file = QByteArray(name) + ".png";
+        picture(file, color);
+        document_.addRes(name, folder_.document(file.toStdString()));
+    }
+    open();
+    auto& list = at<QListWidget>("lstRes");
+    auto& thumbnails = *dialog_->findChild<ResourceThumbnails*>();
+    QTRY_VERIFY_WITH_TIMEOUT(thumbnails.isDone(), patience);
+    clickRow(list, 0);
+    click(at<QWidget>("cmdRemove"));
+    QTRY_VERIFY_WITH_TIMEOUT(thumbnails.isDone(), patience);
+    QCOMPARE(thumbnailColor(list, 0), QColor(Qt::blue));
+    QCOMPARE(thumbnailColor(list, 1), QColor(Qt::gray));
+    prompts_->fileChoices = {{picture("green.png", Qt::green)}};
+    click(at<QWidget>("cmdReplace")); // of the row that came into its place
+    QTRY_VERIFY_WITH_TIMEOUT(thumbnails.isDone(), patience);
+    QCOMPARE(thumbnailColor(list, 0), QColor(Qt::green));
+    QCOMPARE(thumbnailColor(list, 1), QColor(Qt::gray));
+}
+
+void FrmResourcesPicturesTest::farThumbnailsAreGivenUp() {
+    constexpr int many = 6000;
+    document_.editSettings([&](SkinSettings& settings) {
+        for (int i = 0; i < many; ++i) {
+            settings.resources.push_back(
+                {std::to_string(i), folder_.document("none" + std::to_string(i) + ".png")});
+        }
+    });
+    auto& list = at<QListWidget>("lstRes");
+    open();
+    const QSignalSpy changed(list.model(), &QAbstractItemModel::dataChanged);
+    auto& thumbnails = *dialog_->findChild<ResourceThumbnails*>();
+    const qint64 none = thumbnails.icon(-1).cacheKey();
+    for (int row = 0; row < many; row += 2 * ResourceThumbnails::near) {
+        list.scrollToItem(list.item(row), QAbstractItemView::PositionAtTop);
+        QTRY_VERIFY_WITH_TIMEOUT(thumbnails.isDone(), patience);
+        QVERIFY(thumbnails.icon(row).cacheKey() != none);
+        int made = 0;
+        for (int each = 0; each < many; ++each) {
+            made += thumbnails.icon(each).cacheKey() != none ? 1 : 0;
+        }
+        QVERIFY2(made <= ResourceThumbnails::most + 1, qPrintable(QString::number(made)));
+    }
+    QVERIFY(thumbnails.icon(0).cacheKey() == none);
+    list.scrollToTop();
+    QTRY_VERIFY_WITH_TIMEOUT(thumbnails.isDone(), patience);
+    QVERIFY(thumbnails.icon(0).cacheKey() != none); // made again
+    QCOMPARE(changed.size(), 0);                    // each would be a layout of all rows
 }
 
 void FrmResourcesPicturesTest::badFilesAreShownAsSuch_data() {
