@@ -58,6 +58,7 @@ class FrmResourcesListTest : public QObject, protected test::ResourcesFixture {
     void severalFilesAreAdded_data();
     void severalFilesAreAdded();
     void addingSeveralKeepsWhatIsFilledIn();
+    void aFileThatWentBeforeItWasAddedIsMissing();
     void opensAnewAfterAChangeIsTakenBack();
     void worksByKeysAlone();
     void staysUsableWithVeryManyResources();
@@ -142,8 +143,8 @@ void FrmResourcesListTest::notesAreSeen() {
 
 void FrmResourcesListTest::longNamesLeaveRoomForTheNotes() {
     document_ = SkinDocument();
-    document_.addRes(std::string(300, 'W'), path("sky.png"));
     document_.addRes("short", path("sky.png"));
+    document_.addRes(std::string(300, 'W'), path("sky.png")); // the list goes by its last row
     open();
     QCOMPARE(list().visualItemRect(list().item(0)).width(), list().viewport()->width());
     const auto end = [&](int row) {
@@ -473,6 +474,17 @@ void FrmResourcesListTest::addingSeveralKeepsWhatIsFilledIn() {
     QVERIFY(dialog_->isVisible());
     QCOMPARE(resources().size(), 7U);
     QCOMPARE(resources().back().name, "mine");
+}
+
+void FrmResourcesListTest::aFileThatWentBeforeItWasAddedIsMissing() {
+    open();
+    dialog_->takeFile(picture("brief.png", Qt::red));
+    QVERIFY(QFile::remove(inFolder("brief.png")));
+    click(at<QWidget>("cmdAdd"));
+    QCOMPARE(spoken(4), "brief, file missing, unused");
+    prompts_->fileChoices = {{inFolder("sky.png")}};
+    click(at<QWidget>("cmdReplace"));
+    QCOMPARE(spoken(4), "brief, unused");
 }
 
 void FrmResourcesListTest::opensAnewAfterAChangeIsTakenBack() {
