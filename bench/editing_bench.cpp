@@ -148,10 +148,11 @@ class PaintCount : public QObject {
   public:
     explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
 
-    /// Lets pending events run until the widget is painted again.
+    /// Lets pending events run until the widget is painted again, or nothing is left to be done.
     void wait() {
         const int before = count_;
-        while (count_ == before) {
+        constexpr int mostTurns = 1000;
+        for (int turn = 0; count_ == before && turn < mostTurns; ++turn) {
             QApplication::processEvents();
         }
     }

@@ -36,10 +36,13 @@ GroupMarks::GroupMarks(Pic& surface)
 
 void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
     frames_.clear();
+    frames_.reserve(static_cast<qsizetype>(elements.size()));
     for (const StartPlace& each : elements) {
         if (each.elementId != leading) {
             // Places may be as far out as numbers go, what is painted may not.
-            frames_.push_back(surface_.mapping().toWidget(nearSurface(rectOf(boundsOf(each)))));
+            const QRectF rect = nearSurface(rectOf(boundsOf(each)));
+            frames_.push_back(
+                surface_.mapping().toWidget(rect).toAlignedRect().adjusted(0, 0, -1, -1));
         }
     }
     around_ = commonFrame(elements);
@@ -51,10 +54,10 @@ void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
 
 void GroupMarks::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setPen(QPen(markColor(), 1, Qt::DotLine));
-    for (const QRectF& frame : frames_) {
-        painter.drawRect(frame.adjusted(-0.5, -0.5, 0.5, 0.5));
-    }
+    QColor thin = markColor();
+    thin.setAlphaF(0.7F);
+    painter.setPen(QPen(thin, 1));
+    painter.drawRects(frames_);
     const Place& place = around_;
     const QRectF around =
         surface_.mapping().toWidget(nearSurface(QRectF(place[0], place[1], place[2], place[3])));

@@ -4,6 +4,8 @@
 
 #include "editing/group_places.h"
 
+#include <QList>
+#include <QRect>
 #include <QWidget>
 
 #include <vector>
@@ -28,8 +30,8 @@ class GroupMarks : public QWidget {
 
   private:
     const Pic& surface_;
-    std::vector<QRectF> frames_; // in pixels of the widget
-    Place around_{};             // in skin pixels
+    QList<QRect> frames_; // in pixels of the widget
+    Place around_{};      // in skin pixels
 };
 
 } // namespace tarvel
