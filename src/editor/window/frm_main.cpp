@@ -7,6 +7,7 @@
 #include "editing/several_values.h"
 #include "editing/step_names.h"
 #include "panels/layout_panel.h"
+#include "panels/position_panel.h"
 #include "panels/property_panel.h"
 #include "surface/locked_ground.h"
 #include "surface/pic.h"
@@ -66,6 +67,7 @@ FrmMain::FrmMain(Prompts& prompts, const std::filesystem::path& programFolder,
 }
 
 FrmMain::~FrmMain() {
+    fraPos_->disconnect(this);  // a field that loses the focus with the widgets enters its text
     pic_->setDocument(nullptr); // the document goes before the widgets do
 }
 

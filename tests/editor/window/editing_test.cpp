@@ -56,6 +56,7 @@ class EditingTest : public QObject {
     void pointerKeepsItsShapeDuringADrag();
     void positionFieldsMoveTheElement();
     void escapeTakesBackWhatWasTypedAsAPosition();
+    void aTypedPositionGoesWithTheWindow();
     void anotherButtonDuringADragIsIgnored();
     void marksFollowTheSelection();
     void aLockedLineHasNoMarks();
@@ -510,6 +511,19 @@ void EditingTest::escapeTakesBackWhatWasTypedAsAPosition() {
     }
     QCOMPARE(placeOf(editor, id), Place4({100, 90, 50, 50}));
     QCOMPARE(editor.selectedRow(1), 0);
+}
+
+// As when the program is told to end: the window goes without being closed first.
+void EditingTest::aTypedPositionGoesWithTheWindow() {
+    Editor editor;
+    editor.add(boxAt(10, 10, 50, 50));
+    editor.show();
+    editor.selectRow(1, 0);
+    auto* field = editor.find<QLineEdit>("txtL");
+    field->setFocus();
+    QTest::keyClicks(field, "77");
+    QVERIFY(field->hasFocus());
+    QCOMPARE(editor.control(1).left, 10.0F); // not entered yet
 }
 
 void EditingTest::anotherButtonDuringADragIsIgnored() {
