@@ -101,7 +101,7 @@ QIcon ResourceThumbnails::thumbnail(int row) const {
         shown.outside = true; // crossed just so, without reading its folder again
     }
     const QImage image = thumbnailOf(shown, pictures_, size, list_.devicePixelRatioF());
-    return QIcon(QPixmap::fromImage(image));
+    return {QPixmap::fromImage(image)};
 }
 
 void ResourceThumbnails::set(int row, const QIcon& icon) {
