@@ -131,7 +131,29 @@ void stepsKept(benchmark::State& state) {
     }
 }
 
+// What keeping the work costs the event loop: whether anything is unsaved, and a copy.
+void takenForKeeping(benchmark::State& state) {
+    SkinDocument document = mixedSkin(static_cast<int>(state.range(0)), {.menuOnly = true});
+    NoPlaces places;
+    History history(document, places);
+    history.startOver(true);
+    document.editElement(document.lastElementId(),
+                         [](Element& element) { element.elementControl.left += 1; });
+    for (auto _ : state) {
+        if (history.isChanged()) {
+            SkinDocument copy = document;
+            benchmark::DoNotOptimize(copy);
+        }
+    }
+}
+
 } // namespace
+
+BENCHMARK(takenForKeeping)
+    ->ArgName("elements")
+    ->Arg(10'000)
+    ->Arg(80'000)
+    ->Unit(benchmark::kMicrosecond);
 
 BENCHMARK(stepsKept)
     ->ArgNames({"elements", "modifiers"})
