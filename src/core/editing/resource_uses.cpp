@@ -9,7 +9,6 @@
 #include "text/text_case.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace tarvel {
@@ -77,12 +76,12 @@ bool isTakenByAnother(const std::vector<Resource>& resources, int resource, std:
 
 // From the front to the back, so that the rows of the others stay.
 void deleteElements(SkinDocument& document, const std::vector<Use>& uses) {
-    for (const Use& use : uses | std::views::reverse) {
+    std::for_each(uses.rbegin(), uses.rend(), [&](const Use& use) {
         if (document.currentLayout() != use.screen) {
             document.setCurrentLayout(use.screen);
         }
         deleteRow(document, use.row);
-    }
+    });
 }
 
 } // namespace
