@@ -27,7 +27,7 @@ ToolChoice::ToolChoice(const Parts& parts)
     connect(controller_.get(), &SurfaceController::aboutToDraw, this, &ToolChoice::refuseInvalid);
     connect(controller_.get(), &SurfaceController::toolGivenUp, this, [this] {
         if (parts_.tools.tool()) {
-            drawingEnded();
+            giveToolUp();
         } else {
             parts_.selection.clear();
         }
@@ -58,7 +58,7 @@ void ToolChoice::giveUp() {
     if (controller_->isWorking()) {
         controller_->cancelWork();
     } else {
-        drawingEnded();
+        giveToolUp();
     }
 }
 
@@ -74,13 +74,17 @@ void ToolChoice::drawingEnded() {
     // A drawing that was given up has left nothing selected, and a tool is kept until Escape only.
     const bool keeps = parts_.tools.isKept() && !parts_.selection.isEmpty();
     if (!keeps) {
-        letGo();
+        giveToolUp();
+        return;
     }
     views_->showSelection();
-    if (keeps) { // the next element gets what this one got
-        parts_.properties.takeValues(drawnWith_);
-        views_->showDifference();
-    }
+    parts_.properties.takeValues(drawnWith_); // the next element gets what this one got
+    views_->showDifference();
+}
+
+void ToolChoice::giveToolUp() {
+    letGo();
+    views_->showSelection();
 }
 
 // What is being drawn is selected too, and keeps its tool.

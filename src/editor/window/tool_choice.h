@@ -63,6 +63,7 @@ class ToolChoice : public QObject, private ToolHost, private SelectionObserver {
     void selectionChanged() override;
     void chooseTool(std::optional<ElementKind> kind);
     void letGo();
+    void giveToolUp();
     void refuseInvalid(ElementKind kind, bool& refuse);
 
     Parts parts_;

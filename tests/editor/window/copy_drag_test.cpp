@@ -191,7 +191,8 @@ void CopyDragTest::shiftAndSpaceKeepATool() {
 
 void CopyDragTest::aKeptToolIsLetGo_data() {
     QTest::addColumn<QString>("how");
-    for (const char* how : {"Escape", "Escape while drawing", "click", "another tool", "row"}) {
+    for (const char* how : {"Escape", "Escape after drawing", "Escape in the panel",
+                            "Escape while drawing", "click", "another tool", "row"}) {
         QTest::newRow(how) << how;
     }
 }
@@ -202,6 +203,11 @@ void CopyDragTest::aKeptToolIsLetGo() {
     doubleClick(editor, "optLine");
     if (how == "Escape") {
         editor.key(Qt::Key_Escape);
+    } else if (how == "Escape after drawing" || how == "Escape in the panel") {
+        editor.pressDragRelease({300, 300}, {350, 350}); // which stays selected
+        QTest::keyClick(editor.find<QWidget>(how.endsWith("panel") ? "cmdApply" : "Pic"),
+                        Qt::Key_Escape);
+        QCOMPARE(selectedRows(editor, 1), QList<int>({1}));
     } else if (how == "Escape while drawing") {
         editor.press({300, 300});
         editor.drag({350, 350});
