@@ -119,7 +119,9 @@ std::vector<Box> boxes(int count) {
         const QColor color(upTo(256), upTo(256), upTo(256), number % 2 == 0 ? 255 : 153);
         result.push_back({rect, color});
     }
-    result.back().rect = QRect(300, 220, 60, 40);
+    if (!result.empty()) {
+        result.back().rect = QRect(300, 220, 60, 40);
+    }
     return result;
 }
 
@@ -151,7 +153,7 @@ class PaintCount : public QObject {
     /// Lets pending events run until the widget is painted again, or nothing is left to be done.
     void wait() {
         const int before = count_;
-        constexpr int mostTurns = 1000;
+        constexpr int mostTurns = 20;
         for (int turn = 0; count_ == before && turn < mostTurns; ++turn) {
             QApplication::processEvents();
         }

@@ -130,6 +130,8 @@ class RecordingObserver : public DocumentObserver {
             return "element";
         case What::elements:
             return "elements";
+        case What::rowTexts:
+            return "rowTexts";
         case What::counts:
             return "counts";
         }

@@ -16,7 +16,8 @@ struct DocumentChange {
         rows,          ///< rows of `screen` came, went or changed places
         rowText,       ///< the text of the row of `elementId` on `screen`
         element,       ///< the record of `elementId`
-        elements,      ///< records and row texts of many elements, on whatever screens
+        elements,      ///< records of many elements, on whatever screens
+        rowTexts,      ///< texts of many rows, on whatever screens
         counts         ///< screenElementCount or lockCount of `screen`
     };
     What what = What::everything;

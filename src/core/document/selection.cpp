@@ -126,6 +126,7 @@ void Selection::documentChanged(const DocumentChange& change) {
     case DocumentChange::What::rowText:
     case DocumentChange::What::element:
     case DocumentChange::What::elements:
+    case DocumentChange::What::rowTexts:
     case DocumentChange::What::counts:
         break;
     }

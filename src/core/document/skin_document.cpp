@@ -133,17 +133,19 @@ void SkinDocument::showVersion(const SkinDocument& version, int screen) {
 
 void SkinDocument::tellOfElements(const std::vector<int>& ids,
                                   const std::vector<int>& relabelled) const {
-    constexpr std::size_t fewElements = 64; // cost less one by one than all at once
-    if (ids.size() > fewElements) {
-        tell({DocumentChange::What::elements});
-        return;
-    }
-    for (const int id : ids) {
-        tell({DocumentChange::What::element, element(id).elementLayout, id});
-    }
-    for (const int id : relabelled) {
-        tell({DocumentChange::What::rowText, element(id).elementLayout, id});
-    }
+    using What = DocumentChange::What;
+    const auto tellOfAll = [this](const std::vector<int>& some, What one, What many) {
+        constexpr std::size_t few = 64; // cost less one by one than all at once
+        if (some.size() > few) {
+            tell({many});
+            return;
+        }
+        for (const int id : some) {
+            tell({one, element(id).elementLayout, id});
+        }
+    };
+    tellOfAll(ids, What::element, What::elements);
+    tellOfAll(relabelled, What::rowText, What::rowTexts);
 }
 
 bool SkinDocument::holdsTheSame(const SkinDocument& other) const {

@@ -43,6 +43,7 @@ void PickIndex::documentChanged(const DocumentChange& change) {
         break;
     case What::settings:
     case What::rowText:
+    case What::rowTexts:
     case What::counts:
         break;
     }

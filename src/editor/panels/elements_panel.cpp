@@ -154,13 +154,14 @@ void ElementsPanel::showChange(const DocumentChange& change) {
         // when one is told to be different: too much for every move of a drag.
         model(change.screen).rowTextChanged(change.elementId);
         break;
-    case DocumentChange::What::elements:
+    case DocumentChange::What::rowTexts:
         for (ElementListModel* model : models_) {
             model->textsChanged();
         }
         break;
     case DocumentChange::What::settings:
     case DocumentChange::What::element:
+    case DocumentChange::What::elements:
     case DocumentChange::What::counts:
         break;
     }

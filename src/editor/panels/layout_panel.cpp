@@ -79,6 +79,7 @@ void LayoutPanel::documentChanged(const DocumentChange& change) {
     case DocumentChange::What::rowText:
     case DocumentChange::What::element:
     case DocumentChange::What::elements:
+    case DocumentChange::What::rowTexts:
         break;
     }
 }

@@ -20,6 +20,17 @@ QRectF rectOf(const Bounds& bounds) {
     return {bounds.across.start, bounds.down.start, bounds.across.length, bounds.down.length};
 }
 
+// Filled and opaque: stroked or blended, thousands of them take longer than their elements.
+void paintThinFrame(QPainter& painter, const QRect& frame) {
+    const QColor color = markColor().darker(130);
+    const int width = frame.width();
+    const int height = frame.height();
+    painter.fillRect(frame.left(), frame.top(), width, 1, color);
+    painter.fillRect(frame.left(), frame.bottom(), width, 1, color);
+    painter.fillRect(frame.left(), frame.top(), 1, height, color);
+    painter.fillRect(frame.right(), frame.top(), 1, height, color);
+}
+
 constexpr std::array handles = {Handle::topLeft,    Handle::top,         Handle::topRight,
                                 Handle::right,      Handle::bottomRight, Handle::bottom,
                                 Handle::bottomLeft, Handle::left};
@@ -41,8 +52,7 @@ void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
         if (each.elementId != leading) {
             // Places may be as far out as numbers go, what is painted may not.
             const QRectF rect = nearSurface(rectOf(boundsOf(each)));
-            frames_.push_back(
-                surface_.mapping().toWidget(rect).toAlignedRect().adjusted(0, 0, -1, -1));
+            frames_.push_back(surface_.mapping().toWidget(rect).toAlignedRect());
         }
     }
     around_ = commonFrame(elements);
@@ -54,9 +64,9 @@ void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
 
 void GroupMarks::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    // An opaque colour: blending thousands of lines takes as long as all elements together.
-    painter.setPen(QPen(markColor().darker(130), 1));
-    painter.drawRects(frames_);
+    for (const QRect& frame : frames_) {
+        paintThinFrame(painter, frame);
+    }
     const Place& place = around_;
     const QRectF around =
         surface_.mapping().toWidget(nearSurface(QRectF(place[0], place[1], place[2], place[3])));

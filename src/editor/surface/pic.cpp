@@ -103,6 +103,7 @@ void Pic::documentChanged(const DocumentChange& change) {
         }
         break;
     case What::rowText:
+    case What::rowTexts:
     case What::counts:
         break;
     }

@@ -30,7 +30,8 @@ void CommandWatch::refresh() {
 void CommandWatch::documentChanged(const DocumentChange& change) {
     const bool isOfElements = change.what == DocumentChange::What::element ||
                               change.what == DocumentChange::What::elements ||
-                              change.what == DocumentChange::What::rowText;
+                              change.what == DocumentChange::What::rowText ||
+                              change.what == DocumentChange::What::rowTexts;
     if (mayWork() && (!isOfElements || !mightWork_)) {
         refresh();
     }

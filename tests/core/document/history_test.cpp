@@ -371,7 +371,7 @@ TEST(ShowVersion, TellsOfManyElementsAtOnce) {
     test::RecordingObserver observer;
     const DocumentWatch watch = document.watch(observer);
     document.showVersion(before, 1);
-    EXPECT_EQ(observer.notes, std::vector<std::string>{"elements -1 -1"});
+    EXPECT_EQ(observer.notes, (std::vector<std::string>{"elements -1 -1", "rowTexts -1 -1"}));
     EXPECT_EQ(document, before);
 }
 

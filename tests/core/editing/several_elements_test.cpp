@@ -103,7 +103,8 @@ TEST(ManyElements, AreToldOfAtOnce) {
     EXPECT_EQ(observer.notes.back(), "counts 1 -1");
     observer.notes.clear();
     unlockRows(document);
-    EXPECT_EQ(observer.notes, (std::vector<std::string>{"elements -1 -1", "counts 1 -1"}));
+    EXPECT_EQ(observer.notes,
+              (std::vector<std::string>{"elements -1 -1", "rowTexts -1 -1", "counts 1 -1"}));
     EXPECT_EQ(document.rowText(1, 3), "A");
 }
 
