@@ -69,10 +69,9 @@ void ElementsPanel::lst_Click(int screen) {
         selection_.select(rows.empty() ? -1 : rows.front());
         return;
     }
-    std::vector<int> chosen;
-    for (const int row : rows) {
-        chosen.push_back(document_.itemData(screen, row));
-    }
+    std::vector<int> chosen(rows.size());
+    std::transform(rows.begin(), rows.end(), chosen.begin(),
+                   [&](int row) { return document_.itemData(screen, row); });
     std::vector<int> ids;
     const std::unordered_set<int> isChosen(chosen.begin(), chosen.end());
     std::copy_if(selection_.ids().begin(), selection_.ids().end(), std::back_inserter(ids),
