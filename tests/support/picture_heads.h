@@ -6,15 +6,17 @@
 
 namespace tarvel::test {
 
-inline std::string bigEndian(std::uint32_t number, int bytes) {
-    std::string text;
-    for (int shift = 8 * (bytes - 1); shift >= 0; shift -= 8) {
-        text += static_cast<char>(number >> static_cast<unsigned>(shift) & 0xFFU);
+/// As many bytes as are asked for, zeros in front.
+inline std::string bigEndian(std::uint32_t number, std::size_t bytes) {
+    std::string text(bytes, '\0');
+    for (auto byte = text.rbegin(); byte != text.rend(); ++byte) {
+        *byte = static_cast<char>(number & 0xFFU);
+        number >>= 8U;
     }
     return text;
 }
 
-inline std::string littleEndian(std::uint32_t number, int bytes) {
+inline std::string littleEndian(std::uint32_t number, std::size_t bytes) {
     const std::string text = bigEndian(number, bytes);
     return {text.rbegin(), text.rend()};
 }

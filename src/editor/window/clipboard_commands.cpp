@@ -60,10 +60,9 @@ std::vector<int> rowsToCut(const SkinDocument& document, const Selection& select
 }
 
 std::vector<int> idsOf(const SkinDocument& document, const std::vector<int>& rows) {
-    std::vector<int> ids;
-    for (const int row : rows) {
-        ids.push_back(document.itemData(document.currentLayout(), row));
-    }
+    std::vector<int> ids(rows.size());
+    std::transform(rows.begin(), rows.end(), ids.begin(),
+                   [&](int row) { return document.itemData(document.currentLayout(), row); });
     return ids;
 }
 

@@ -87,8 +87,7 @@ QMenu* contextMenu(QMainWindow& window, const QString& name) {
 } // namespace
 
 MainMenus::MainMenus(QMainWindow& window)
-    : mnuArrange_(nullptr)
-    , mnuRight_(contextMenu(window, QStringLiteral("mnuRight")))
+    : mnuRight_(contextMenu(window, QStringLiteral("mnuRight")))
     , mnuRight2_(contextMenu(window, QStringLiteral("mnuRight2"))) {
     for (const auto& [name, caption] : barMenus) {
         QMenu* menu = window.menuBar()->addMenu(QLatin1String(caption));

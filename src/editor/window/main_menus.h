@@ -71,7 +71,7 @@ class MainMenus {
     QAction* mnuModifier0_ = nullptr;
     QAction* mnuModifier1_ = nullptr;
     QAction* mnuModifier2_ = nullptr;
-    QMenu* mnuArrange_;
+    QMenu* mnuArrange_ = nullptr;
     QMenu* mnuRight_;
     QMenu* mnuRight2_;
 };
