@@ -111,10 +111,16 @@ void RecoveryKeeper::keepEnded(const QString& problem) {
 bool RecoveryKeeper::keepNow() {
     soon_.stop();
     thread_.waitForDone();
-    if (ended_ || !work_.history.isChanged()) {
+    if (ended_) {
         return true;
     }
-    keepEnded(problemOf([this] { store_.keep(stateNow()); }));
+    keepEnded(problemOf([this] {
+        if (work_.history.isChanged()) {
+            store_.keep(stateNow());
+        } else {
+            store_.keepNothing(); // what was kept a moment ago is lost by nobody
+        }
+    }));
     return lastProblem_.isEmpty();
 }
 

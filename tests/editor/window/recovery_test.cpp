@@ -77,6 +77,7 @@ class RecoveryTest : public QObject {
     void keepsWhatIsBeingDrawn();
     void keepsNothingThatIsSaved();
     void keepsTheWorkAtOnceWhenAsked();
+    void keepsNothingAtOnceThatWasUndone();
     void endsWithoutAFile();
     void staysOpenWithItsFile();
     void bringsBackWhatWasLost();
@@ -144,6 +145,17 @@ void RecoveryTest::keepsTheWorkAtOnceWhenAsked() {
     editor.window.keepWorkNow();
     QCOMPARE(editor.files().size(), std::size_t{1});
     QVERIFY(RecoveryStore::read(editor.files().front()).document == editor.document());
+}
+
+void RecoveryTest::keepsNothingAtOnceThatWasUndone() {
+    KeptEditor editor;
+    editor.begin();
+    editor.draw();
+    editor.window.keepWorkNow();
+    QCOMPARE(editor.files().size(), std::size_t{1});
+    editor.entry("mnuUndo")->trigger();
+    editor.window.keepWorkNow(); // as for a signal in the same moment
+    QVERIFY(editor.files().empty());
 }
 
 void RecoveryTest::endsWithoutAFile() {
