@@ -56,8 +56,10 @@ TEST(HeldFile, IsNeverHeldTwiceWhileHoldersDeleteIt) {
     std::atomic<int> holders = 0;
     std::atomic<int> holds = 0;
     std::atomic<bool> together = false;
+    // How many tries a hold takes is the scheduler's: what ends the work are the holds.
+    constexpr int enough = 500;
     const auto work = [&] {
-        for (int i = 0; i < 3000; ++i) {
+        while (holds < enough) {
             if (auto held = HeldFile::tryHold(folder / "lock")) {
                 together = ++holders != 1 || together;
                 ++holds;
@@ -76,7 +78,6 @@ TEST(HeldFile, IsNeverHeldTwiceWhileHoldersDeleteIt) {
         other.join();
     }
     EXPECT_FALSE(together);
-    EXPECT_GT(holds, 100);
 }
 
 TEST(HeldFile, SaysWhyItCannotBe) {
