@@ -15,6 +15,7 @@ namespace {
 constexpr ColorNumber noColor = 0x01000000U; // one more than the last colour
 constexpr Swatch noSwatch{FillStyle::solid, noColor};
 constexpr int noResource = -2; // not even none
+constexpr int noEntry = -1;
 
 PanelValues valuesOf(const SkinDocument& document, const Element& element) {
     PanelValues values;
@@ -27,6 +28,42 @@ PanelLayout layoutOf(const Element& element) {
     return editControls(element.elementControl.kind, values);
 }
 
+// Menu is a MenuFrame, constant or not.
+template <class Menu> auto settingsOf(Menu& menu) {
+    return std::tie(menu.thumbnailsVisible, menu.smoothScroll, menu.glowSelected,
+                    menu.showDescription, menu.scrollFactor, menu.itemsShown, menu.titleAlignment,
+                    menu.descriptionAlignment, menu.selectedTitleColor, menu.unselectedTitleColor,
+                    menu.selectedDescriptionColor, menu.unselectedDescriptionColor);
+}
+
+auto partsOf(MenuFrame& menu) {
+    return std::tuple_cat(settingsOf(menu), std::tie(menu.titlePreview, menu.descPreview));
+}
+
+// Calls `visit` with each setting's position, and with it in all of the frames.
+template <class Visit, class... Menus> void forEachSetting(Visit&& visit, Menus&... menus) {
+    [&]<std::size_t... i>(std::index_sequence<i...> /*settings*/) {
+        const auto at = [&]<std::size_t which>(std::integral_constant<std::size_t, which>) {
+            visit(which, std::get<which>(settingsOf(menus))...);
+        };
+        (at(std::integral_constant<std::size_t, i>()), ...);
+    }
+    (std::make_index_sequence<std::tuple_size_v<decltype(VariousParts::menu)>>());
+}
+
+void becomeVarious(CheckValue& check) {
+    check = CheckValue::various();
+}
+void becomeVarious(std::string& number) {
+    number.clear();
+}
+void becomeVarious(int& entry) {
+    entry = noEntry;
+}
+void becomeVarious(ColorNumber& color) {
+    color = noColor;
+}
+
 void note(VariousParts& various, const PanelLayout& layout, const PanelValues& values,
           const PanelValues& leading) {
     various.border |= layout.borderColor && values.border != leading.border;
@@ -35,20 +72,17 @@ void note(VariousParts& various, const PanelLayout& layout, const PanelValues& v
     various.text |= layout.text && values.text != leading.text;
     various.font |= layout.text && !(values.font == leading.font);
     various.resource |= layout.resource && values.resource != leading.resource;
+    if (layout.menu) {
+        forEachSetting([&](std::size_t at, const auto& value,
+                           const auto& leads) { various.menu.at(at) |= !(value == leads); },
+                       values.menu, leading.menu);
+    }
 }
 
 template <class T> void takeChange(T& value, const T& before, const T& now) {
     if (!(before == now)) {
         value = now;
     }
-}
-
-auto partsOf(MenuFrame& menu) {
-    return std::tie(menu.thumbnailsVisible, menu.smoothScroll, menu.glowSelected,
-                    menu.showDescription, menu.scrollFactor, menu.itemsShown, menu.titleAlignment,
-                    menu.descriptionAlignment, menu.selectedTitleColor, menu.unselectedTitleColor,
-                    menu.selectedDescriptionColor, menu.unselectedDescriptionColor,
-                    menu.titlePreview, menu.descPreview);
 }
 
 auto partsOf(PanelValues& values) {
@@ -117,6 +151,10 @@ bool isVarious(const Swatch& swatch) {
     return swatch == noSwatch;
 }
 
+bool isVarious(ColorNumber color) {
+    return color == noColor;
+}
+
 bool isVarious(const FontChoice& font) {
     return font.family.empty();
 }
@@ -138,6 +176,9 @@ VariousParts variousParts(const SkinDocument& document, const std::vector<int>& 
     various.text &= shown.text;
     various.font &= shown.text;
     various.resource &= shown.resource;
+    if (!shown.menu) {
+        various.menu = {};
+    }
     return various;
 }
 
@@ -156,6 +197,12 @@ PanelValues withoutVarious(const PanelValues& values, const VariousParts& variou
     if (various.font) {
         result.font.family.clear();
     }
+    const auto replace = [&](std::size_t at, auto& setting) {
+        if (various.menu.at(at)) {
+            becomeVarious(setting);
+        }
+    };
+    forEachSetting(replace, result.menu);
     return result;
 }
 
@@ -174,6 +221,13 @@ PanelValues withLeading(PanelValues values, const VariousParts& various,
     putBack(various.text, &PanelValues::text);
     putBack(various.font, &PanelValues::font);
     putBack(various.resource, &PanelValues::resource);
+    const auto putSettingBack = [&](std::size_t at, auto& setting, const auto& shown,
+                                    const auto& leads) {
+        if (various.menu.at(at) && setting == shown) {
+            setting = leads;
+        }
+    };
+    forEachSetting(putSettingBack, values.menu, none.menu, leading.menu);
     return values;
 }
 

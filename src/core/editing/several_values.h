@@ -5,6 +5,7 @@
 #include "document/skin_document.h"
 #include "editing/panel_values.h"
 
+#include <array>
 #include <string_view>
 #include <vector>
 
@@ -21,6 +22,8 @@ struct VariousParts {
     bool text = false;
     bool font = false;
     bool resource = false;
+    /// The settings of item menus, in the order in which MenuFrame has them, without the previews.
+    std::array<bool, 12> menu{};
 
     bool operator==(const VariousParts&) const = default;
 };
@@ -31,9 +34,11 @@ struct VariousParts {
                                         const PanelValues& leading);
 
 /// The values with those that differ replaced by some that nobody can choose, so that each choice
-/// is a change: empty texts and fonts, colours beyond all colours, no resource.
+/// is a change: empty texts and fonts, colours beyond all colours, no resource, check boxes that are
+/// neither on nor off, entries before the first.
 [[nodiscard]] PanelValues withoutVarious(const PanelValues& values, const VariousParts& various);
 /// Whether a colour or font is one of these.
+[[nodiscard]] bool isVarious(ColorNumber color);
 [[nodiscard]] bool isVarious(const Swatch& swatch);
 [[nodiscard]] bool isVarious(const FontChoice& font);
 /// Puts the leading element's values back where those of withoutVarious() still stand.

@@ -2,6 +2,7 @@
 #include "panels/menu_settings_frame.h"
 
 #include "document/kinds/panel_texts.h"
+#include "editing/several_values.h"
 #include "widgets/color_well.h"
 #include "widgets/control_names.h"
 #include "widgets/drop_down.h"
@@ -41,6 +42,10 @@ Qt::Alignment qtAlignment(TextAlignment alignment) {
 QColor groundFor(const QColor& text) {
     constexpr int tooDark = 72;
     return qGray(text.rgb()) < tooDark ? QColor(208, 208, 208) : QColor(Qt::black);
+}
+
+QString various() {
+    return qtText(variousText);
 }
 
 QLabel* headLabel(std::string_view text) {
@@ -149,11 +154,12 @@ QLayout* MenuSettingsFrame::checksAndNumbers() {
 }
 
 QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,
-                                       bool MenuFrame::*value) {
+                                       CheckValue MenuFrame::*value) {
     auto* box = new QCheckBox(qtText(text));
     named(box, QLatin1String(name), box->text());
-    connect(box, &QCheckBox::clicked, this, [this, value](bool on) {
+    connect(box, &QCheckBox::clicked, this, [this, box, value](bool on) {
         values_.*value = on;
+        showCheck({box, value});
         emit changed();
     });
     checks_.push_back({box, value});
@@ -163,7 +169,9 @@ QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,
 QLineEdit* MenuSettingsFrame::addNumber(const char* name, const QString& spoken,
                                         std::string MenuFrame::*value) {
     auto* edit = named(new FieldEdit, QLatin1String(name), spoken);
-    edit->setFixedWidth(QFontMetrics(font()).horizontalAdvance(QStringLiteral("000000")));
+    const QFontMetrics metrics(font());
+    edit->setFixedWidth(std::max(metrics.horizontalAdvance(QStringLiteral("000000")),
+                                 metrics.horizontalAdvance(various() + QStringLiteral("0"))));
     connect(edit, &QLineEdit::textEdited, this, [this, value](const QString& text) {
         values_.*value = coreText(text);
         emit changed();
@@ -197,6 +205,7 @@ void MenuSettingsFrame::addGroup(QBoxLayout& column, const Group& group) {
 QComboBox* MenuSettingsFrame::addAlignment(const Group& group) {
     auto* list = named(new DropDown, QLatin1String(group.list), group.spoken);
     list->view()->setAccessibleName(group.spoken);
+    list->setPlaceholderText(various());
     for (const std::string_view entry : alignmentEntries) {
         list->addItem(qtText(entry));
     }
@@ -216,6 +225,7 @@ QLayout* MenuSettingsFrame::colorRow(const Group& group, std::size_t which) {
     row->addWidget(well);
     const Color color{.well = well,
                       .preview = previewLabel(names.label, names.text),
+                      .text = qtText(names.text),
                       .value = names.value,
                       .alignment = group.preview};
     row->addWidget(color.preview, 1);
@@ -232,32 +242,45 @@ void MenuSettingsFrame::ask(const Color& color) {
     }
 }
 
+void MenuSettingsFrame::showCheck(const Check& check) {
+    const CheckValue value = values_.*check.value;
+    check.box->setTristate(value.isVarious());
+    check.box->setCheckState(value.isVarious() ? Qt::PartiallyChecked
+                             : value           ? Qt::Checked
+                                               : Qt::Unchecked);
+    check.box->setAccessibleDescription(value.isVarious() ? various() : QString());
+    check.box->setToolTip(check.box->accessibleDescription());
+}
+
+void MenuSettingsFrame::showNumber(const Number& number) {
+    const QString text = qtText(values_.*number.value);
+    if (number.edit->text() != text) {
+        number.edit->setText(text);
+    }
+    number.edit->setPlaceholderText(text.isEmpty() ? various() : QString());
+}
+
 void MenuSettingsFrame::showColor(const Color& color) {
     const ColorNumber number = values_.*color.value;
-    color.well->setSwatch({FillStyle::solid, number});
-    QPalette colors = color.preview->palette();
-    colors.setColor(QPalette::WindowText, qtColor(number));
-    colors.setColor(QPalette::Window, groundFor(qtColor(number)));
+    const bool differs = isVarious(number);
+    color.well->setSwatch(differs ? Swatch() : Swatch{FillStyle::solid, number});
+    color.preview->setText(differs ? various() : color.text);
+    QPalette colors;
+    if (!differs) {
+        colors.setColor(QPalette::WindowText, qtColor(number));
+        colors.setColor(QPalette::Window, groundFor(qtColor(number)));
+    }
     color.preview->setPalette(colors);
     color.preview->setAlignment(qtAlignment(values_.*color.alignment));
 }
 
 void MenuSettingsFrame::refresh() {
-    for (const Check& check : checks_) {
-        check.box->setChecked(values_.*check.value);
-    }
-    for (const Number& number : numbers_) {
-        const QString text = qtText(values_.*number.value);
-        if (number.edit->text() != text) {
-            number.edit->setText(text);
-        }
-    }
+    std::ranges::for_each(checks_, [this](const Check& check) { showCheck(check); });
+    std::ranges::for_each(numbers_, [this](const Number& number) { showNumber(number); });
     for (const Alignment& alignment : alignments_) {
         alignment.list->setCurrentIndex(values_.*alignment.value);
     }
-    for (const Color& color : colors_) {
-        showColor(color);
-    }
+    std::ranges::for_each(colors_, [this](const Color& color) { showColor(color); });
 }
 
 } // namespace tarvel

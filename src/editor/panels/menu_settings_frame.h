@@ -19,7 +19,8 @@ namespace tarvel {
 class ColorWell;
 class Prompts;
 
-/// Shows a MenuFrame, and puts into it what the user does. Neither it nor the prompts are owned.
+/// Shows a MenuFrame, and puts into it what the user does; of several menus, what differs as
+/// "various". Neither it nor the prompts are owned.
 class MenuSettingsFrame : public QGroupBox {
     Q_OBJECT
 
@@ -36,7 +37,7 @@ class MenuSettingsFrame : public QGroupBox {
   private:
     struct Check {
         QCheckBox* box;
-        bool MenuFrame::*value;
+        CheckValue MenuFrame::*value;
     };
     struct Number {
         QLineEdit* edit;
@@ -46,6 +47,7 @@ class MenuSettingsFrame : public QGroupBox {
     struct Color {
         ColorWell* well;
         QLabel* preview;
+        QString text;
         ColorNumber MenuFrame::*value;
         TextAlignment MenuFrame::*alignment;
     };
@@ -57,12 +59,14 @@ class MenuSettingsFrame : public QGroupBox {
     struct Group;
 
     QLayout* checksAndNumbers();
-    QCheckBox* addCheck(const char* name, std::string_view text, bool MenuFrame::*value);
+    QCheckBox* addCheck(const char* name, std::string_view text, CheckValue MenuFrame::*value);
     QLineEdit* addNumber(const char* name, const QString& spoken, std::string MenuFrame::*value);
     void addGroup(QBoxLayout& column, const Group& group);
     QComboBox* addAlignment(const Group& group);
     QLayout* colorRow(const Group& group, std::size_t which);
     void ask(const Color& color);
+    void showCheck(const Check& check);
+    void showNumber(const Number& number);
     void showColor(const Color& color);
 
     MenuFrame& values_;

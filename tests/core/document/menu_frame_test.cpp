@@ -75,13 +75,13 @@ TEST(ShowMenuSettings, ShowsEachBooleanInItsOwnBox) {
                            .smoothScroll = false,
                            .glowSelected = false,
                            .showDescription = false};
+    using Boxes = std::array<bool, 4>;
     const auto boxes = [](const MenuSettings& settings) {
         MenuFrame frame;
         showMenuSettings(settings, frame);
-        return std::array{frame.thumbnailsVisible, frame.smoothScroll, frame.glowSelected,
-                          frame.showDescription};
+        return Boxes{frame.thumbnailsVisible, frame.smoothScroll, frame.glowSelected,
+                     frame.showDescription};
     };
-    using Boxes = std::array<bool, 4>;
     MenuSettings settings = off;
     settings.thumbnailsVisible = true;
     EXPECT_EQ(boxes(settings), (Boxes{true, false, false, false}));

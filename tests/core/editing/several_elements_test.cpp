@@ -213,6 +213,18 @@ PanelValues panelOf(const SkinDocument& document, int id) {
     return values;
 }
 
+SkinDocument menus(const std::vector<MenuSettings>& settings) {
+    SkinDocument document;
+    for (const MenuSettings& each : settings) {
+        Element menu;
+        menu.elementKind = ElementKind::Menu;
+        menu.elementControl.kind = ControlKind::qor;
+        menu.menuSettings = SharedValue(each);
+        document.addElement(std::move(menu));
+    }
+    return document;
+}
+
 VariousParts variousOf(const SkinDocument& document, const Ids& ids) {
     return variousParts(document, ids, panelOf(document, ids.back()));
 }
@@ -245,6 +257,61 @@ TEST(SeveralValues, ShowsNothingThatCouldBeChosenInItsPlace) {
     EXPECT_EQ(back.opacity, "100"); // clearing a fill sets it
     EXPECT_EQ(back.resource, leading.resource);
     EXPECT_EQ(withoutVarious(leading, {}), leading);
+}
+
+TEST(SeveralValues, TellWhichSettingsOfMenusDiffer) {
+    const MenuSettings first;
+    struct Case {
+        const char* name;
+        std::size_t part;
+        void (*change)(MenuSettings&);
+    };
+    constexpr auto other = "255";
+    const std::vector<Case> cases = {
+        {"thumbnails", 0, [](MenuSettings& menu) { menu.thumbnailsVisible ^= true; }},
+        {"scrolling", 1, [](MenuSettings& menu) { menu.smoothScroll ^= true; }},
+        {"glow", 2, [](MenuSettings& menu) { menu.glowSelected ^= true; }},
+        {"descriptions", 3, [](MenuSettings& menu) { menu.showDescription ^= true; }},
+        {"factor", 4, [](MenuSettings& menu) { menu.scrollFactor = 7; }},
+        {"items", 5, [](MenuSettings& menu) { menu.itemsShown = 8; }},
+        {"titles", 6, [](MenuSettings& menu) { menu.titleAlignment = "Center"; }},
+        {"descriptions' alignment", 7,
+         [](MenuSettings& menu) { menu.descriptionAlignment = "Center"; }},
+        {"selected title", 8, [](MenuSettings& menu) { menu.selectedTitleColor = other; }},
+        {"other titles", 9, [](MenuSettings& menu) { menu.unselectedTitleColor = other; }},
+        {"selected description", 10,
+         [](MenuSettings& menu) { menu.selectedDescriptionColor = other; }},
+        {"other descriptions", 11,
+         [](MenuSettings& menu) { menu.unselectedDescriptionColor = other; }},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.name);
+        MenuSettings second = first;
+        each.change(second);
+        const SkinDocument document = menus({first, second, first});
+        const PanelValues leading = panelOf(document, 1);
+        VariousParts expected;
+        expected.menu.at(each.part) = true;
+        const VariousParts various = variousOf(document, {2, 3, 1});
+        EXPECT_EQ(various, expected);
+        const PanelValues shown = withoutVarious(leading, various);
+        EXPECT_FALSE(shown.menu == leading.menu);
+        EXPECT_EQ(withLeading(shown, various, leading), leading);
+    }
+}
+
+TEST(ApplyChanged, GivesMenusWhatTheLeadingOneHasAlready) {
+    MenuSettings second;
+    second.glowSelected = !second.glowSelected;
+    SkinDocument document = menus({MenuSettings(), second});
+    const PanelValues leading = panelOf(document, 2);
+    const PanelValues before = withoutVarious(leading, variousOf(document, {1, 2}));
+    EXPECT_TRUE(before.menu.glowSelected.isVarious());
+    PanelValues now = before;
+    now.menu.glowSelected = second.glowSelected;
+    EXPECT_TRUE(applyChanged(document, {1, 2}, before, now));
+    EXPECT_EQ(document.element(1).menuSettings, document.element(2).menuSettings);
+    EXPECT_EQ(document.element(1).menuSettings->glowSelected, second.glowSelected);
 }
 
 TEST(ApplyChanged, GivesOnlyWhatWasChangedToThoseThatHaveIt) {
@@ -287,16 +354,7 @@ TEST(ApplyChanged, KeepsThePrefixOfLockedRows) {
 }
 
 TEST(ApplyChanged, TakesSingleSettingsOfMenus) {
-    SkinDocument document;
-    for (const int shown : {4, 9}) {
-        Element menu;
-        menu.elementKind = ElementKind::Menu;
-        menu.elementControl.kind = ControlKind::qor;
-        MenuSettings settings;
-        settings.itemsShown = static_cast<std::int16_t>(shown);
-        menu.menuSettings = SharedValue(settings);
-        document.addElement(std::move(menu));
-    }
+    SkinDocument document = menus({{.itemsShown = 4}, {.itemsShown = 9}});
     const PanelValues leading = panelOf(document, 2);
     PanelValues now = leading;
     now.menu.glowSelected = !now.menu.glowSelected;

@@ -12,12 +12,35 @@ namespace tarvel {
 /// The entries of both alignment choosers; the position is the TextAlignment.
 inline constexpr std::array<std::string_view, 3> alignmentEntries = {"Left", "Right", "Center"};
 
+/// A check box: on, off, or neither where several menus differ. Reads as off then.
+class CheckValue {
+  public:
+    // It stands wherever a plain "on" does.
+    constexpr CheckValue(bool on) // NOLINT(google-explicit-constructor)
+        : on_(on) {}
+    [[nodiscard]] static constexpr CheckValue various() {
+        CheckValue value(false);
+        value.various_ = true;
+        return value;
+    }
+
+    constexpr operator bool() const { return on_; } // NOLINT(google-explicit-constructor)
+    [[nodiscard]] constexpr bool isVarious() const { return various_; }
+
+    bool operator==(const CheckValue&) const = default;
+    bool operator==(bool on) const { return !various_ && on_ == on; }
+
+  private:
+    bool on_;
+    bool various_ = false;
+};
+
 /// An item menu's settings as they are typed and chosen; at first those of a new menu.
 struct MenuFrame {
-    bool thumbnailsVisible = true;
-    bool smoothScroll = true;
-    bool glowSelected = false;
-    bool showDescription = true;
+    CheckValue thumbnailsVisible = true;
+    CheckValue smoothScroll = true;
+    CheckValue glowSelected = false;
+    CheckValue showDescription = true;
     std::string scrollFactor = "3"; ///< as typed
     std::string itemsShown = "5";   ///< as typed
     int titleAlignment = 0;         ///< position in alignmentEntries
