@@ -19,6 +19,7 @@ namespace tarvel {
 namespace {
 
 constexpr int gap = 8; // pixels between the words of a row
+constexpr auto filled = "filled";
 
 // Red enough to be seen, and still to be read, on light and on dark ground.
 QColor missingColor(const QPalette& palette) {
@@ -110,6 +111,10 @@ QWidget* ResourceRowDelegate::createEditor(QWidget* parent, const QStyleOptionVi
 }
 
 void ResourceRowDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    if (editor->property(filled).toBool()) {
+        return; // the row changed meanwhile, as when its thumbnail arrives: what is typed stays
+    }
+    editor->setProperty(filled, true);
     auto* edit = static_cast<QLineEdit*>(editor);
     edit->setText(start_.isNull() ? index.data(Qt::EditRole).toString() : start_);
     start_ = {};

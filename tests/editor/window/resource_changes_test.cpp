@@ -59,6 +59,7 @@ class ResourceChangesTest : public QObject {
 
   private slots:
     void aNewNameReachesPickerAndRows();
+    void aNewNameOutlastsChangesOfItsRow();
     void elementsGoWithTheirResource();
     void allIsOneStep();
     void aFoundFileIsSeenOnTheSurface();
@@ -101,6 +102,20 @@ void ResourceChangesTest::aNewNameReachesPickerAndRows() {
     }));
     QCOMPARE(rowsOf(editor, 1), (QStringList{"Image: night", "Image: logo"}));
     QCOMPARE(rowsOf(editor, 3), QStringList{"Image: night"});
+}
+
+void ResourceChangesTest::aNewNameOutlastsChangesOfItsRow() {
+    Editor editor;
+    fill(editor);
+    QVERIFY(inDialog(editor, "mnuResource", "frmResources", [&](QWidget& dialog) {
+        auto& list = control<QListWidget>(dialog, "lstRes");
+        clickRow(list, 0);
+        press(dialog, Qt::Key_F2);
+        QTest::keyClicks(dialog.focusWidget(), "night");
+        list.item(0)->setData(Qt::UserRole, 1); // as when a thumbnail arrives
+        press(dialog, Qt::Key_Return);
+        QTRY_COMPARE(pickerTexts(editor), (QStringList{"night", "logo"}));
+    }));
 }
 
 void ResourceChangesTest::elementsGoWithTheirResource() {
