@@ -34,8 +34,8 @@ struct VariousParts {
                                         const PanelValues& leading);
 
 /// The values with those that differ replaced by some that nobody can choose, so that each choice
-/// is a change: empty texts and fonts, colours beyond all colours, no resource, check boxes that are
-/// neither on nor off, entries before the first.
+/// is a change: empty texts and fonts, colours beyond all colours, no resource, check boxes that
+/// are neither on nor off, entries before the first.
 [[nodiscard]] PanelValues withoutVarious(const PanelValues& values, const VariousParts& various);
 /// Whether a colour or font is one of these.
 [[nodiscard]] bool isVarious(ColorNumber color);

@@ -2,9 +2,9 @@
 #include "panels/behaviour_buttons.h"
 
 #include "widgets/control_names.h"
+#include "widgets/wrap_layout.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QPushButton>
 
 namespace tarvel {
@@ -30,7 +30,7 @@ BehaviourButtons::BehaviourButtons(std::array<QAction*, count> menuEntries, QWid
     : QWidget(parent)
     , mnuModifier_(menuEntries) {
     setObjectName(QStringLiteral("fraBehaviour"));
-    auto* row = new QHBoxLayout(this);
+    auto* row = new WrapLayout(WrapLayout::Fill::evenly, this);
     row->setContentsMargins(0, 0, 0, 0);
     for (int i = 0; i < count; ++i) {
         const auto at = static_cast<std::size_t>(i);

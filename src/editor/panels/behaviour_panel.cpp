@@ -3,6 +3,7 @@
 
 #include "document/open_edit.h"
 #include "editing/step_names.h"
+#include "widgets/content_scroll.h"
 #include "widgets/control_names.h"
 
 #include <QKeyEvent>
@@ -20,6 +21,7 @@ namespace {
 
 constexpr qreal cornerRadius = 6;
 constexpr int margin = 14;
+constexpr int spacing = 10;
 
 QColor between(const QColor& a, const QColor& b, float share) {
     const auto mixed = [share](float from, float to) { return from + (to - from) * share; };
@@ -34,11 +36,16 @@ BehaviourPanel::BehaviourPanel(SkinDocument& document, std::string_view step, co
     : QFrame(parent)
     , document_(document)
     , step_(step)
-    , rows_(new QVBoxLayout(this)) {
+    , column_(new QVBoxLayout(this)) {
     hide();
     setObjectName(name);
-    rows_->setContentsMargins(margin, margin, margin, margin);
-    rows_->setSpacing(10);
+    column_->setContentsMargins(margin, margin, margin, margin);
+    column_->setSpacing(spacing);
+    auto* content = new QWidget;
+    rows_ = new QVBoxLayout(content);
+    rows_->setContentsMargins(0, 0, 0, 0);
+    rows_->setSpacing(spacing);
+    column_->addWidget(new ContentScroll(content, ContentScroll::Ways::both), 1);
     auto* title = new QLabel(heading);
     QFont bold = title->font();
     bold.setBold(true);
@@ -51,7 +58,7 @@ void BehaviourPanel::addOk(const QString& name, const QString& deed) {
     cmdOK_ = named(new QPushButton(caption), name, QStringLiteral("%1: %2").arg(caption, deed));
     connect(cmdOK_, &QPushButton::clicked, this, &BehaviourPanel::ok);
     rows_->addStretch(1);
-    rows_->addWidget(cmdOK_, 0, Qt::AlignRight);
+    column_->addWidget(cmdOK_, 0, Qt::AlignRight);
 }
 
 void BehaviourPanel::open(const std::vector<int>& elementIds) {

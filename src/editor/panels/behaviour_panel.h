@@ -73,7 +73,8 @@ class BehaviourPanel : public QFrame {
     std::vector<int> elementIds_; // the last one is shown
     Element untouched_;           // that one after an OK without a change
     std::vector<Element> before_; // all of them before storeNow()
-    QVBoxLayout* rows_;
+    QVBoxLayout* column_;
+    QVBoxLayout* rows_ = nullptr; // in it, what scrolls in a low window
     QPushButton* cmdOK_ = nullptr;
     QWidget* firstControl_ = nullptr;
 };

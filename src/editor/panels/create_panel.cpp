@@ -4,8 +4,8 @@
 #include "surface/element_looks.h"
 #include "widgets/accessible_roles.h"
 #include "widgets/control_names.h"
+#include "widgets/wrap_layout.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QToolButton>
@@ -32,7 +32,7 @@ bool asksToKeep(const QEvent& event) {
 CreatePanel::CreatePanel(QWidget* parent)
     : QGroupBox(QStringLiteral("CREATE"), parent) {
     named(this, QStringLiteral("fraCreate"), tr("Create elements"));
-    auto* row = new QHBoxLayout(this);
+    auto* row = new WrapLayout(WrapLayout::Fill::none, this);
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const KindLook::Tool& tool = kindLooks[i]->tool;
         auto* button = new QToolButton;
@@ -51,7 +51,6 @@ CreatePanel::CreatePanel(QWidget* parent)
         row->addWidget(button);
         buttons_[i] = button;
     }
-    row->addStretch();
 }
 
 void CreatePanel::clicked(std::size_t index) {

@@ -13,8 +13,32 @@
 
 namespace tarvel {
 
+namespace {
+
+constexpr int wantedLetters = 30;
+constexpr int wantedRows = 9;
+constexpr int fewestLetters = 12;
+constexpr int fewestRows = 4;
+
+} // namespace
+
 ElementListView::ElementListView() {
     setMouseTracking(true);
+}
+
+QSize ElementListView::sizeHint() const {
+    return sizeFor(wantedLetters, wantedRows);
+}
+
+QSize ElementListView::minimumSizeHint() const {
+    return sizeFor(fewestLetters, fewestRows);
+}
+
+QSize ElementListView::sizeFor(int letters, int rows) const {
+    const QFontMetrics metrics(font());
+    const int frame = 2 * frameWidth();
+    return {letters * metrics.averageCharWidth() + verticalScrollBar()->sizeHint().width() + frame,
+            rows * metrics.lineSpacing() + frame};
 }
 
 std::vector<int> ElementListView::selectedRows() const {

@@ -30,6 +30,10 @@ class ElementListView : public QListView {
     /// the top again after the last. Letters typed soon one after the other belong together.
     void keyboardSearch(const QString& letters) override;
 
+    /// A few rows: the list takes more where there is room.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
   signals:
     /// The selected rows are to come before this one; the number of rows is the front.
     void rowsDropped(int before);
@@ -50,6 +54,7 @@ class ElementListView : public QListView {
     [[nodiscard]] int rowBefore(QPoint point) const;
     [[nodiscard]] int firstFree() const;
     void dragTo(QPoint point);
+    [[nodiscard]] QSize sizeFor(int letters, int rows) const;
 
     std::unique_ptr<QMouseEvent> held_; // a press on one of several rows, which selects it late
     QPoint press_;

@@ -9,6 +9,7 @@
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
 #include "widgets/skin_fonts.h"
+#include "widgets/wrap_layout.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -50,8 +51,8 @@ QString various() {
 
 QLabel* headLabel(std::string_view text) {
     auto* label = new QLabel(qtText(text));
-    QFont font = skinFont({.size = 9.0F, .bold = true});
-    font.setPointSizeF(9); // as large as the texts around it on every screen
+    QFont font = skinFont({.bold = true});
+    font.setPointSizeF(label->font().pointSizeF()); // as large as the texts around it
     label->setFont(font);
     return label;
 }
@@ -60,7 +61,7 @@ QLabel* previewLabel(const char* name, std::string_view text) {
     auto* label = new QLabel(qtText(text));
     label->setObjectName(QLatin1String(name));
     QFont font = skinFont({});
-    font.setPointSizeF(9);
+    font.setPointSizeF(label->font().pointSizeF()); // as large as the texts around it
     label->setFont(font);
     label->setAutoFillBackground(true);
     label->setContentsMargins(smallGap, 0, smallGap, 0);
@@ -95,7 +96,8 @@ MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget
     named(this, QStringLiteral("fraQor"), tr("Item Menu settings"));
     auto* column = new QVBoxLayout(this);
     column->setSpacing(smallGap);
-    column->addLayout(checksAndNumbers());
+    addChecks(*column);
+    addNumbers(*column);
     addGroup(*column,
              {.head = caption::gameTitle,
               .list = "cmbTitleAlign",
@@ -123,34 +125,32 @@ MenuSettingsFrame::MenuSettingsFrame(MenuFrame& frame, Prompts& prompts, QWidget
     refresh();
 }
 
-QLayout* MenuSettingsFrame::checksAndNumbers() {
-    auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(smallGap);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    grid->addWidget(
-        addCheck("chkThumbVis", caption::thumbnailsVisible, &MenuFrame::thumbnailsVisible), 0, 0);
-    grid->addWidget(addCheck("chkSmoothScroll", caption::smoothScroll, &MenuFrame::smoothScroll), 0,
-                    1);
-    grid->addWidget(addCheck("chkSelGlow", caption::glowSelected, &MenuFrame::glowSelected), 1, 0);
-    grid->addWidget(addCheck("chkShowDesc", caption::showDescription, &MenuFrame::showDescription),
-                    1, 1);
+void MenuSettingsFrame::addChecks(QBoxLayout& column) {
+    auto* checks = new WrapLayout(WrapLayout::Fill::evenly);
+    checks->setMostPerRow(2);
+    checks->setSpacing(smallGap);
+    checks->addWidget(
+        addCheck("chkThumbVis", caption::thumbnailsVisible, &MenuFrame::thumbnailsVisible));
+    checks->addWidget(addCheck("chkSmoothScroll", caption::smoothScroll, &MenuFrame::smoothScroll));
+    checks->addWidget(addCheck("chkSelGlow", caption::glowSelected, &MenuFrame::glowSelected));
+    checks->addWidget(
+        addCheck("chkShowDesc", caption::showDescription, &MenuFrame::showDescription));
+    column.addLayout(checks);
+}
 
-    auto* row = new QHBoxLayout;
+void MenuSettingsFrame::addNumbers(QBoxLayout& column) {
+    auto* numbers = new WrapLayout(WrapLayout::Fill::none);
     const auto addField = [&](const char* labelName, std::string_view text, QLineEdit* edit) {
         auto* label = new QLabel(qtText(text));
         label->setObjectName(QLatin1String(labelName));
         label->setBuddy(edit);
-        row->addWidget(label);
-        row->addWidget(edit);
+        numbers->addTogether({label, edit});
     };
     addField("lblScrollFactor", caption::scrollFactor,
              addNumber("txtScrollFactor", tr("Scroll factor"), &MenuFrame::scrollFactor));
-    row->addStretch();
     addField("lblNumItems", caption::itemsShown,
              addNumber("txtNumItems", qtText(caption::itemsShown), &MenuFrame::itemsShown));
-    grid->addLayout(row, 2, 0, 1, 2);
-    return grid;
+    column.addLayout(numbers);
 }
 
 QCheckBox* MenuSettingsFrame::addCheck(const char* name, std::string_view text,

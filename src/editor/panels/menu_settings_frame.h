@@ -58,7 +58,8 @@ class MenuSettingsFrame : public QGroupBox {
     /// What the titles, or the descriptions, have in common.
     struct Group;
 
-    QLayout* checksAndNumbers();
+    void addChecks(QBoxLayout& column);
+    void addNumbers(QBoxLayout& column);
     QCheckBox* addCheck(const char* name, std::string_view text, CheckValue MenuFrame::*value);
     QLineEdit* addNumber(const char* name, const QString& spoken, std::string MenuFrame::*value);
     void addGroup(QBoxLayout& column, const Group& group);

@@ -5,8 +5,8 @@
 #include "widgets/control_names.h"
 #include "widgets/field_edit.h"
 #include "widgets/qt_text.h"
+#include "widgets/wrap_layout.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 
@@ -35,6 +35,16 @@ const FieldWords& wordsFor(ControlKind kind) {
     return rulesOf(kind).placeForm == PlaceForm::ends ? line : rectangle;
 }
 
+// As wide as a place at its longest: four digits, a sign and a part after the point.
+class PlaceEdit : public FieldEdit {
+  public:
+    [[nodiscard]] QSize sizeHint() const override {
+        constexpr int frames = 12; // pixels beside the text
+        const int width = fontMetrics().horizontalAdvance(QStringLiteral("-0000.00")) + frames;
+        return {width, FieldEdit::sizeHint().height()};
+    }
+};
+
 } // namespace
 
 PositionPanel::PositionPanel(QWidget* parent)
@@ -42,9 +52,9 @@ PositionPanel::PositionPanel(QWidget* parent)
     static constexpr std::array<const char*, positionFields> names = {"txtL", "txtT", "txtW",
                                                                       "txtH"};
     named(this, QStringLiteral("fraPos"), tr("Position in skin pixels"));
-    auto* row = new QHBoxLayout(this);
+    auto* row = new WrapLayout(WrapLayout::Fill::evenly, this);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        auto* edit = new FieldEdit;
+        auto* edit = new PlaceEdit;
         edit->setObjectName(QLatin1String(names[i]));
         edit->installEventFilter(this);
         connect(edit, &QLineEdit::editingFinished, this, [this, i] { leave(i); });
@@ -53,8 +63,7 @@ PositionPanel::PositionPanel(QWidget* parent)
         // Room for the captions of a line: they are wider.
         label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("X2")));
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        row->addWidget(label);
-        row->addWidget(edit);
+        row->addTogether({label, edit});
         fields_[i] = edit;
         captions_[i] = label;
     }

@@ -9,18 +9,18 @@
 #include "panels/shared_frame.h"
 #include "panels/text_frame.h"
 #include "widgets/control_names.h"
+#include "widgets/page_stack.h"
 #include "widgets/qt_text.h"
 
 #include <QLabel>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace tarvel {
 
 namespace {
 
-constexpr int narrowest = 380; // pixels
+constexpr int narrowest = 340; // pixels
 
 } // namespace
 
@@ -38,9 +38,9 @@ PropertyPanel::PropertyPanel(const SkinDocument& document, Prompts& prompts, Pic
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     buildFrames();
-    column->addWidget(frames_, 1);
+    column->addLayout(frames_, 1);
     buildRow();
-    column->addLayout(row_);
+    column->addWidget(commands_);
     connect(fraImg_, &ImageFrame::addResourceClicked, this, &PropertyPanel::addResourceClicked);
     connect(fraShared_, &SharedFrame::changed, this, &PropertyPanel::changed);
     connect(fraText_, &TextFrame::changed, this, &PropertyPanel::changed);
@@ -61,7 +61,8 @@ void PropertyPanel::buildFrames() {
     column->addWidget(fraShared_);
     column->addWidget(fraText_);
     column->addStretch();
-    frames_ = new QStackedWidget;
+    colorsAndText_->setMinimumWidth(fraShared_->minimumWidth()); // shown or hidden
+    frames_ = new PageStack;
     for (QWidget* page : {nothing_, colorsAndText_, static_cast<QWidget*>(fraImg_),
                           static_cast<QWidget*>(fraQor_)}) {
         frames_->addWidget(page);
@@ -71,7 +72,9 @@ void PropertyPanel::buildFrames() {
 void PropertyPanel::buildRow() {
     cmdApply_ = named(new QPushButton(qtText(caption::applyChanges)), QStringLiteral("cmdApply"));
     connect(cmdApply_, &QPushButton::clicked, this, &PropertyPanel::applyClicked);
-    row_ = new QHBoxLayout;
+    commands_ = new QWidget;
+    row_ = new QHBoxLayout(commands_);
+    row_->setContentsMargins(0, 0, 0, 0);
     row_->addWidget(cmdApply_, 1);
 }
 

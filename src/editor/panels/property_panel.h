@@ -8,19 +8,19 @@
 
 class QHBoxLayout;
 class QPushButton;
-class QStackedWidget;
 
 namespace tarvel {
 
 class ImageFrame;
 class MenuSettingsFrame;
+class PageStack;
 class PictureCache;
 class Prompts;
 class SharedFrame;
 class SkinDocument;
 class TextFrame;
 
-/// Keeps its values whatever is shown. Its height does not depend on the kind. The document, the
+/// Keeps its values whatever is shown. The document, the
 /// prompts and the cache of pictures are not owned; the document is only read, in the calls below,
 /// when its resources change and when the user chooses one.
 class PropertyPanel : public QWidget, private DocumentObserver {
@@ -59,8 +59,12 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     /// Stops the video of the preview until a resource is chosen or the frame is shown anew.
     void stopPreview();
 
+    /// The row of cmdApply, which may be taken out of the panel to stand elsewhere.
+    [[nodiscard]] QWidget* commands() { return commands_; }
     /// Puts a control beside cmdApply; it becomes a child.
     void addBeside(QWidget* control);
+    /// What shows the frames of a kind at a time.
+    [[nodiscard]] PageStack& pages() { return *frames_; }
 
   signals:
     /// The user changed a value.
@@ -82,13 +86,14 @@ class PropertyPanel : public QWidget, private DocumentObserver {
     PanelValues leading_;  // of these: the values of the one that leads
     PanelValues before_;   // and what the controls held when they were shown
     PanelLayout shown_;
-    QStackedWidget* frames_ = nullptr;
+    PageStack* frames_ = nullptr;
     QWidget* nothing_ = nullptr;
     QWidget* colorsAndText_ = nullptr;
     SharedFrame* fraShared_ = nullptr;
     TextFrame* fraText_ = nullptr;
     ImageFrame* fraImg_ = nullptr;
     MenuSettingsFrame* fraQor_ = nullptr;
+    QWidget* commands_ = nullptr;
     QHBoxLayout* row_ = nullptr;
     QPushButton* cmdApply_ = nullptr;
 };

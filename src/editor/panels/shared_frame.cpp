@@ -146,6 +146,7 @@ void SharedFrame::alignRows() {
         row->value->setMinimumWidth(valueWidth);
         row->clear->setMinimumWidth(clearWidth);
     }
+    setMinimumWidth(minimumSizeHint().width()); // whichever rows are shown
 }
 
 void SharedFrame::ask(Swatch& swatch) {

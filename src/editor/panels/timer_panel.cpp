@@ -23,8 +23,7 @@ namespace tarvel {
 
 namespace {
 
-constexpr int helpWidth = 240; // pixels
-constexpr int boxWidth = 90;
+constexpr int helpLetters = 34; // in a line
 
 // Numbers come out of tables and lines of text with white space around them, which goes: from what
 // the keys paste, and from a text that the mouse has put in place of another.
@@ -52,7 +51,7 @@ class TimerEdit : public FieldEdit {
         setValidator(new NumberValidator(this));
         setInputMethodHints(Qt::ImhDigitsOnly);
         setAlignment(Qt::AlignRight);
-        setFixedWidth(boxWidth);
+        setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("-2147483648")));
     }
 
   protected:
@@ -130,7 +129,7 @@ QWidget* TimerPanel::makeBoxes() {
         caption->setBuddy(box);
         auto* beside = new QLabel(help);
         beside->setWordWrap(true);
-        beside->setMinimumWidth(helpWidth);
+        beside->setMinimumWidth(helpLetters * beside->fontMetrics().averageCharWidth());
         grid->addWidget(caption, row, 0);
         grid->addWidget(box, row, 1);
         grid->addWidget(beside, row, 2);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr QLatin1String lastFolderKey("lastFolder");
 constexpr QLatin1String recentFoldersKey("recentFolders");
+constexpr QLatin1String windowPlaceKey("windowPlace");
 
 } // namespace
 
@@ -49,6 +50,14 @@ QString Remembered::lastFolder() const {
 
 void Remembered::rememberLastFolder(const QString& folder) {
     settings_.setValue(lastFolderKey, folder);
+}
+
+QByteArray Remembered::windowPlace() const {
+    return settings_.value(windowPlaceKey).toByteArray();
+}
+
+void Remembered::rememberWindowPlace(const QByteArray& place) {
+    settings_.setValue(windowPlaceKey, place);
 }
 
 QStringList Remembered::recentFolders() {

@@ -41,6 +41,11 @@ class Remembered {
     [[nodiscard]] QString lastFolder() const;
     void rememberLastFolder(const QString& folder);
 
+    /// Where the main window was, as QWidget::saveGeometry() tells it; empty when it was nowhere
+    /// yet.
+    [[nodiscard]] QByteArray windowPlace() const;
+    void rememberWindowPlace(const QByteArray& place);
+
     /// Folders that skins were loaded from or saved to by any run, the newest first.
     [[nodiscard]] QStringList recentFolders();
     void rememberSkinFolder(const QString& folder);

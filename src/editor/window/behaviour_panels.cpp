@@ -13,13 +13,14 @@
 namespace tarvel {
 
 BehaviourPanels::BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate,
-                                 Room room, const std::filesystem::path& programFolder)
-    : QObject(&room.side)
+                                 Room room, QWidget& ground,
+                                 const std::filesystem::path& programFolder)
+    : QObject(&ground)
     , gate_(gate)
-    , room_(room) {
-    QWidget* parent = room.side.parentWidget();
-    panels_ = {new ModifierPanel(document, prompts, programFolder, parent),
-               new TimerPanel(document, parent), new ConditionPanel(document, parent)};
+    , room_(room)
+    , ground_(ground) {
+    panels_ = {new ModifierPanel(document, prompts, programFolder, &ground),
+               new TimerPanel(document, &ground), new ConditionPanel(document, &ground)};
     for (BehaviourPanel* panel : panels_) {
         connect(panel, &BehaviourPanel::closed, this, &BehaviourPanels::panelClosed);
     }
@@ -56,15 +57,18 @@ std::function<void()> BehaviourPanels::storeChanged() {
 
 void BehaviourPanels::place(BehaviourPanel& panel) {
     constexpr int gap = 6;
-    const QRect side = room_.side.geometry();
+    const QRect side(room_.side.mapTo(&ground_, QPoint(0, 0)), room_.side.size());
     const auto topOf = [&](const QWidget& widget) {
-        return widget.mapTo(room_.side.parentWidget(), QPoint(0, 0)).y();
+        return widget.mapTo(&ground_, QPoint(0, 0)).y();
     };
     const int bottom = topOf(room_.floor) - gap;
+    const int roof = std::max(side.top(), topOf(room_.roof)); // which may be scrolled out of sight
     // A panel that needs more than its room reaches over what is beside it.
-    const QSize size = panel.sizeHint().expandedTo({side.width(), bottom - topOf(room_.roof)});
-    panel.setGeometry(side.right() + 1 - size.width(), std::max(0, bottom - size.height()),
-                      size.width(), size.height());
+    const QSize size = panel.sizeHint()
+                           .expandedTo({side.width(), bottom - roof})
+                           .boundedTo({side.right() + 1, bottom});
+    panel.setGeometry(side.right() + 1 - size.width(), bottom - size.height(), size.width(),
+                      size.height());
 }
 
 void BehaviourPanels::panelClosed() {

@@ -19,8 +19,7 @@ class WindowGate;
 
 /// Opens a panel over a side of the window and lets nothing else be worked with until it closes;
 /// then the focus goes back to where it was.
-/// Document, prompts and gate are not owned and outlive it; the panels are children of the side's
-/// parent.
+/// Document, prompts and gate are not owned and outlive it.
 class BehaviourPanels : public QObject {
     Q_OBJECT
 
@@ -35,9 +34,10 @@ class BehaviourPanels : public QObject {
         QWidget& floor;
     };
 
-    /// The modifier catalogue is looked for in `programFolder`.
+    /// The panels are children of `ground`, which holds the room. The modifier catalogue is looked
+    /// for in `programFolder`.
     BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, Room room,
-                    const std::filesystem::path& programFolder);
+                    QWidget& ground, const std::filesystem::path& programFolder);
 
     /// Opens panel 0 modifiers, 1 timers or 2 condition for elements, the last of which
     /// leads; without any nothing happens.
@@ -60,6 +60,7 @@ class BehaviourPanels : public QObject {
 
     WindowGate& gate_;
     Room room_;
+    QWidget& ground_;
     std::array<BehaviourPanel*, count> panels_{};
     QPointer<QWidget> focusBefore_; // gets the focus back from the open panel
 };

@@ -30,6 +30,7 @@
 #include "window/tool_choice.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"
+#include "window/window_place.h"
 #include "window/work_history.h"
 
 #include <QAction>
@@ -228,7 +229,11 @@ bool FrmMain::Form_Unload() {
 
 void FrmMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(Form_Unload());
-    if (event->isAccepted() && keeper_ != nullptr) {
+    if (!event->isAccepted()) {
+        return;
+    }
+    keepPlace(*this, remembered_);
+    if (keeper_ != nullptr) {
         keeper_->endProperly();
     }
 }

@@ -99,6 +99,7 @@ class FrmMain : public QMainWindow {
     QWidget* buildLeftSide();
     QWidget* buildSurface();
     QWidget* buildRightSide();
+    QWidget* buildPanels();
     QWidget* buildStopButton();
     void buildReactions();
     void connectPanels();

@@ -18,6 +18,7 @@
 #include "widgets/focus_frame.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
+#include "widgets/turning_layout.h"
 #include "window/arrange_commands.h"
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
@@ -27,10 +28,12 @@
 #include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
 #include "window/selection_views.h"
+#include "window/side_column.h"
 #include "window/skin_dialogs.h"
 #include "window/skin_status.h"
 #include "window/snap_choice.h"
 #include "window/tool_choice.h"
+#include "window/window_columns.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"
 #include "window/work_history.h"
@@ -75,16 +78,17 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     dialogs_ = std::make_unique<SkinDialogs>(document_, prompts_, pictures_, this);
 
     auto* centre = new QWidget;
-    auto* columns = new QHBoxLayout(centre);
+    auto* room = new QVBoxLayout(centre);
+    auto* columns = new WindowColumns(remembered_);
+    room->addWidget(columns);
     QWidget* left = buildLeftSide();
     QWidget* right = buildRightSide();
-    // The tab order is that of coming in: screens, elements and panels, then surface and tools.
-    columns->addWidget(right, 1);
-    columns->insertWidget(0, left);
+    columns->setColumns(left, right, surface_);
     setCentralWidget(centre);
-    behaviourPanels_ =
-        new BehaviourPanels(document_, prompts_, *gate_,
-                            {.side = *right, .roof = *fraPos_, .floor = *cmdStop_}, programFolder);
+    resize(sizeHint());
+    behaviourPanels_ = new BehaviourPanels(document_, prompts_, *gate_,
+                                           {.side = *right, .roof = *fraPos_, .floor = *cmdStop_},
+                                           *centre, programFolder);
     buildReactions();
     buildHistory();
     buildStatus();
@@ -125,31 +129,31 @@ QWidget* FrmMain::buildLeftSide() {
 }
 
 QWidget* FrmMain::buildRightSide() {
-    auto* side = new QWidget;
-    auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, 0);
+    QWidget* panels = buildPanels();
+    cmdStop_ = buildStopButton();
+    properties_->addBeside(cmdStop_);
+    auto* side = new SideColumn(panels, sliding(properties_->commands()), properties_->pages());
+    // Saving is in the menu; this button does nothing and is not shown.
+    auto* cmdSave = new QPushButton(side);
+    cmdSave->setObjectName(QStringLiteral("cmdSave"));
+    cmdSave->setVisible(false);
+    return side;
+}
 
+QWidget* FrmMain::buildPanels() {
+    auto* panels = new QWidget;
+    auto* column = new QVBoxLayout(panels);
+    column->setContentsMargins(0, 0, 0, 0);
     fraLayout_ = sliding(new LayoutPanel(document_));
     fraElements_ = sliding(new ElementsPanel(document_, selection_));
     fraPos_ = sliding(new PositionPanel);
     properties_ = sliding(new PropertyPanel(document_, prompts_, pictures_));
     behaviours_ = sliding(new BehaviourButtons(menus_->mnuModifier()));
-    // Saving is in the menu; this button does nothing and is not shown.
-    auto* cmdSave = new QPushButton(side);
-    cmdSave->setObjectName(QStringLiteral("cmdSave"));
-    cmdSave->setVisible(false);
-
-    auto* top = new QHBoxLayout;
-    top->addWidget(fraLayout_);
-    top->addWidget(fraElements_, 1);
-    column->addLayout(top, 1);
+    column->addLayout(new TurningLayout(fraLayout_, fraElements_), 1);
     column->addWidget(fraPos_);
     column->addWidget(behaviours_);
     column->addWidget(properties_);
-    cmdStop_ = buildStopButton();
-    properties_->addBeside(cmdStop_);
-    side->setMinimumWidth(450);
-    return side;
+    return panels;
 }
 
 QWidget* FrmMain::buildStopButton() {
@@ -323,8 +327,9 @@ void FrmMain::slideIn() {
     for (QWidget* panel : std::initializer_list<QWidget*>{surface_, fraNote_, fraCreate_}) {
         slide_->movetoX(panel, true);
     }
-    for (QWidget* panel : std::initializer_list<QWidget*>{fraLayout_, fraElements_, fraPos_,
-                                                          behaviours_, properties_}) {
+    for (QWidget* panel :
+         std::initializer_list<QWidget*>{fraLayout_, fraElements_, fraPos_, behaviours_,
+                                         properties_, properties_->commands()}) {
         slide_->movetoX(panel, false);
     }
     slide_->start();

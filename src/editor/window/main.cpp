@@ -8,6 +8,7 @@
 #include "window/end_signals.h"
 #include "window/frm_main.h"
 #include "window/other_runs.h"
+#include "window/window_place.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -75,6 +76,7 @@ int main(int argc, char* argv[]) {
     });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                      &tarvel::FrmMain::keepWorkNow, Qt::DirectConnection);
+    tarvel::takePlace(window, remembered);
     window.show();
     QTimer::singleShot(0, &window, [&] {
         keepWork(window, prompts);
