@@ -23,6 +23,12 @@
 
 namespace tarvel {
 
+namespace {
+
+constexpr int fewestRows = 90; // pixels
+
+} // namespace
+
 CurrentFrame::CurrentFrame(SkinDocument& document, Prompts& prompts, PictureCache& pictures,
                            QWidget* owner)
     : QGroupBox(QStringLiteral("CURRENT RESOURCES"))
@@ -54,7 +60,7 @@ CurrentFrame::CurrentFrame(SkinDocument& document, Prompts& prompts, PictureCach
 void CurrentFrame::build() {
     lstRes_->setUniformItemSizes(true);
     lstRes_->setTextElideMode(Qt::ElideMiddle);
-    lstRes_->setMinimumHeight(150);
+    lstRes_->setMinimumHeight(fewestRows);
     lstRes_->setItemDelegate(rows_);
     lstRes_->setEditTriggers(QAbstractItemView::EditKeyPressed); // F2
     lstRes_->installEventFilter(this);

@@ -46,6 +46,7 @@ QGroupBox* FrmColors::makeGroup(std::size_t box) {
     const ColorGroup& group = colorGroups.at(box);
     auto* frame = new QGroupBox(qtText(group.caption));
     auto* grid = new QGridLayout(frame);
+    grid->setVerticalSpacing(3); // with large fonts the dialog is nearly as high as a low display
     grid->setHorizontalSpacing(12);
     int row = 0;
     for (const auto& color : group.colors) {

@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -201,7 +202,10 @@ void FrmResources::resizeForm(int added) {
     const QSize hint = layout()->totalSizeHint();
     const int wide = std::max(width(), hint.width());
     fitted_ = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wide) : hint.height();
-    resize(wide, fitted_ + added);
+    constexpr int title = 40; // pixels of the window manager's
+    const int highest =
+        std::max(minimumSizeHint().height(), screen()->availableSize().height() - title);
+    resize(wide, std::min(fitted_ + added, highest));
 }
 
 // Steps back to the start: OK is next, or another file.
