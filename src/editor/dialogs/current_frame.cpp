@@ -241,7 +241,7 @@ void CurrentFrame::cmdLocate_Click() {
     }
     SearchProgress progress(owner_, progressDelay_);
     const LocatedFiles located =
-        locate(missing, hostPathOf(folder), mostEntries,
+        locate(missing, hostPathOf(folder), mostSearched_,
                [&](std::size_t entries) { return progress.step(entries); });
     const bool isCancelled = progress.wasCanceled();
     progress.hide();

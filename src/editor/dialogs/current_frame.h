@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/resource_notes.h"
+#include "files/file_search.h"
 
 #include <QGroupBox>
 
@@ -36,6 +37,8 @@ class CurrentFrame : public QGroupBox {
     void stop();
     /// A search for files shows its progress after so many milliseconds, at first half a second.
     void showProgressAfter(int milliseconds) { progressDelay_ = milliseconds; }
+    /// It looks at no more than so many entries of folders, at first `mostEntries`.
+    void searchAtMost(std::size_t entries) { mostSearched_ = entries; }
 
   signals:
     /// Another row was selected, or the selected one has other content; -1 when its resource went
@@ -75,6 +78,7 @@ class CurrentFrame : public QGroupBox {
     QPushButton* cmdRemove_;
     QPushButton* cmdLocate_;
     int progressDelay_;
+    std::size_t mostSearched_ = mostEntries;
 };
 
 } // namespace tarvel

@@ -33,6 +33,7 @@ class FrmResourcesLocateTest : public QObject, protected test::ResourcesFixture 
     void aFileThatCameBackIsNotLookedFor();
     void cancelledChoiceChangesNothing();
     void theSearchCanBeCancelled();
+    void saysWhenTooMuchIsThere();
     void progressCountsAndStaysAway();
 
   private:
@@ -204,6 +205,18 @@ void FrmResourcesLocateTest::theSearchCanBeCancelled() {
     watch.stop();
     locateIn("elsewhere"); // to its end
     QCOMPARE(prompts_->messages, QStringList{"Missing files that were found: 1 of 2."});
+}
+
+void FrmResourcesLocateTest::saysWhenTooMuchIsThere() {
+    for (int i = 0; i < 30; ++i) {
+        folder_.file("elsewhere/" + std::to_string(i), "");
+    }
+    open();
+    dialog_->current().searchAtMost(20);
+    locateIn("elsewhere");
+    QCOMPARE(prompts_->messages,
+             QStringList{"Missing files that were found: 0 of 2.\n"
+                         "There is so much in the folder that not all of it was looked at."});
 }
 
 void FrmResourcesLocateTest::progressCountsAndStaysAway() {
