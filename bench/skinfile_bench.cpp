@@ -1,6 +1,7 @@
 // Reading and generating skins, against pugixml's bare parse and a bare loop of appends.
 #include "bench_support.h"
 #include "files/host_files.h"
+#include "skinfile/document_check.h"
 #include "skinfile/recovery_store.h"
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_reader.h"
@@ -165,6 +166,20 @@ void checkResourcesAgainstBareParse(benchmark::State& state) {
     state.SetComplexityN(state.range(0));
 }
 
+// The findings of an open skin, against making the text that is looked through for them.
+void checkOpenSkinAgainstItsText(benchmark::State& state) {
+    const TemporaryFolder folder;
+    SkinDocument skin = mixedSkin(static_cast<int>(state.range(0)));
+    comparePairs(
+        state, [&] { benchmark::DoNotOptimize(checkDocument(skin, folder.path())); },
+        [&] {
+            SkinWriter writer(folder.path());
+            writer.generateXML(skin);
+            benchmark::DoNotOptimize(writer.xmlText().data());
+        });
+    state.SetComplexityN(state.range(0));
+}
+
 // One File text of many parts, which is no longer than a path can be.
 void readManyPartsAgainstBareParse(benchmark::State& state) {
     const TemporaryFolder folder;
@@ -285,6 +300,13 @@ BENCHMARK(readResourcesAgainstBareParse)
 BENCHMARK(checkResourcesAgainstBareParse)
     ->Arg(5'000)
     ->Arg(20'000)
+    ->Arg(80'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+BENCHMARK(checkOpenSkinAgainstItsText)
+    ->Arg(1'000)
+    ->Arg(10'000)
     ->Arg(80'000)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
