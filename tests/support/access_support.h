@@ -1,6 +1,8 @@
 // What is read out of the controls of a window, and where that is not what can be seen.
 #pragma once
 
+#include "support/captions.h"
+
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QGroupBox>
@@ -20,10 +22,6 @@ inline QList<QAbstractButton*> captionedButtons(const QWidget& window) {
     QList<QAbstractButton*> buttons = window.findChildren<QAbstractButton*>();
     buttons.removeIf([](const QAbstractButton* button) { return button->text().isEmpty(); });
     return buttons;
-}
-
-inline QString captionOf(const QAbstractButton& button) {
-    return button.text().remove(QLatin1Char('&'));
 }
 
 /// The buttons that are not read out by what can be seen on them first.

@@ -3,6 +3,7 @@
 
 #include "document/element_kinds.h"
 #include "files/host_files.h"
+#include "support/captions.h"
 #include "support/scripted_prompts.h"
 #include "support/settle.h"
 #include "widgets/easing.h"
@@ -66,6 +67,8 @@ struct Editor {
         return window.findChild<Widget*>(QLatin1String(name));
     }
     QAction* entry(const char* name) { return find<QAction>(name); }
+    /// What can be read on an entry.
+    QString caption(const char* name) { return captionOf(*entry(name)); }
     QWidget* pic() { return find<QWidget>("Pic"); }
     QRadioButton* optScreen(int screen) {
         return window.findChild<QRadioButton*>(QStringLiteral("optScreen(%1)").arg(screen));

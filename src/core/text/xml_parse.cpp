@@ -150,4 +150,10 @@ void parseFragmentInto(XmlTree& tree, XmlTree::Index parent, std::string_view fr
     Converter(tree, {}).addElements(parent, document);
 }
 
+std::string xmlLibraryVersion() {
+    constexpr int major = PUGIXML_VERSION / 1000;
+    constexpr int minor = PUGIXML_VERSION % 1000 / 10;
+    return std::to_string(major) + '.' + std::to_string(minor);
+}
+
 } // namespace tarvel

@@ -34,4 +34,7 @@ void parseFragmentInto(XmlTree& tree, XmlTree::Index parent, std::string_view fr
 /// The number of the line (from 1) that holds the byte at offset.
 [[nodiscard]] int lineAt(std::string_view text, std::size_t offset);
 
+/// The version of the library that parses, such as "1.13".
+[[nodiscard]] std::string xmlLibraryVersion();
+
 } // namespace tarvel

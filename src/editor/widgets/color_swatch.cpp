@@ -32,7 +32,8 @@ void ColorSwatch::setColor(ColorNumber color) {
 
 QSize ColorSwatch::sizeHint() const {
     const QFontMetrics metrics(font());
-    const int textWidth = text().isEmpty() ? 0 : metrics.horizontalAdvance(text()) + 24;
+    const int textWidth =
+        text().isEmpty() ? 0 : metrics.size(Qt::TextShowMnemonic, text()).width() + 24;
     return {std::max(narrowest, textWidth), metrics.height() + 8};
 }
 
@@ -41,7 +42,7 @@ void ColorSwatch::paintInside(QPainter& painter) {
     painter.fillRect(rect(), color);
     if (!text().isEmpty()) {
         painter.setPen(readableOn(color));
-        painter.drawText(rect(), Qt::AlignCenter, text());
+        painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
     }
 }
 

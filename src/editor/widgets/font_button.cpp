@@ -45,7 +45,8 @@ QSize FontButton::sizeHint() const {
     QFont largest;
     largest.setPixelSize(largestShown);
     const QFontMetrics metrics(largest);
-    return {metrics.horizontalAdvance(text()) + roomAcross, metrics.height() + roomDown};
+    return {metrics.size(Qt::TextShowMnemonic, text()).width() + roomAcross,
+            metrics.height() + roomDown};
 }
 
 void FontButton::paintEvent(QPaintEvent* /*event*/) {

@@ -51,7 +51,7 @@ void PlayButton::setPlaying(bool playing) {
 }
 
 void PlayButton::showState() {
-    setText(playing_ ? tr("Stop") : tr("Play"));
+    setText(playing_ ? tr("S&top") : tr("&Play")); // set anew while the dialog is open
     setAccessibleName(playing_ ? tr("Stop listening") : tr("Play the selected file"));
     drawIcon();
 }

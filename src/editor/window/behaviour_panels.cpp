@@ -45,6 +45,10 @@ bool BehaviourPanels::isOpen() const {
                        [](const BehaviourPanel* panel) { return !panel->isHidden(); });
 }
 
+std::vector<QWidget*> BehaviourPanels::panels() const {
+    return {panels_.begin(), panels_.end()};
+}
+
 std::function<void()> BehaviourPanels::storeChanged() {
     for (BehaviourPanel* panel : panels_) {
         if (!panel->isHidden() && panel->isChanged()) {

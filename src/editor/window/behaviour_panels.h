@@ -43,6 +43,8 @@ class BehaviourPanels : public QObject {
     /// leads; without any nothing happens.
     void cmdModifier_Click(int index, const std::vector<int>& elementIds);
     [[nodiscard]] bool isOpen() const;
+    /// All of them, open or not.
+    [[nodiscard]] std::vector<QWidget*> panels() const;
     /// Takes an open panel over that was changed since it opened, and leaves it open; a panel only
     /// looked at stores nothing. Returns what takes that back; it may be empty.
     [[nodiscard]] std::function<void()> storeChanged();

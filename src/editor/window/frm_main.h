@@ -108,6 +108,7 @@ class FrmMain : public QMainWindow {
     void buildHistory();
     void buildStatus();
     void watchPictures();
+    void buildKeyboard();
     void slideIn();
     void popupMenu(QPoint globalPosition);
     void enterPosition(PositionField field, const QString& text);

@@ -16,6 +16,7 @@
 #include "surface/surface_controller.h"
 #include "widgets/control_names.h"
 #include "widgets/focus_frame.h"
+#include "widgets/mnemonics.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
 #include "widgets/turning_layout.h"
@@ -23,7 +24,10 @@
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
 #include "window/clipboard_commands.h"
+#include "window/element_walk.h"
+#include "window/focus_round.h"
 #include "window/frm_main.h"
+#include "window/help_windows.h"
 #include "window/main_menus.h"
 #include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
@@ -36,9 +40,11 @@
 #include "window/window_columns.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"
+#include "window/window_mnemonics.h"
 #include "window/work_history.h"
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -96,6 +102,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     connectMenus();
     buildEditCommands();
     watchPictures();
+    buildKeyboard();
 }
 
 QWidget* FrmMain::buildSurface() {
@@ -314,6 +321,26 @@ void FrmMain::buildEditCommands() {
     auto* hoverMark = new HoverMark(*pic_);
     connect(fraElements_, &ElementsPanel::elementHovered, hoverMark,
             [this, hoverMark](int elementId) { hoverMark->mark(document_, elementId); });
+}
+
+// Help, and the ways around the window without a pointer. Letters come last: they need every
+// caption.
+void FrmMain::buildKeyboard() {
+    auto* help = new HelpWindows(*this, [](const QUrl& link) { QDesktopServices::openUrl(link); });
+    connect(menus_->mnuGuide, &QAction::triggered, help, [help] { help->showGuide(); });
+    connect(menus_->mnuKeys, &QAction::triggered, help, &HelpWindows::showKeys);
+    connect(menus_->mnuAbout, &QAction::triggered, help, &HelpWindows::showAbout);
+    new ElementWalk(*pic_, document_, selection_, [this] {
+        if (tools_->controller().isWorking()) {
+            return ElementWalk::Hand::holding;
+        }
+        return tools_->isBusy() ? ElementWalk::Hand::drawing : ElementWalk::Hand::free;
+    });
+    FocusRound::Part panel = behaviourPanels_->panels();
+    panel.insert(panel.end(), {fraPos_, behaviours_, properties_});
+    new FocusRound(*this, {{pic_}, {fraElements_, fraLayout_}, panel, {fraCreate_}});
+    giveWindowMnemonics(*this);
+    new MnemonicKeeper(this);
 }
 
 void FrmMain::watchPictures() {

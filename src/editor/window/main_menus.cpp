@@ -61,6 +61,9 @@ struct MainMenus::Table {
         // The key is the window's, wherever the focus is; here it is but shown.
         Entry{"mnuEdit", "mnuDeleteSelected", "Delete\tDel", &MainMenus::mnuDeleteSelected},
         Entry{"mnuEdit", "mnuSelectAll", "Select All", &MainMenus::mnuSelectAll},
+        Entry{"mnuHelp", "mnuGuide", "User Guide", &MainMenus::mnuGuide},
+        Entry{"mnuHelp", "mnuKeys", "Keys", &MainMenus::mnuKeys},
+        Entry{"mnuHelp", "mnuAbout", "About Tarvel", &MainMenus::mnuAbout},
     };
 };
 
@@ -76,7 +79,8 @@ constexpr std::array barMenus = {BarMenu{"mnuSkin", "Skin"},
                                  BarMenu{"mnuBackground", "Background"},
                                  BarMenu{"mnuOptions", "Options"},
                                  BarMenu{"mnuEdit", "Edit"},
-                                 BarMenu{"mnuArrange", "Arrange"}};
+                                 BarMenu{"mnuArrange", "Arrange"},
+                                 BarMenu{"mnuHelp", "Help"}};
 
 QMenu* contextMenu(QMainWindow& window, const QString& name) {
     auto* menu = new QMenu(QStringLiteral("Right"), &window);
@@ -120,6 +124,7 @@ void MainMenus::setKeys() {
     mnuPaste->setShortcut(Qt::CTRL | Qt::Key_V);
     mnuDuplicate->setShortcut(Qt::CTRL | Qt::Key_D);
     mnuSelectAll->setShortcut(Qt::CTRL | Qt::Key_A);
+    mnuGuide->setShortcut(Qt::Key_F1);
 }
 
 void MainMenus::fill(QMainWindow& window, QMenu& menu) {

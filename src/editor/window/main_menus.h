@@ -50,6 +50,9 @@ class MainMenus {
     QAction* mnuDuplicate = nullptr;
     QAction* mnuDeleteSelected = nullptr;
     QAction* mnuSelectAll = nullptr;
+    QAction* mnuGuide = nullptr;
+    QAction* mnuKeys = nullptr;
+    QAction* mnuAbout = nullptr;
 
     /// Modifiers, timers and condition of the selected element.
     [[nodiscard]] std::array<QAction*, 3> mnuModifier() const {

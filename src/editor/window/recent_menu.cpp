@@ -1,6 +1,7 @@
 // Makes an entry of each folder, with its whole path as the tool tip.
 #include "window/recent_menu.h"
 
+#include "widgets/mnemonics.h"
 #include "widgets/qt_text.h"
 #include "widgets/remembered.h"
 
@@ -44,6 +45,7 @@ void RecentMenu::fill() {
     if (folders.isEmpty()) {
         menu_.addAction(tr("No recent folders"))->setEnabled(false);
     }
+    giveMnemonics(menu_.actions());
 }
 
 void RecentMenu::addFolder(const QString& folder, int place) {

@@ -136,7 +136,7 @@ void ArrangeMenuTest::entriesStandInGroups() {
     Editor editor;
     QStringList captions;
     for (const QAction* action : editor.find<QMenu>("mnuArrange")->actions()) {
-        captions << (action->isSeparator() ? QStringLiteral("-") : action->text());
+        captions << (action->isSeparator() ? QStringLiteral("-") : captionOf(*action));
     }
     QCOMPARE(captions, QStringList({"Align Left",
                                     "Align Centre",
@@ -188,7 +188,7 @@ void ArrangeMenuTest::everyEntry() {
     QCOMPARE(places(editor), each.wanted);
     QCOMPARE(editor.window.curNum(), leading);
     QCOMPARE(selectedRows(editor, 1).size(), static_cast<int>(each.rows.size()));
-    QCOMPARE(editor.entry("mnuUndo")->text(), QStringLiteral("Undo ") + each.step);
+    QCOMPARE(editor.caption("mnuUndo"), QStringLiteral("Undo ") + each.step);
     editor.entry("mnuUndo")->trigger();
     QVERIFY(editor.document().holdsTheSame(before));
     editor.entry("mnuRedo")->trigger();

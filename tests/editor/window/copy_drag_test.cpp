@@ -61,7 +61,7 @@ void CopyDragTest::altCopiesOne() {
     QCOMPARE(placeOf(editor.control(1)), placeOf(before.element(1).elementControl));
     QCOMPARE(placeOf(editor.control(3)), (Place{70, 120, 100, 50}));
     QCOMPARE(selectedRows(editor, 1), QList<int>({2}));
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo copy Box"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo copy Box"));
     const SkinDocument after = editor.document();
     editor.entry("mnuUndo")->trigger();
     QVERIFY(editor.document().holdsTheSame(before));
@@ -79,7 +79,7 @@ void CopyDragTest::altCopiesSeveral() {
     QCOMPARE(placeOf(editor.control(4)), (Place{20, 220, 100, 50}));
     QCOMPARE(placeOf(editor.control(5)), (Place{260, 220, 100, 50}));
     QCOMPARE(selectedRows(editor, 1), QList<int>({3, 4}));
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo copy 2 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo copy 2 elements"));
 }
 
 // A line is held by its ends, which is where its copy is drawn from it.

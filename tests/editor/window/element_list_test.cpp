@@ -105,7 +105,7 @@ void ElementListTest::draggedRowsTakeTheirPlace() {
     selectRows(editor, 1, selected);
     const int dragged = editor.document().itemData(1, row);
     const SkinDocument before = editor.document();
-    const QString undo = editor.entry("mnuUndo")->text();
+    const QString undo = editor.caption("mnuUndo");
     const QPoint to = target == endOfList ? pointIn(editor, 4, 1.5) : pointIn(editor, target, part);
     dragRow(editor, row, to);
     QCOMPARE(idsOn(editor, 1), ids);
@@ -115,12 +115,12 @@ void ElementListTest::draggedRowsTakeTheirPlace() {
     QCOMPARE(static_cast<std::size_t>(selectedRows(editor, 1).size()), many);
     QVERIFY(selectedRows(editor, 1).contains(editor.document().rowOf(1, dragged)));
     if (ids == std::vector<int>({1, 2, 3, 4, 5})) {
-        QCOMPARE(editor.entry("mnuUndo")->text(), undo); // no step
+        QCOMPARE(editor.caption("mnuUndo"), undo); // no step
         return;
     }
     const QString what =
         many == 1 ? QStringLiteral("Box") : QStringLiteral("%1 elements").arg(many);
-    QCOMPARE(editor.entry("mnuUndo")->text(), "Undo reorder " + what);
+    QCOMPARE(editor.caption("mnuUndo"), "Undo reorder " + what);
     editor.entry("mnuUndo")->trigger();
     QVERIFY(editor.document().holdsTheSame(before));
     editor.entry("mnuRedo")->trigger();

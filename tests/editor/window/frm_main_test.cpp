@@ -103,6 +103,9 @@ void FrmMainTest::hasEveryMenuEntry_data() {
     row("mnuDuplicate", "mnuEdit", "Duplicate");
     row("mnuDeleteSelected", "mnuEdit", "Delete\tDel");
     row("mnuSelectAll", "mnuEdit", "Select All");
+    row("mnuGuide", "mnuHelp", "User Guide");
+    row("mnuKeys", "mnuHelp", "Keys");
+    row("mnuAbout", "mnuHelp", "About Tarvel");
 }
 
 void FrmMainTest::hasEveryMenuEntry() {
@@ -111,7 +114,7 @@ void FrmMainTest::hasEveryMenuEntry() {
     Editor editor;
     auto* entry = editor.entry(QTest::currentDataTag());
     QVERIFY(entry != nullptr);
-    QCOMPARE(entry->text(), caption);
+    QCOMPARE(captionOf(*entry), caption);
     auto* owner = editor.window.findChild<QMenu*>(menu);
     QVERIFY(owner != nullptr);
     QVERIFY(owner->actions().contains(entry));
@@ -123,17 +126,17 @@ void FrmMainTest::separatorsOfTheElementMenu() {
     for (const QAction* action : editor.find<QMenu>("mnuRight")->actions()) {
         // A separator with a text would be drawn as a heading.
         captions << (action->isSeparator() && action->text().isEmpty() ? QStringLiteral("-")
-                                                                       : action->text());
+                                                                       : captionOf(*action));
     }
     QCOMPARE(captions, QStringList({"Bring to Front", "Send to Back", "Bring Forward",
                                     "Send Backward", "-", "Unselect", "Lock", "-", "Modifiers",
                                     "Timers", "Condition", "-", "Delete"}));
     QStringList bar;
     for (const QAction* action : editor.window.menuBar()->actions()) {
-        bar << action->text();
+        bar << captionOf(*action);
     }
-    QCOMPARE(bar,
-             QStringList({"Skin", "Configuration", "Background", "Options", "Edit", "Arrange"}));
+    QCOMPARE(bar, QStringList({"Skin", "Configuration", "Background", "Options", "Edit", "Arrange",
+                               "Help"}));
     QCOMPARE(editor.find<QMenu>("mnuRight")->title(), QStringLiteral("Right"));
     QCOMPARE(editor.find<QMenu>("mnuRight2")->title(), QStringLiteral("Right"));
 }
@@ -156,7 +159,7 @@ void FrmMainTest::fixedTextsOfThePanels() {
                                                         {"optText", "Text"},
                                                         {"optQor", "Game List (QOR Menu)"}};
     for (const auto& [name, text] : buttons) {
-        QCOMPARE(editor.find<QAbstractButton>(name)->text(), text);
+        QCOMPARE(captionOf(*editor.find<QAbstractButton>(name)), text);
     }
     const QStringList captions = {"Title", "Menu", "Load", "Saver", "JukeBox", "FileManager"};
     for (int screen = 0; screen < screenCount; ++screen) {
@@ -167,7 +170,7 @@ void FrmMainTest::fixedTextsOfThePanels() {
         notes << label->text();
     }
     QCOMPARE(notes, QStringList({" (not used yet)", " (not used yet)"}));
-    QCOMPARE(editor.find<QPushButton>("cmdStop")->text(), QStringLiteral("Stop Vids"));
+    QCOMPARE(captionOf(*editor.find<QPushButton>("cmdStop")), QStringLiteral("Stop Vids"));
 }
 
 void FrmMainTest::panelsSlideToTheirPlaces() {

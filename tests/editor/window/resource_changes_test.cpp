@@ -158,7 +158,7 @@ void ResourceChangesTest::allIsOneStep() {
     QCOMPARE(pickerTexts(editor), (QStringList{"night", "a", "b"}));
     QCOMPARE(rowsOf(editor, 1), QStringList{"Image: night"});
     QCOMPARE(editor.control(1).file, folder_.document("other.png"));
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo change resources"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo change resources"));
     editor.entry("mnuUndo")->trigger();
     QVERIFY(editor.document().holdsTheSame(before));
     QCOMPARE(pickerTexts(editor), (QStringList{"sky", "logo"}));

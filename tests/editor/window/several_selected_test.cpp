@@ -162,7 +162,7 @@ void SeveralSelectedTest::aRubberBandSelectsWhatItTouches() {
     editor.release({900, 20});
     QCOMPARE(editor.inList(), Ids({2, 3, 4}));
     QVERIFY(editor.find<QRubberBand>("selectBand") == nullptr);
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo lock up to Box"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo lock up to Box"));
 }
 
 void SeveralSelectedTest::aRubberBandCanBeGivenUp() {
@@ -234,7 +234,7 @@ void SeveralSelectedTest::dragMovesAll() {
     QCOMPARE(editor.lefts(), QList<float>({50, 140, 290, 380}));
     QCOMPARE(editor.control(3).top, 60.0F);
     QCOMPARE(editor.inList(), Ids({1, 3}));
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo move 2 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo move 2 elements"));
     QVERIFY(editor.isUndone(before));
     QCOMPARE(editor.inList(), Ids({1, 3}));
 }
@@ -276,7 +276,7 @@ void SeveralSelectedTest::handlesScaleAll() {
     QCOMPARE(editor.control(2).top, 220.0F);
     QCOMPARE(editor.control(line).X2, 220.0F);
     QCOMPARE(editor.control(line).Y2, 120.0F);
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo size 3 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo size 3 elements"));
     QVERIFY(editor.isUndone(before));
     // With Shift both sides grow alike.
     editor.press({240, 170});
@@ -311,7 +311,7 @@ void SeveralSelectedTest::deleteTakesAll() {
     QCOMPARE(editor.document().itemData(1, 0), 2);
     QCOMPARE(editor.document().screenElementCount(1), 1);
     QCOMPARE(editor.leading(), 0);
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo delete 3 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo delete 3 elements"));
     QVERIFY(editor.isUndone(before));
     QCOMPARE(editor.inList(), Ids({1, 3, 4}));
     QCOMPARE(editor.leading(), 4);
@@ -371,7 +371,7 @@ void SeveralSelectedTest::positionFieldsMoveAll() {
     };
     enter("txtL", "250");
     QCOMPARE(editor.lefts(), QList<float>({10, 140, 250, 380}));
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo position of 2 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo position of 2 elements"));
     enter("txtH", "60");
     QCOMPARE(editor.control(1).height, 60.0F);
     QCOMPARE(editor.control(2).height, 50.0F);
@@ -425,7 +425,7 @@ void SeveralSelectedTest::applyGivesOnlyWhatWasChanged() {
     QCOMPARE(int{editor.document().element(1).elementAlpha}, 55);
     QCOMPARE(int{editor.document().element(2).elementAlpha}, 55);
     QCOMPARE(int{editor.document().element(3).elementAlpha}, 80);
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo apply changes to 2 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo apply changes to 2 elements"));
     editor.undo();
     QVERIFY(editor.isUndone(before));
     QCOMPARE(editor.find<QLineEdit>("txtAlpha")->placeholderText(), QString("various"));
@@ -451,7 +451,7 @@ void SeveralSelectedTest::behavioursGoToAll() {
     for (int id = 1; id <= 4; ++id) {
         QCOMPARE(editor.document().element(id).elementTimers[3], id % 2 == 1 ? 5000 : 0);
     }
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo timers of 2 elements"));
+    QCOMPARE(editor.caption("mnuUndo"), QString("Undo timers of 2 elements"));
     QVERIFY(editor.isUndone(before));
     QVERIFY(editor.openPanel(2));
     test::clickRow(editor.at<QListWidget>("lstCond"), 2);

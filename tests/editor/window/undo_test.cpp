@@ -196,7 +196,7 @@ const std::vector<Act>& acts() {
 }
 
 QString textOf(BehaviourEditor& editor, const char* entry) {
-    return editor.entry(entry)->text();
+    return editor.caption(entry);
 }
 
 } // namespace

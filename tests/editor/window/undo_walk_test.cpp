@@ -109,9 +109,8 @@ class UndoWalkTest : public QObject {
 
 QString UndoWalkTest::undo(BehaviourEditor& editor, Record& record) {
     const Record::Step& step = record.steps[--record.done];
-    if (editor.entry("mnuUndo")->text() != QLatin1String("Undo ") + qtText(step.name)) {
-        return QStringLiteral("\"%1\" for %2")
-            .arg(editor.entry("mnuUndo")->text(), qtText(step.name));
+    if (editor.caption("mnuUndo") != QLatin1String("Undo ") + qtText(step.name)) {
+        return QStringLiteral("\"%1\" for %2").arg(editor.caption("mnuUndo"), qtText(step.name));
     }
     editor.pic()->setFocus();
     editor.key(Qt::Key_Z, Qt::ControlModifier);
