@@ -65,7 +65,7 @@ class BehaviourEditor : public Editor {
                 result << index;
             }
             const QString wanted = plain[index] + (bold ? "*" : "");
-            if (mnuModifier(index).text() != wanted) {
+            if (captionOf(mnuModifier(index)) != wanted) {
                 qWarning("entry reads %s", qPrintable(mnuModifier(index).text()));
                 result << -1;
             }

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -179,6 +180,21 @@ bool ElementListView::viewportEvent(QEvent* event) {
         emit rowHovered(-1);
     }
     return QListView::viewportEvent(event);
+}
+
+// Where nothing is selected, a key that leads to another row begins at an end. Qt would begin at a
+// row that it holds for the current one, and leave it unselected.
+void ElementListView::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    const bool isDown = key == Qt::Key_Down || key == Qt::Key_Home || key == Qt::Key_PageDown;
+    const bool isUp = key == Qt::Key_Up || key == Qt::Key_End || key == Qt::Key_PageUp;
+    const int rows = model()->rowCount();
+    if (!(isDown || isUp) || rows == 0 || selectionModel()->hasSelection()) {
+        QListView::keyPressEvent(event);
+        return;
+    }
+    selectionModel()->setCurrentIndex(model()->index(isDown ? 0 : rows - 1, 0),
+                                      QItemSelectionModel::ClearAndSelect);
 }
 
 void ElementListView::keyboardSearch(const QString& letters) {

@@ -29,6 +29,7 @@ class ElementListView : public QListView {
     /// Selects the next row below the current one that contains the letters in whatever case, from
     /// the top again after the last. Letters typed soon one after the other belong together.
     void keyboardSearch(const QString& letters) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
     /// A few rows: the list takes more where there is room.
     [[nodiscard]] QSize sizeHint() const override;

@@ -8,19 +8,34 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <array>
+
 namespace tarvel {
 
 namespace {
 
-QList<QAbstractButton*> buttonsOf(const QMainWindow& window, const char* holder) {
-    QList<QAbstractButton*> buttons;
-    if (auto* widget = window.findChild<QWidget*>(QLatin1String(holder))) {
-        buttons = widget->findChildren<QAbstractButton*>();
-        if (auto* itself = qobject_cast<QAbstractButton*>(widget)) {
-            buttons.prepend(itself);
-        }
+struct Letter {
+    const char* button;
+    char letter; // of its caption
+};
+
+// Chosen by hand: the menu bar has S, C, B, O, E, A and H, and there are hardly as many others as
+// buttons. A letter stands twice where the buttons are never seen together.
+constexpr std::array letters = {
+    Letter{"optBox", 'x'},          Letter{"optLine", 'L'},        Letter{"optImg", 'I'},
+    Letter{"optText", 'T'},         Letter{"optQor", 'Q'},         Letter{"cmdModifier(0)", 'M'},
+    Letter{"cmdModifier(1)", 'r'},  Letter{"cmdModifier(2)", 'd'}, Letter{"cmdApply", 'p'},
+    Letter{"cmdStop", 'V'},         Letter{"cmdClearL", 'n'},      Letter{"cmdClearF", 'f'},
+    Letter{"cmdFont", 'F'},         Letter{"cmdAddRes", 'u'},      Letter{"chkThumbVis", 'u'},
+    Letter{"chkSmoothScroll", 'n'}, Letter{"chkSelGlow", 'G'},     Letter{"chkShowDesc", 'w'}};
+
+// The first one of that letter in the caption, which has it in this letter case.
+void giveLetter(QAbstractButton& button, char letter) {
+    QString caption = button.text();
+    const qsizetype at = caption.indexOf(QLatin1Char(letter));
+    if (at >= 0 && mnemonicOf(caption).isNull()) {
+        button.setText(caption.insert(at, QLatin1Char('&')));
     }
-    return buttons;
 }
 
 // Context menus first: what they share with menus of the bar keeps its letter there, where there
@@ -41,22 +56,16 @@ void giveMenus(const QMainWindow& window) {
 
 void giveWindowMnemonics(QMainWindow& window) {
     giveMenus(window);
-    QString taken;
-    for (const QAction* menu : window.menuBar()->actions()) {
-        taken += mnemonicOf(menu->text());
+    for (const auto& [name, letter] : letters) {
+        if (auto* button = window.findChild<QAbstractButton*>(QLatin1String(name))) {
+            giveLetter(*button, letter);
+        }
     }
-    QList<QAbstractButton*> always;
-    for (const char* holder : {"fraCreate", "fraBehaviour", "cmdApply", "cmdStop"}) {
-        always += buttonsOf(window, holder);
-    }
-    taken = giveMnemonics(always, taken);
-    const QString shared = giveMnemonics(buttonsOf(window, "fraShared"), taken);
-    giveMnemonics(buttonsOf(window, "fraText"), shared);
-    giveMnemonics(buttonsOf(window, "fraImg"), taken); // these two come alone
-    giveMnemonics(buttonsOf(window, "fraQor"), taken);
-    const auto stop = buttonsOf(window, "cmdStop"); // can be used while a panel is open
+    // A panel covers the window, but for one button.
+    const QList<QAbstractButton*> stop = {window.findChild<QAbstractButton*>("cmdStop")};
     for (const char* panel : {"fraModifier(0)", "fraModifier(1)", "fraModifier(2)"}) {
-        giveMnemonics(stop + buttonsOf(window, panel));
+        const auto* holder = window.findChild<QWidget*>(QLatin1String(panel));
+        giveMnemonics(stop + holder->findChildren<QAbstractButton*>());
     }
 }
 

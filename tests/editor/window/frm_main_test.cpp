@@ -253,8 +253,8 @@ void FrmMainTest::behaviourMarksFollowTheSelection() {
             .bold();
     };
     const auto caption = [&](int index) {
-        return editor.window.findChild<QAction*>(QStringLiteral("mnuModifier(%1)").arg(index))
-            ->text();
+        return captionOf(
+            *editor.window.findChild<QAction*>(QStringLiteral("mnuModifier(%1)").arg(index)));
     };
     const QStringList plain = {"Modifiers", "Timers", "Condition"};
     for (int i = 0; i < 3; ++i) {

@@ -87,12 +87,15 @@ void pressMenuKey(Editor& editor) {
     QApplication::sendEvent(editor.window.windowHandle(), &event);
 }
 
-/// Leads the focus to a control with the Tab key.
+/// Leads the focus from the checked screen to a control with the Tab key. Not the whole way round:
+/// on the surface the key selects other elements.
 void tabTo(Editor& editor, const char* name) {
-    QVERIFY2(wayOf(editor, Qt::Key_Tab).contains(QLatin1String(name)), name);
-    while (focusName() != QLatin1String(name)) {
+    constexpr int farTooMany = 60;
+    editor.optScreen(editor.document().currentLayout())->setFocus();
+    for (int i = 0; i < farTooMany && focusName() != QLatin1String(name); ++i) {
         press(Qt::Key_Tab);
     }
+    QCOMPARE(focusName(), QLatin1String(name));
 }
 
 /// What the Tab key could lead to: of the screen buttons only the checked one.
