@@ -1,11 +1,9 @@
-"""The pictures that belong to the program itself: its icon, the tool icons, the program disc and the game list."""
+"""The pictures that belong to the program itself: its icon, the program disc and the game list."""
 
 import math
 
 from lettering import write
 from raster import Canvas, Circle, Conic, Drawing, Gradient, Polygon, Radial, Ring, RoundRect, Strokes
-
-TOOL = "#2589BC"  # stands out by 3:1 on white and on dark grey alike
 
 
 def app_icon():
@@ -43,40 +41,6 @@ def small_app_icon():
     icon.fill(RoundRect(7.5, 6.5, 6, 4.5, 0.5), "#0B1B3C", 0.5)
     icon.fill(RoundRect(8, 7, 6, 4, 0.5), "#FFB84F")
     return icon
-
-
-def tool_icons():
-    """Name and drawing of each creation tool, on a grid of 20 with edges on whole pixels."""
-    icons = {name: Drawing(20, 20) for name in ("box", "line", "image", "text", "menu")}
-
-    box = icons["box"]
-    box.fill(RoundRect(2, 4, 16, 12, 2), TOOL, 0.3)
-    box.outline(RoundRect(3, 5, 14, 10, 1), 2, TOOL)
-
-    line = icons["line"]
-    line.fill(Strokes([[(4.5, 15.5), (15.5, 4.5)]], 2), TOOL)
-    line.fill(Circle(4.5, 15.5, 2.5), TOOL)
-    line.fill(Circle(15.5, 4.5, 2.5), TOOL)
-
-    image = icons["image"]
-    image.fill(RoundRect(2, 3, 16, 14, 2), TOOL, 0.15)
-    image.fill(Polygon((4, 15), (8.2, 9), (11, 12.6), (12.8, 10.8), (16, 15)), TOOL)
-    image.fill(Circle(13, 7.3, 1.7), TOOL)
-    image.outline(RoundRect(3, 4, 14, 12, 1), 2, TOOL)
-
-    text = icons["text"]
-    text.fill(RoundRect(3, 3, 14, 2), TOOL)
-    text.fill(RoundRect(3, 3, 2, 4), TOOL)
-    text.fill(RoundRect(15, 3, 2, 4), TOOL)
-    text.fill(RoundRect(9, 3, 2, 14), TOOL)
-    text.fill(RoundRect(7, 15, 6, 2), TOOL)
-
-    menu = icons["menu"]
-    menu.fill(RoundRect(1, 2, 18, 6, 1), TOOL, 0.3)
-    for y in (3, 9, 15):
-        menu.fill(RoundRect(3, y, 4, 4, 0.5), TOOL)
-        menu.fill(RoundRect(9, y + 1, 8, 2), TOOL)
-    return icons
 
 
 def program_picture():

@@ -71,9 +71,6 @@ def assets():
     save(ASSETS / "tarvel.svg", icon.svg("Tarvel").encode())
     for size in (16, 32, 48, 64, 128, 256):
         save_png(ASSETS / f"tarvel-{size}.png", (small if size <= 32 else icon).render(size))
-    for name, drawing in draw_assets.tool_icons().items():
-        save_png(ASSETS / f"tool-{name}.png", drawing.render(20))
-        save_png(ASSETS / f"tool-{name}@2x.png", drawing.render(40))
 
 
 def aurora():

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "document/element_kinds.h"
+#include "widgets/icons.h"
 
 #include <QRectF>
 
@@ -20,7 +21,7 @@ struct KindLook {
     struct Tool {
         const char* name;
         const char* caption;
-        const char* icon; ///< a picture of the resources, without folder and ".png"
+        IconName icon;
         const char* tip;
     };
     Tool tool;

@@ -34,7 +34,7 @@ void paint(SurfacePass& pass, int /*id*/, const Element& element) {
 
 const KindLook boxLook = {.tool = {.name = "optBox",
                                    .caption = "Box",
-                                   .icon = "tool-box",
+                                   .icon = IconName::box,
                                    .tip = "Draw a filled box or a frame"},
                           .paint = paint,
                           .bounds = rectangleBounds,

@@ -79,7 +79,7 @@ std::optional<SkinSize> naturalSize(const PanelValues& values, const SkinSetting
 
 const KindLook imageLook = {.tool = {.name = "optImg",
                                      .caption = "Image/Video",
-                                     .icon = "tool-image",
+                                     .icon = IconName::image,
                                      .tip = "Place a picture or a video of the skin's resources"},
                             .paint = paint,
                             .bounds = rectangleBounds,

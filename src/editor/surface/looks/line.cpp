@@ -52,7 +52,7 @@ QRectF bounds(const ElementControl& control) {
 } // namespace
 
 const KindLook lineLook = {
-    .tool = {.name = "optLine", .caption = "Line", .icon = "tool-line", .tip = "Draw a line"},
+    .tool = {.name = "optLine", .caption = "Line", .icon = IconName::line, .tip = "Draw a line"},
     .paint = paint,
     .bounds = bounds,
     .naturalSize = noNaturalSize};

@@ -19,7 +19,7 @@ void paint(SurfacePass& pass, int /*id*/, const Element& element) {
 
 const KindLook menuLook = {.tool = {.name = "optQor",
                                     .caption = "Game List (QOR Menu)",
-                                    .icon = "tool-menu",
+                                    .icon = IconName::menu,
                                     .tip = "Place the list of games"},
                            .paint = paint,
                            .bounds = rectangleBounds,

@@ -38,7 +38,7 @@ std::optional<SkinSize> naturalSize(const PanelValues& values, const SkinSetting
 
 const KindLook textLook = {.tool = {.name = "optText",
                                     .caption = "Text",
-                                    .icon = "tool-text",
+                                    .icon = IconName::text,
                                     .tip = "Place a text: your own, or one that the dashboard "
                                            "fills in"},
                            .paint = paint,
