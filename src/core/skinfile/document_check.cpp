@@ -71,11 +71,14 @@ class DocumentCheck {
     }
 
   private:
-    void find(std::string text) { addFinding(findings_, std::move(text)); }
+    void find(std::string text, Severity severity = Severity::warning) {
+        addFinding(findings_, std::move(text), severity);
+    }
 
-    void find(int screen, int row, const std::string& text) {
+    void find(int screen, int row, const std::string& text, Severity severity = Severity::warning) {
         const auto caption = layoutScreens[static_cast<std::size_t>(screen)].caption;
-        find(std::string(caption).append(", ").append(named(screen, row)).append(": ") + text);
+        find(std::string(caption).append(", ").append(named(screen, row)).append(": ") + text,
+             severity);
         findings_.back().screen = screen;
         findings_.back().elementId = document_.itemData(screen, row);
     }
@@ -98,11 +101,12 @@ class DocumentCheck {
             }
             const std::string subject = "Resource " + inQuotes(resource.name);
             if (trimtofile(resource.content).empty()) {
-                find(subject + " names no file");
+                find(subject + " names no file", Severity::error);
             } else if (resource.outside) {
-                find(subject + ": " + fileOf(resource) + " lies outside the skin folder");
+                find(subject + ": " + fileOf(resource) + " lies outside the skin folder",
+                     Severity::error);
             } else if (!files_.FileExists(resource.content)) {
-                find(subject + ": " + fileOf(resource) + " is missing");
+                find(subject + ": " + fileOf(resource) + " is missing", Severity::error);
             }
         }
     }
@@ -128,7 +132,7 @@ class DocumentCheck {
             return;
         }
         if (const auto plan = planSave(document_.settings(), folder_); !plan.obstacle.empty()) {
-            find("A save over this folder is refused: " + plan.obstacle);
+            find("A save over this folder is refused: " + plan.obstacle, Severity::error);
         }
     }
 
@@ -140,7 +144,8 @@ class DocumentCheck {
         const Element& element = document_.element(document_.itemData(screen, row));
         if (rulesOf(element.elementKind).namesResource &&
             resourceOf(document_, element.imageSource) == nullptr) {
-            find(screen, row, "its source " + inQuotes(element.imageSource) + " names no resource");
+            find(screen, row, "its source " + inQuotes(element.imageSource) + " names no resource",
+                 Severity::error);
         }
         if (isUnknownField(element)) {
             find(screen, row,
@@ -162,11 +167,13 @@ class DocumentCheck {
                      " by " + std::to_string(picture.size.height) +
                      " pixels is more than twice as wide and high as it is shown anywhere, and "
                      "takes " +
-                     std::to_string(decodedBytes(picture.size)) + " bytes when decoded");
+                     std::to_string(decodedBytes(picture.size)) + " bytes when decoded",
+                 Severity::note);
         }
         if (!report.large.empty()) {
             find("All pictures together take " + std::to_string(report.decodedBytes) +
-                 " bytes when decoded");
+                     " bytes when decoded",
+                 Severity::note);
         }
     }
 
@@ -183,10 +190,11 @@ std::string inQuotes(std::string_view text) {
     return std::string("\"").append(text).append("\"");
 }
 
-void addFinding(std::vector<Finding>& findings, std::string text) {
+void addFinding(std::vector<Finding>& findings, std::string text, Severity severity) {
     const auto isLineBreak = [](char c) { return c == '\n' || c == '\r'; };
     std::replace_if(text.begin(), text.end(), isLineBreak, ' ');
-    findings.push_back({.text = std::move(text), .screen = {}, .elementId = {}});
+    findings.push_back(
+        {.text = std::move(text), .screen = {}, .elementId = {}, .severity = severity});
 }
 
 void findInDocument(const SkinDocument& document, const std::filesystem::path& folder,

@@ -3,6 +3,7 @@
 
 #include "document/skin_document.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -11,13 +12,23 @@
 
 namespace tarvel {
 
+enum class Severity : std::uint8_t {
+    error,   ///< a part of the skin will not be shown, or not be saved
+    warning, ///< something is probably not what is meant
+    note     ///< good to know
+};
+
 /// Something worth knowing.
 struct Finding {
     std::string text;             ///< one line for the user
     std::optional<int> screen;    ///< of the element that it is about
     std::optional<int> elementId; ///< set when the screen is
+    Severity severity = Severity::warning;
 
-    bool operator==(const Finding&) const = default;
+    /// The same thing about the same element. How bad it is follows from that.
+    bool operator==(const Finding& other) const {
+        return text == other.text && screen == other.screen && elementId == other.elementId;
+    }
 };
 
 /// In the order of the skin: resource files that are missing, lie outside or have one name; sources
@@ -34,7 +45,8 @@ void findInDocument(const SkinDocument& document, const std::filesystem::path& f
 void findCharacters(std::string_view writtenText, std::vector<Finding>& findings);
 
 /// Adds a finding; line breaks in the text become blanks.
-void addFinding(std::vector<Finding>& findings, std::string text);
+void addFinding(std::vector<Finding>& findings, std::string text,
+                Severity severity = Severity::warning);
 
 /// A name as findings show it.
 [[nodiscard]] std::string inQuotes(std::string_view text);

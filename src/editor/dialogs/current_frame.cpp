@@ -6,6 +6,8 @@
 #include "dialogs/resource_thumbnails.h"
 #include "editing/resource_uses.h"
 #include "widgets/control_names.h"
+#include "widgets/empty_hint.h"
+#include "widgets/icons.h"
 #include "widgets/prompts.h"
 #include "widgets/search_progress.h"
 #include "widgets/shown_path.h"
@@ -64,6 +66,12 @@ void CurrentFrame::build() {
     lstRes_->setItemDelegate(rows_);
     lstRes_->setEditTriggers(QAbstractItemView::EditKeyPressed); // F2
     lstRes_->installEventFilter(this);
+    cmdRename_->setIcon(icon(IconName::rename));
+    cmdReplace_->setIcon(icon(IconName::replace));
+    cmdRemove_->setIcon(icon(IconName::remove));
+    cmdLocate_->setIcon(icon(IconName::locate));
+    new EmptyHint(*lstRes_,
+                  tr("No resources yet.\nChoose a file above, or drop one here.")); // NOLINT
     cmdRename_->setToolTip(tr("Give the resource another name (F2). Its elements follow."));
     cmdReplace_->setToolTip(tr("Give the resource another file. Its elements show that."));
     cmdRemove_->setToolTip(tr("Take the resource out of the skin (Delete)"));

@@ -2,6 +2,7 @@
 #include "dialogs/fields_frame.h"
 
 #include "widgets/control_names.h"
+#include "widgets/empty_hint.h"
 #include "widgets/field_edit.h"
 
 #include <QGridLayout>
@@ -41,6 +42,7 @@ FieldsFrame::FieldsFrame(const QString& caption, QWidget* parent)
     grid_->addLayout(valueLine_, valueRow, valueColumn);
     lstFields_->setMinimumSize(170, 110);
     txtData_->setMinimumWidth(170);
+    new EmptyHint(*lstFields_, tr("No fields.\nThe button \"Add Field\" makes one.")); // NOLINT
 
     connect(lstFields_, &QListWidget::itemSelectionChanged, this, &FieldsFrame::lstFields_Click);
     connect(lstFields_, &QListWidget::itemClicked, this, &FieldsFrame::lstFields_Click);

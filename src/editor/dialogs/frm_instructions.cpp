@@ -3,6 +3,7 @@
 
 #include "widgets/control_names.h"
 #include "widgets/path_label.h"
+#include "widgets/style/heading.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -57,8 +58,7 @@ QLayout* makeHeading(QWidget* parent) {
     auto* heading = new QLabel(QObject::tr("Your skin is saved"), parent);
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * 1.25);
-    font.setBold(true);
-    heading->setFont(font);
+    heading->setFont(headingFont(font));
     row->addWidget(heading, 1);
     return row;
 }
@@ -78,6 +78,7 @@ QPushButton* makeButton(QWidget* parent) {
     auto* button = named(new QPushButton(QObject::tr("OK"), parent), QStringLiteral("Command1"),
                          QObject::tr("OK: close the instructions"));
     button->setDefault(true);
+    button->setToolTip(QObject::tr("Close the instructions (Return or Escape)"));
     return button;
 }
 

@@ -4,10 +4,13 @@
 #include "dialogs/music_list.h"
 #include "editing/music_rules.h"
 #include "widgets/control_names.h"
+#include "widgets/empty_hint.h"
 #include "widgets/faint_text.h"
+#include "widgets/icons.h"
 #include "widgets/play_button.h"
 #include "widgets/prompts.h"
 #include "widgets/shown_path.h"
+#include "widgets/style/heading.h"
 #include "widgets/usable_files.h"
 
 #include <QCheckBox>
@@ -69,9 +72,7 @@ FrmMusic::FrmMusic(SkinDocument& document, Prompts& prompts, QWidget* parent,
     , cmdOK_(makeOk())
     , player_(std::move(player))
     , easing_(30, 0.2, this) { // a fifth of a pixel is near enough
-    QFont bold = caption_->font();
-    bold.setBold(true);
-    caption_->setFont(bold);
+    caption_->setFont(headingFont(caption_->font()));
     cmdOK_->setParent(this);
     buildMusic();
     connectControls();
@@ -79,6 +80,7 @@ FrmMusic::FrmMusic(SkinDocument& document, Prompts& prompts, QWidget* parent,
 
 void FrmMusic::buildMusic() {
     cmdAdd_ = named(new QPushButton(QStringLiteral("Add Files")), QStringLiteral("cmdAdd"));
+    cmdAdd_->setIcon(icon(IconName::add));
     cmdPlay_ = new PlayButton; // which names itself
     cmdPlay_->setObjectName(QStringLiteral("cmdPlay"));
     lblPlaying_ = new QLabel;
@@ -89,6 +91,7 @@ void FrmMusic::buildMusic() {
     lstMusic_->setToolTip(tr("Delete or a right click removes a file from the list, Space or a "
                              "double click plays it.\nFiles can also be dropped here."));
     lstMusic_->setFixedHeight(150);
+    new EmptyHint(*lstMusic_, tr("No music yet.\nAdd files, or drop them here.")); // NOLINT
     auto* grid = new QGridLayout(musicInside_);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->addWidget(cmdAdd_, 0, 0);

@@ -5,6 +5,7 @@
 #include "panels/resource_looks.h"
 #include "surface/picture_cache.h"
 #include "widgets/control_names.h"
+#include "widgets/icons.h"
 #include "widgets/path_label.h"
 #include "widgets/prompts.h"
 #include "widgets/shown_path.h"
@@ -61,6 +62,8 @@ CustomFrame::CustomFrame(SkinDocument& document, Prompts& prompts, QWidget* owne
     lblFile_->setObjectName(QStringLiteral("lblFile"));
     buildGrid();
     connect(txtRes_, &QLineEdit::textChanged, this, &CustomFrame::inputChanged);
+    cmdBrowse_->setIcon(icon(IconName::open));
+    cmdAdd_->setIcon(icon(IconName::add));
     connect(cmdBrowse_, &QPushButton::clicked, this, &CustomFrame::cmdBrowse_Click);
     connect(cmdAdd_, &QPushButton::clicked, this, &CustomFrame::cmdAdd_Click);
 }
@@ -178,6 +181,7 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
           named(new QPushButton(QStringLiteral("Add Resource")), QStringLiteral("cmdAddDef"))) {
     setObjectName(QStringLiteral("fraPreset"));
     lblDesc_->setObjectName(QStringLiteral("lblDesc"));
+    cmdAddDef_->setIcon(icon(IconName::add));
     for (const auto& preset : presetResources) {
         lstResDef_->addItem(qtText(preset.entry));
     }

@@ -28,6 +28,7 @@ void SkinDialog::showEvent(QShowEvent* event) {
 QPushButton* SkinDialog::makeOk() {
     auto* button = named(new QPushButton(tr("OK")), QStringLiteral("cmdOK"), tr("OK: close"));
     button->setDefault(true);
+    button->setToolTip(tr("Close the dialog. What was changed is in the skin already (Escape)."));
     connect(button, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     return button;
 }

@@ -5,6 +5,7 @@
 #include "editing/step_names.h"
 #include "widgets/content_scroll.h"
 #include "widgets/control_names.h"
+#include "widgets/style/heading.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -47,9 +48,7 @@ BehaviourPanel::BehaviourPanel(SkinDocument& document, std::string_view step, co
     rows_->setSpacing(spacing);
     column_->addWidget(new ContentScroll(content, ContentScroll::Ways::both), 1);
     auto* title = new QLabel(heading);
-    QFont bold = title->font();
-    bold.setBold(true);
-    title->setFont(bold);
+    title->setFont(headingFont(title->font()));
     rows_->addWidget(title);
 }
 

@@ -40,9 +40,11 @@ CreatePanel::CreatePanel(QWidget* parent)
         button->setObjectName(QLatin1String(tool.name));
         button->setText(QLatin1String(tool.caption));
         button->setAccessibleName(button->text());
-        button->setToolTip(QLatin1String(tool.tip));
-        button->setIcon(QIcon(QStringLiteral(":/tarvel/%1.png").arg(QLatin1String(tool.icon))));
-        button->setIconSize({20, 20});
+        button->setToolTip(tr("%1.\nReturn puts one into the middle; a double click, or "
+                              "Shift+Space, keeps the tool.")
+                               .arg(QLatin1String(tool.tip)));
+        button->setIcon(icon(tool.icon));
+        button->setIconSize({toolIcon, toolIcon});
         button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         button->setCheckable(true);
         button->setFocusPolicy(Qt::StrongFocus);

@@ -4,7 +4,9 @@
 #include "document/layout_screens.h"
 #include "panels/element_list_model.h"
 #include "panels/element_list_view.h"
+#include "panels/element_row_delegate.h"
 #include "widgets/control_names.h"
+#include "widgets/empty_hint.h"
 #include "widgets/qt_text.h"
 
 #include <QScopedValueRollback>
@@ -17,11 +19,13 @@
 
 namespace tarvel {
 
-ElementsPanel::ElementsPanel(const SkinDocument& document, Selection& selection, QWidget* parent)
+ElementsPanel::ElementsPanel(const SkinDocument& document, Selection& selection,
+                             PictureCache& pictures, QWidget* parent)
     : QGroupBox(QStringLiteral("ELEMENTS (Z-ORDER)"), parent)
     , document_(document)
     , selection_(selection)
     , stack_(new QStackedLayout)
+    , rows_(new ElementRowDelegate(document, pictures, this))
     , documentWatch_(document.watch(*this))
     , selectionWatch_(selection.watch(*this)) {
     named(this, QStringLiteral("fraElements"), QStringLiteral("Elements in stacking order"));
@@ -34,6 +38,8 @@ ElementsPanel::ElementsPanel(const SkinDocument& document, Selection& selection,
         stack_->addWidget(lst_[at]);
     }
     stack_->setCurrentIndex(document.currentLayout());
+    connect(&rows_->thumbnails(), &ElementThumbnails::made, this,
+            [this] { current().viewport()->update(); });
 }
 
 ElementListView* ElementsPanel::makeList(int screen) {
@@ -42,6 +48,8 @@ ElementListView* ElementsPanel::makeList(int screen) {
                        QStringLiteral("Elements of %1").arg(caption));
     list->setModel(&model(screen));
     list->setUniformItemSizes(true); // thousands of rows open at once
+    list->setItemDelegate(rows_);
+    new EmptyHint(*list, tr("No elements yet.\nChoose a tool and draw on the screen.")); // NOLINT
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setTextElideMode(Qt::ElideRight); // the tool tip shows the whole text
@@ -101,6 +109,37 @@ void ElementsPanel::hover(int row) {
     emit elementHovered(hovered_);
 }
 
+void ElementsPanel::markRow(int row) {
+    const int screen = document_.currentLayout();
+    const bool isThere = row >= 0 && row < document_.rowCount(screen);
+    const int marked = isThere ? document_.itemData(screen, row) : 0;
+    const int before = rows_->marked();
+    if (marked != before) {
+        rows_->setMarked(marked);
+        repaintRow(before);
+        repaintRow(marked);
+    }
+}
+
+// Looked for among the rows in sight: there may be many thousands of others.
+void ElementsPanel::repaintRow(int elementId) {
+    ElementListView& list = current();
+    for (QModelIndex row = list.indexAt({0, 0}); row.isValid();
+         row = row.siblingAtRow(row.row() + 1)) {
+        const QRect place = list.visualRect(row);
+        if (place.top() > list.viewport()->height()) {
+            return;
+        }
+        if (row.data(Qt::UserRole).toInt() == elementId) {
+            list.viewport()->update(place);
+        }
+    }
+}
+
+void ElementsPanel::picturesChanged() {
+    rows_->thumbnails().forget();
+}
+
 bool ElementsPanel::isDragging() const {
     return current().isDragging();
 }
@@ -158,9 +197,13 @@ void ElementsPanel::showChange(const DocumentChange& change) {
             model->textsChanged();
         }
         break;
-    case DocumentChange::What::settings:
     case DocumentChange::What::element:
+        repaintRow(change.elementId); // its colour or its picture
+        break;
     case DocumentChange::What::elements:
+        current().viewport()->update();
+        break;
+    case DocumentChange::What::settings:
     case DocumentChange::What::counts:
         break;
     }

@@ -14,14 +14,22 @@ namespace tarvel {
 
 class ElementListModel;
 class ElementListView;
+class ElementRowDelegate;
+class PictureCache;
 
-/// Shows the selection in the current screen's list, and takes what is chosen there to it. Document
-/// and selection are not owned and outlive the panel.
+/// Shows the selection in the current screen's list, and takes what is chosen there to it.
+/// Document, selection and pictures are not owned and outlive the panel.
 class ElementsPanel : public QGroupBox, private DocumentObserver, private SelectionObserver {
     Q_OBJECT
 
   public:
-    ElementsPanel(const SkinDocument& document, Selection& selection, QWidget* parent = nullptr);
+    ElementsPanel(const SkinDocument& document, Selection& selection, PictureCache& pictures,
+                  QWidget* parent = nullptr);
+
+    /// Marks the row of the current screen whose element the pointer is over; -1 for none.
+    void markRow(int row);
+    /// Picture files may have other content.
+    void picturesChanged();
 
     /// Whether rows are being dragged.
     [[nodiscard]] bool isDragging() const;
@@ -41,6 +49,7 @@ class ElementsPanel : public QGroupBox, private DocumentObserver, private Select
     void showChange(const DocumentChange& change);
     void selectionChanged() override;
     void hover(int row);
+    void repaintRow(int elementId);
     [[nodiscard]] ElementListView& current() const;
     ElementListView* makeList(int screen);
     void lst_Click(int screen);
@@ -54,6 +63,7 @@ class ElementsPanel : public QGroupBox, private DocumentObserver, private Select
     std::array<ElementListModel*, screenCount> models_{};
     std::array<ElementListView*, screenCount> lst_{};
     QStackedLayout* stack_;
+    ElementRowDelegate* rows_;
     int hovered_ = 0;        // element whose row is below the pointer
     bool following_ = false; // the lists change by the document, not by a hand
     DocumentWatch documentWatch_;

@@ -21,6 +21,12 @@ namespace tarvel {
 namespace {
 
 constexpr int narrowest = 340; // pixels
+QString applyTip(bool differs) {
+    return differs ? PropertyPanel::tr("Take the values of the panel over into the element, from "
+                                       "which they differ")
+                   : PropertyPanel::tr("Take the values of the panel over into the element");
+}
+
 
 } // namespace
 
@@ -71,6 +77,7 @@ void PropertyPanel::buildFrames() {
 
 void PropertyPanel::buildRow() {
     cmdApply_ = named(new QPushButton(qtText(caption::applyChanges)), QStringLiteral("cmdApply"));
+    cmdApply_->setToolTip(applyTip(false));
     connect(cmdApply_, &QPushButton::clicked, this, &PropertyPanel::applyClicked);
     commands_ = new QWidget;
     row_ = new QHBoxLayout(commands_);
@@ -163,7 +170,7 @@ void PropertyPanel::setDiffers(bool differs) {
     cmdApply_->setFont(font);
     cmdApply_->setAccessibleDescription(differs ? tr("The panel differs from the element")
                                                 : QString());
-    cmdApply_->setToolTip(cmdApply_->accessibleDescription());
+    cmdApply_->setToolTip(applyTip(differs));
 }
 
 void PropertyPanel::stopPreview() {

@@ -4,6 +4,7 @@
 #include "editing/step_names.h"
 #include "widgets/control_names.h"
 #include "widgets/field_edit.h"
+#include "widgets/icon_label.h"
 #include "widgets/qt_text.h"
 
 #include <QClipboard>
@@ -14,7 +15,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRegularExpressionValidator>
-#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -143,12 +143,7 @@ QWidget* TimerPanel::makeMessage() {
     auto* message = new QWidget;
     auto* row = new QHBoxLayout(message);
     row->setContentsMargins(0, 0, 0, 0);
-    warningSign_ = new QLabel;
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    warningSign_->setPixmap(style()
-                                ->standardIcon(QStyle::SP_MessageBoxWarning)
-                                .pixmap(QSize(size, size), devicePixelRatioF()));
-    warningSign_->setFixedSize(size, size);
+    warningSign_ = new IconLabel(IconName::warning);
     lblTimersMsg_ = new QLabel;
     lblTimersMsg_->setObjectName(QStringLiteral("lblTimersMsg"));
     lblTimersMsg_->setWordWrap(true);

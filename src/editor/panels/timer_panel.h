@@ -29,7 +29,7 @@ class TimerPanel : public BehaviourPanel {
 
     std::array<QLineEdit*, timerSlots> txtTimer_{};
     QLabel* lblTimersMsg_ = nullptr;
-    QLabel* warningSign_ = nullptr;
+    QWidget* warningSign_ = nullptr;
 };
 
 } // namespace tarvel

@@ -21,8 +21,7 @@ QRectF rectOf(const Bounds& bounds) {
 }
 
 // Filled and opaque: stroked or blended, thousands of them take longer than their elements.
-void paintThinFrame(QPainter& painter, const QRect& frame) {
-    const QColor color = markColor().darker(130);
+void paintThinFrame(QPainter& painter, const QRect& frame, const QColor& color) {
     const int width = frame.width();
     const int height = frame.height();
     painter.fillRect(frame.left(), frame.top(), width, 1, color);
@@ -64,13 +63,15 @@ void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
 
 void GroupMarks::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    const MarkTones tones = groupTones();
     for (const QRect& frame : frames_) {
-        paintThinFrame(painter, frame);
+        paintThinFrame(painter, frame.adjusted(-1, -1, 1, 1), tones.dark);
+        paintThinFrame(painter, frame, tones.light);
     }
     const Place& place = around_;
     const QRectF around =
         surface_.mapping().toWidget(nearSurface(QRectF(place[0], place[1], place[2], place[3])));
-    paintOutline(painter, around.adjusted(-0.5, -0.5, 0.5, 0.5), markColor(), Qt::DashLine);
+    paintOutline(painter, around.adjusted(-0.5, -0.5, 0.5, 0.5), outlineTones(), Qt::DashLine);
     for (const Handle handle : handles) {
         if (!hasFrameHandle(around_, handle)) {
             continue;

@@ -1,6 +1,7 @@
 // Paints guides and grid.
 #include "surface/guide_marks.h"
 
+#include "surface/mark_painting.h"
 #include "surface/pic.h"
 
 #include <QPaintEvent>
@@ -12,7 +13,6 @@ namespace tarvel {
 
 namespace {
 
-const QColor guideColor(255, 0, 170);
 const QColor gridColor(160, 160, 160, 190);
 constexpr double tick = 3; // pixels: half of the strokes at the ends of a gap
 
@@ -82,11 +82,18 @@ void GuideMarks::paintGuide(QPainter& painter, const Guide& guide) const {
     };
     const QPointF first = at(guide.from, guide.position);
     const QPointF second = at(guide.to, guide.position);
-    painter.setPen(
-        QPen(guideColor, 1, guide.kind == GuideKind::line ? Qt::DashLine : Qt::SolidLine));
-    painter.drawLine(first, second);
-    if (guide.kind == GuideKind::gap) {
-        const QPointF stroke = upright ? QPointF(tick, 0) : QPointF(0, tick);
+    const MarkTones tones = guideTones();
+    if (guide.kind == GuideKind::line) {
+        painter.setPen(QPen(tones.dark, 1));
+        painter.drawLine(first, second);
+        painter.setPen(QPen(tones.light, 1, Qt::DashLine));
+        painter.drawLine(first, second);
+        return;
+    }
+    const QPointF stroke = upright ? QPointF(tick, 0) : QPointF(0, tick);
+    for (const QPen& pen : {QPen(tones.dark, 3), QPen(tones.light, 1)}) {
+        painter.setPen(pen);
+        painter.drawLine(first, second);
         painter.drawLine(first - stroke, first + stroke);
         painter.drawLine(second - stroke, second + stroke);
     }

@@ -41,9 +41,9 @@ void HoverMark::mark(const SkinDocument& document, int elementId) {
 }
 
 void HoverMark::paintEvent(QPaintEvent* /*event*/) {
-    constexpr QColor color(255, 170, 0);
     QPainter painter(this);
-    paintOutline(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), color, Qt::DashLine);
+    paintOutline(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), hoverTones(),
+                 Qt::DashLine);
 }
 
 } // namespace tarvel

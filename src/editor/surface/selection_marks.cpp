@@ -53,7 +53,7 @@ class SelectionBox : public QWidget {
         QPainter painter(this);
         // Around the element's pixels, whose own border shows inside it.
         const QRectF outline = QRectF(rect()).adjusted(margin - 1, margin - 1, -margin, -margin);
-        paintOutline(painter, outline, element_.elementLocked ? QColor(Qt::gray) : markColor(),
+        paintOutline(painter, outline, element_.elementLocked ? lockedTones() : outlineTones(),
                      withHandles_ ? Qt::DashLine : Qt::SolidLine);
         constexpr std::array handles = {Handle::topLeft,    Handle::top,         Handle::topRight,
                                         Handle::right,      Handle::bottomRight, Handle::bottom,

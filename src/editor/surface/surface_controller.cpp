@@ -25,6 +25,8 @@ namespace tarvel {
 
 namespace {
 
+constexpr int unknownRow = -2; // to be told, whatever it is
+
 int modifiersOf(const QKeyEvent& event) {
     const auto held = [&](Qt::KeyboardModifier key, int bit) {
         return event.modifiers().testFlag(key) ? bit : 0;
@@ -86,6 +88,7 @@ void SurfaceController::documentChanged(const DocumentChange& change) {
         change.what == DocumentChange::What::currentLayout) {
         (void)takeWork(); // what it worked on is not shown any more
     }
+    hoveredRow_ = unknownRow;
     showPointerLater();
 }
 
@@ -154,6 +157,7 @@ bool SurfaceController::eventFilter(QObject* watched, QEvent* event) {
         return true;
     case QEvent::Leave:
         hover_.reset();
+        tellHovered(-1);
         return false;
     case QEvent::MouseMove:
         move(*static_cast<QMouseEvent*>(event));
@@ -433,13 +437,22 @@ void SurfaceController::showPointer() {
     if (!hover_ || work_ != nullptr) {
         return;
     }
-    const Qt::CursorShape shape = surface_.isEnabled() ? pointerAt(*hover_) : Qt::ArrowCursor;
+    const bool isOpen = surface_.isEnabled();
+    const int row = isOpen && !kind_ ? picks_.rowAt(host_.document(), *hover_) : -1;
+    tellHovered(row);
+    const Qt::CursorShape shape = isOpen ? pointerAt(*hover_, row) : Qt::ArrowCursor;
     if (surface_.cursor().shape() != shape) {
         surface_.setCursor(shape);
     }
 }
 
-Qt::CursorShape SurfaceController::pointerAt(SkinPoint point) {
+void SurfaceController::tellHovered(int row) {
+    if (std::exchange(hoveredRow_, row) != row) {
+        emit rowHovered(row);
+    }
+}
+
+Qt::CursorShape SurfaceController::pointerAt(SkinPoint point, int row) {
     if (kind_) {
         return Qt::CrossCursor;
     }
@@ -453,7 +466,6 @@ Qt::CursorShape SurfaceController::pointerAt(SkinPoint point) {
             return pointerOf(handle);
         }
     }
-    const int row = picks_.rowAt(document, point);
     return row < 0 ? Qt::ArrowCursor : Qt::SizeAllCursor;
 }
 

@@ -53,6 +53,9 @@ class SurfaceController : public QObject, private DocumentObserver {
     void aboutToDraw(tarvel::ElementKind kind, bool& refuse);
     /// The right button asks for a menu, or the menu key.
     void menuWanted(QPoint globalPosition);
+    /// The pointer is over the element of this row of the current screen and could pick it; -1 for
+    /// none. Told again for the same row when the document has changed.
+    void rowHovered(int row);
     /// Escape, with nothing going on.
     void toolGivenUp();
     /// A file of the host was dropped onto the surface.
@@ -81,7 +84,8 @@ class SurfaceController : public QObject, private DocumentObserver {
     void showPointer();
     void showPointerLater();
     void draw(ElementKind kind, SkinPoint press);
-    [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point);
+    [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point, int row);
+    void tellHovered(int row);
     [[nodiscard]] SkinPoint pointOf(const QMouseEvent& event) const;
     [[nodiscard]] SkinPoint snappedPointOf(const QMouseEvent& event);
     [[nodiscard]] double snapTolerance() const;
@@ -109,6 +113,7 @@ class SurfaceController : public QObject, private DocumentObserver {
     SkinPoint lastPoint_;
     std::optional<SkinPoint> hover_; // where the pointer stands, while it is over the surface
     bool pointerIsStale_ = false;
+    int hoveredRow_ = -1;
 };
 
 } // namespace tarvel

@@ -1,6 +1,8 @@
 // Steps of a fixed part of what is left, by the clock of Qt's animations.
 #include "widgets/easing.h"
 
+#include "widgets/motion.h"
+
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -32,6 +34,9 @@ void Easing::start(std::vector<Move> moves) {
     }
     moves_ = std::make_shared<const Moves>(std::move(moves));
     passed_.start();
+    if (!motionWanted()) {
+        finish();
+    }
 }
 
 void Easing::finish() {

@@ -32,7 +32,8 @@ class Easing : public QObject {
     /// moves.
     Easing(int divisor, double nearEnough, QObject* parent = nullptr);
 
-    /// Starts moving. Moves under way are left where they are.
+    /// Starts moving. Moves under way are left where they are. Where the desktop wants no motion,
+    /// all are at their targets when it returns.
     void start(std::vector<Move> moves);
     /// Takes all moves to their targets at once.
     void finish();

@@ -8,7 +8,7 @@ namespace tarvel {
 
 [[nodiscard]] inline QColor faintText(const QPalette& palette) {
     QColor color = palette.color(QPalette::Text);
-    color.setAlphaF(0.6F);
+    color.setAlphaF(0.7F); // enough to be read on the light and the dark palette
     return color;
 }
 

@@ -16,9 +16,6 @@ class PlayButton : public QPushButton {
     void setPlaying(bool playing);
     [[nodiscard]] bool isPlaying() const { return playing_; }
 
-  protected:
-    void changeEvent(QEvent* event) override;
-
   private:
     void showState();
     void drawIcon();

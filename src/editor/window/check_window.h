@@ -14,6 +14,8 @@ class QListWidget;
 
 namespace tarvel {
 
+class EmptyHint;
+
 /// Lists the findings of the last check, and says when the skin is another one since. Not modal.
 /// The document is not owned and outlives it.
 class CheckWindow : public QDialog, private DocumentObserver {
@@ -40,6 +42,7 @@ class CheckWindow : public QDialog, private DocumentObserver {
     QLabel* lblResult_;
     QLabel* lblStale_;
     QListWidget* lstFindings_;
+    EmptyHint* hint_;
     DocumentWatch watch_;
 };
 

@@ -27,6 +27,7 @@
 #include "window/skin_dialogs.h"
 #include "window/skin_status.h"
 #include "window/snap_choice.h"
+#include "window/style_choice.h"
 #include "window/tool_choice.h"
 #include "window/window_gate.h"
 #include "window/window_keys.h"

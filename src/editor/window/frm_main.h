@@ -42,6 +42,7 @@ class SelectionViews;
 class SkinDialogs;
 class SnapChoice;
 class SkinStatus;
+class StyleChoice;
 class ToolChoice;
 class WindowGate;
 class WindowKeys;
@@ -131,6 +132,7 @@ class FrmMain : public QMainWindow {
     ElementCommands commands_{document_, selection_};
 
     std::unique_ptr<MainMenus> menus_;
+    std::unique_ptr<StyleChoice> style_;
     Pic* pic_ = nullptr;
     QWidget* surface_ = nullptr; // the frame around Pic
     QLabel* lblPos_ = nullptr;

@@ -19,16 +19,19 @@
 #include "widgets/mnemonics.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
+#include "widgets/tool_tips.h"
 #include "widgets/turning_layout.h"
 #include "window/arrange_commands.h"
 #include "window/behaviour_panels.h"
 #include "window/change_teller.h"
 #include "window/clipboard_commands.h"
+#include "window/control_tips.h"
 #include "window/element_walk.h"
 #include "window/focus_round.h"
 #include "window/frm_main.h"
 #include "window/help_windows.h"
 #include "window/main_menus.h"
+#include "window/menu_icons.h"
 #include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
 #include "window/selection_views.h"
@@ -36,6 +39,7 @@
 #include "window/skin_dialogs.h"
 #include "window/skin_status.h"
 #include "window/snap_choice.h"
+#include "window/style_choice.h"
 #include "window/tool_choice.h"
 #include "window/window_columns.h"
 #include "window/window_gate.h"
@@ -79,6 +83,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
         QStringLiteral(":: TARVEL %1.%2 :: by varnokelt ").arg(versionMajor).arg(versionMinor));
     setWindowIcon(QIcon(QStringLiteral(":/tarvel/tarvel.png")));
     menus_ = std::make_unique<MainMenus>(*this);
+    style_ = std::make_unique<StyleChoice>(*menus_->mnuSystemStyle, remembered_);
     gate_ = new WindowGate(*this);
     slide_ = new PanelSlide(this);
     dialogs_ = std::make_unique<SkinDialogs>(document_, prompts_, pictures_, this);
@@ -103,6 +108,9 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     buildEditCommands();
     watchPictures();
     buildKeyboard();
+    setMenuIcons(*this);
+    setControlTips(*this);
+    new ToolTips(*this); // NOLINT: the window owns it
 }
 
 QWidget* FrmMain::buildSurface() {
@@ -152,7 +160,7 @@ QWidget* FrmMain::buildPanels() {
     auto* column = new QVBoxLayout(panels);
     column->setContentsMargins(0, 0, 0, 0);
     fraLayout_ = sliding(new LayoutPanel(document_));
-    fraElements_ = sliding(new ElementsPanel(document_, selection_));
+    fraElements_ = sliding(new ElementsPanel(document_, selection_, pictures_));
     fraPos_ = sliding(new PositionPanel);
     properties_ = sliding(new PropertyPanel(document_, prompts_, pictures_));
     behaviours_ = sliding(new BehaviourButtons(menus_->mnuModifier()));
@@ -319,6 +327,8 @@ void FrmMain::buildEditCommands() {
         .lock = *menus_->mnuLocked});
     connect(fraElements_, &ElementsPanel::rowsDropped, arranging_.get(), &ArrangeCommands::reorder);
     auto* hoverMark = new HoverMark(*pic_);
+    connect(&tools_->controller(), &SurfaceController::rowHovered, fraElements_,
+            &ElementsPanel::markRow);
     connect(fraElements_, &ElementsPanel::elementHovered, hoverMark,
             [this, hoverMark](int elementId) { hoverMark->mark(document_, elementId); });
 }
@@ -348,6 +358,7 @@ void FrmMain::watchPictures() {
     auto* watch = watch_.get();
     connect(&files_, &SkinFileCommands::told, watch, &PictureWatch::look); // a skin was loaded
     connect(watch, &PictureWatch::changed, this, [this] { ground_->picturesChanged(); });
+    connect(watch, &PictureWatch::changed, fraElements_, &ElementsPanel::picturesChanged);
 }
 
 void FrmMain::slideIn() {

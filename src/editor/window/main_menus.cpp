@@ -51,6 +51,7 @@ struct MainMenus::Table {
         Entry{"mnuOptions", "mnuDash4", "-", nullptr},
         Entry{"mnuOptions", "mnuSnapElements", "Snap to elements", &MainMenus::mnuSnapElements},
         Entry{"mnuOptions", "mnuSnapGrid", "Snap to grid", &MainMenus::mnuSnapGrid},
+        Entry{"mnuOptions", "mnuSystemStyle", "System Style", &MainMenus::mnuSystemStyle},
         Entry{"mnuEdit", "mnuUndo", "Undo", &MainMenus::mnuUndo},
         Entry{"mnuEdit", "mnuRedo", "Redo", &MainMenus::mnuRedo},
         Entry{"mnuEdit", "mnuDash3", "-", nullptr},

@@ -42,6 +42,7 @@ class MainMenus {
     QAction* mnuCover = nullptr;
     QAction* mnuSnapElements = nullptr;
     QAction* mnuSnapGrid = nullptr;
+    QAction* mnuSystemStyle = nullptr;
     QAction* mnuUndo = nullptr;
     QAction* mnuRedo = nullptr;
     QAction* mnuCut = nullptr;

@@ -1,0 +1,48 @@
+// Sets the style of the application.
+#include "window/style_choice.h"
+
+#include "widgets/remembered.h"
+#include "widgets/style/tarvel_style.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QStyleFactory>
+
+namespace tarvel {
+
+namespace {
+
+constexpr RememberedSwitch systemStyleKey{"systemStyle", false};
+
+bool isOwn(const QStyle& style) {
+    return qobject_cast<const TarvelStyle*>(&style) != nullptr;
+}
+
+// The style that was there before the first of our own: the desktop's, or that of the command line.
+QString& systemName() {
+    static QString name = QApplication::style()->name();
+    return name;
+}
+
+} // namespace
+
+StyleChoice::StyleChoice(QAction& systemStyle, Remembered& remembered)
+    : remembered_(remembered) {
+    const bool system = remembered.value(systemStyleKey);
+    systemStyle.setCheckable(true);
+    systemStyle.setChecked(system);
+    choose(system);
+    connect(&systemStyle, &QAction::toggled, this, [this](bool checked) {
+        remembered_.remember(systemStyleKey, checked);
+        choose(checked);
+    });
+}
+
+void StyleChoice::choose(bool system) {
+    const QString name = systemName(); // before it is another one
+    if (system == isOwn(*QApplication::style())) {
+        QApplication::setStyle(system ? QStyleFactory::create(name) : new TarvelStyle);
+    }
+}
+
+} // namespace tarvel
