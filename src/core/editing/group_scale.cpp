@@ -63,16 +63,16 @@ Place commonFrame(std::span<const StartPlace> starts) {
             toSingle(down.length)};
 }
 
-bool hasFrameHandle(const Place& frame, Handle handle) {
-    return hasHandle(elementOf(frame), handle);
+bool hasFrameHandle(const Place& frame, Handle handle, double zoom) {
+    return hasHandle(elementOf(frame), handle, zoom);
 }
 
 SkinPoint frameHandleCentre(const Place& frame, Handle handle) {
     return handleCentre(elementOf(frame).elementControl, handle);
 }
 
-Handle frameHandleAt(const Place& frame, SkinPoint point) {
-    return handleAt(elementOf(frame), point);
+Handle frameHandleAt(const Place& frame, SkinPoint point, double zoom) {
+    return handleAt(elementOf(frame), point, zoom);
 }
 
 bool scaleAll(SkinDocument& document, std::span<const StartPlace> starts, const Place& from,

@@ -21,9 +21,9 @@ namespace tarvel {
 /// The handles of the frame are those that an element of its place has. resized() tells the frame
 /// that follows from moving one of them, and with it the rules of sizing: no side becomes shorter
 /// than smallestSide, so nothing is turned over.
-[[nodiscard]] bool hasFrameHandle(const Place& frame, Handle handle);
+[[nodiscard]] bool hasFrameHandle(const Place& frame, Handle handle, double zoom = 1);
 [[nodiscard]] SkinPoint frameHandleCentre(const Place& frame, Handle handle);
-[[nodiscard]] Handle frameHandleAt(const Place& frame, SkinPoint point);
+[[nodiscard]] Handle frameHandleAt(const Place& frame, SkinPoint point, double zoom = 1);
 
 /// Puts every element where it is in `to` what it was in `from`, the frame at the start: positions
 /// and sizes, and of lines both ends.

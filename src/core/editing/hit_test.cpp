@@ -29,24 +29,39 @@ double centreAlong(const Side& side, int edge) {
     return side.start + side.length * (edge + 1) / 2;
 }
 
-bool reaches(const Side& side, int edge, double at) {
+bool reaches(const Side& side, int edge, double at, double zoom) {
     const double fromCentre = at - centreAlong(side, edge);
-    const double inward = edge == 0 ? handleReach : std::min<double>(handleReach, side.length / 4);
-    const double before = edge > 0 ? inward : handleReach;
-    const double after = edge < 0 ? inward : handleReach;
+    const double reach = handleReach / zoom;
+    const double inward = edge == 0 ? reach : std::min(reach, side.length / 4);
+    const double before = edge > 0 ? inward : reach;
+    const double after = edge < 0 ? inward : reach;
     return fromCentre >= -before && fromCentre <= after;
 }
 
-bool isAtEnd(double x, double y, double endX, double endY) {
-    return std::abs(endX - x) < lineEndReach && std::abs(endY - y) < lineEndReach;
+// How far an end of a line is from a point.
+struct Way {
+    double x;
+    double y;
+
+    [[nodiscard]] bool isWithin(double reach) const {
+        return std::abs(x) < reach && std::abs(y) < reach;
+    }
+    [[nodiscard]] double length() const { return std::hypot(x, y); }
+};
+
+Way wayTo(float endX, float endY, SkinPoint point, double zoom) {
+    const double shift = lineEndShift(zoom);
+    return {endX + shift - point.x, endY + shift - point.y};
 }
 
-Handle lineEndAt(const ElementControl& line, SkinPoint point) {
-    const bool atFirst = isAtEnd(point.x, point.y, line.X1, line.Y1);
-    const bool atSecond = isAtEnd(point.x, point.y, line.X2, line.Y2);
+Handle lineEndAt(const ElementControl& line, SkinPoint point, double zoom) {
+    const Way toFirst = wayTo(line.X1, line.Y1, point, zoom);
+    const Way toSecond = wayTo(line.X2, line.Y2, point, zoom);
+    const bool atFirst = toFirst.isWithin(lineEndReach / zoom);
+    const bool atSecond = toSecond.isWithin(lineEndReach / zoom);
     if (atFirst && atSecond) {
-        const double first = std::hypot(line.X1 - point.x, line.Y1 - point.y);
-        const double second = std::hypot(line.X2 - point.x, line.Y2 - point.y);
+        const double first = toFirst.length();
+        const double second = toSecond.length();
         return first < second ? Handle::firstEnd : Handle::secondEnd;
     }
     if (atFirst) {
@@ -63,21 +78,21 @@ bool onElement(float x, float y, const ElementControl& control) {
     return x >= control.left && x <= right && y >= control.top && y <= bottom;
 }
 
-bool onElementLine(float x, float y, const ElementControl& line) {
-    return isAtEnd(x, y, line.X1, line.Y1) || isAtEnd(x, y, line.X2, line.Y2);
+bool onElementLine(float x, float y, const ElementControl& line, double zoom) {
+    return lineEndAt(line, {x, y}, zoom) != Handle::none;
 }
 
-bool isAt(const Element& element, SkinPoint point) {
+bool isAt(const Element& element, SkinPoint point, double zoom) {
     const ElementControl& control = element.elementControl;
-    const bool hit = hasEnds(control) ? onElementLine(point.x, point.y, control)
+    const bool hit = hasEnds(control) ? onElementLine(point.x, point.y, control, zoom)
                                       : onElement(point.x, point.y, control);
     return hit && !element.elementLocked;
 }
 
-int rowAt(const SkinDocument& document, SkinPoint point) {
+int rowAt(const SkinDocument& document, SkinPoint point, double zoom) {
     const int screen = document.currentLayout();
     for (int row = document.rowCount(screen) - 1; row >= 0; --row) {
-        if (isAt(document.element(document.itemData(screen, row)), point)) {
+        if (isAt(document.element(document.itemData(screen, row)), point, zoom)) {
             return row;
         }
     }
@@ -110,7 +125,7 @@ HandleEdges edgesOf(Handle handle) {
     return {};
 }
 
-bool hasHandle(const Element& element, Handle handle) {
+bool hasHandle(const Element& element, Handle handle, double zoom) {
     const ElementControl& control = element.elementControl;
     if (element.elementLocked || handle == Handle::none) {
         return false;
@@ -120,8 +135,8 @@ bool hasHandle(const Element& element, Handle handle) {
     if (isEnd || hasEnds(control)) {
         return isEnd && hasEnds(control);
     }
-    return (x != 0 || control.width >= shortestSideWithMiddle) &&
-           (y != 0 || control.height >= shortestSideWithMiddle);
+    return (x != 0 || control.width * zoom >= shortestSideWithMiddle) &&
+           (y != 0 || control.height * zoom >= shortestSideWithMiddle);
 }
 
 SkinPoint handleCentre(const ElementControl& control, Handle handle) {
@@ -136,18 +151,18 @@ SkinPoint handleCentre(const ElementControl& control, Handle handle) {
             toSingle(centreAlong(vertical(control), y))};
 }
 
-Handle handleAt(const Element& element, SkinPoint point) {
+Handle handleAt(const Element& element, SkinPoint point, double zoom) {
     const ElementControl& control = element.elementControl;
     if (hasEnds(control)) {
-        return element.elementLocked ? Handle::none : lineEndAt(control, point);
+        return element.elementLocked ? Handle::none : lineEndAt(control, point, zoom);
     }
     constexpr std::array<Handle, 8> order = {
         Handle::bottomRight, Handle::topRight, Handle::bottomLeft, Handle::topLeft,
         Handle::right,       Handle::bottom,   Handle::left,       Handle::top};
     const auto found = std::find_if(order.begin(), order.end(), [&](Handle handle) {
         const auto [x, y] = edgesOf(handle);
-        return hasHandle(element, handle) && reaches(horizontal(control), x, point.x) &&
-               reaches(vertical(control), y, point.y);
+        return hasHandle(element, handle, zoom) && reaches(horizontal(control), x, point.x, zoom) &&
+               reaches(vertical(control), y, point.y, zoom);
     });
     return found == order.end() ? Handle::none : *found;
 }

@@ -192,6 +192,10 @@ SkinPoint wholePoint(SkinPoint point) {
     return {static_cast<float>(toInt32(point.x)), static_cast<float>(toInt32(point.y))};
 }
 
+double drawThresholdAt(double zoom) {
+    return std::max(1.0, std::floor(drawThreshold / zoom));
+}
+
 DrawDrag::DrawDrag(int elementId, SkinPoint press)
     : elementId_(elementId)
     , start_(wholePoint(press))
@@ -218,10 +222,12 @@ bool DrawDrag::moveTo(SkinDocument& document, SkinPoint point) {
     return placeElement(document, elementId_, place);
 }
 
-void DrawDrag::finish(SkinDocument& document, SkinPoint release, std::optional<SkinSize> natural) {
+void DrawDrag::finish(SkinDocument& document, SkinPoint release, std::optional<SkinSize> natural,
+                      double zoom) {
     moveTo(document, release);
-    const bool isClick = std::abs(difference(release.x, start_.x)) < drawThreshold &&
-                         std::abs(difference(release.y, start_.y)) < drawThreshold;
+    const double threshold = drawThresholdAt(zoom);
+    const bool isClick = std::abs(difference(release.x, start_.x)) < threshold &&
+                         std::abs(difference(release.y, start_.y)) < threshold;
     Place place = placeIn(document, elementId_);
     if (isClick) {
         place = defaultPlace(document.element(elementId_).elementKind, start_, natural);

@@ -100,8 +100,12 @@ class ResizeDrag {
 /// The same in the middle of the screen, in whole pixels.
 [[nodiscard]] Place middlePlace(ElementKind kind, std::optional<SkinSize> natural);
 
-/// A pointer that ends up less far than this from the press, both ways, has not drawn anything.
+/// A pointer that ends up less far than this from the press, both ways, has not drawn anything. In
+/// pixels of the window.
 inline constexpr float drawThreshold = 4;
+/// The same in skin pixels, at so many pixels of the window for each: whole ones, since the pointer
+/// goes from one to another, and one at least.
+[[nodiscard]] double drawThresholdAt(double zoom);
 
 /// The whole numbers that a press point is kept as; halves go to the even neighbour.
 [[nodiscard]] SkinPoint wholePoint(SkinPoint point);
@@ -116,7 +120,8 @@ class DrawDrag {
     bool moveTo(SkinDocument& document, SkinPoint point);
     /// Ends the drawing. Without a drag the element gets its default place at the press point;
     /// otherwise no side of a rectangle is left shorter than smallestSide.
-    void finish(SkinDocument& document, SkinPoint release, std::optional<SkinSize> natural);
+    void finish(SkinDocument& document, SkinPoint release, std::optional<SkinSize> natural,
+                double zoom = 1);
     /// Takes the element off the current screen again. Its id stays used.
     void takeBack(SkinDocument& document) const;
 

@@ -12,7 +12,7 @@ namespace tarvel {
 namespace {
 
 // The sum, or the next single beyond it in the direction of `by`.
-float beyond(float position, float by) {
+float beyond(float position, double by) {
     const double exact = static_cast<double>(position) + by;
     const float near = toSingle(exact);
     constexpr float infinity = std::numeric_limits<float>::infinity();
@@ -49,7 +49,9 @@ void PickIndex::documentChanged(const DocumentChange& change) {
     }
 }
 
-int PickIndex::rowAt(const SkinDocument& document, SkinPoint point) {
+int PickIndex::rowAt(const SkinDocument& document, SkinPoint point, double zoom) {
+    stale_ = stale_ || zoom != zoom_;
+    zoom_ = zoom;
     refresh(document);
     const auto [x, y] = point;
     for (std::size_t i = targets_.size(); i-- > 0;) {
@@ -58,7 +60,7 @@ int PickIndex::rowAt(const SkinDocument& document, SkinPoint point) {
             continue;
         }
         const int row = static_cast<int>(i / targetsPerRow);
-        if (isAt(document.element(document.itemData(screen_, row)), point)) {
+        if (isAt(document.element(document.itemData(screen_, row)), point, zoom_)) {
             return row;
         }
     }
@@ -98,9 +100,10 @@ void PickIndex::setTargets(int row, const Element& element) {
     Target& second = targets_[at + 1];
     first = second = {};
     const ElementControl& control = element.elementControl;
-    const auto around = [](float x, float y) {
-        return Target{beyond(x, -lineEndReach), beyond(y, -lineEndReach), beyond(x, lineEndReach),
-                      beyond(y, lineEndReach)};
+    const double before = lineEndShift(zoom_) - lineEndReach / zoom_;
+    const double after = lineEndShift(zoom_) + lineEndReach / zoom_;
+    const auto around = [&](float x, float y) {
+        return Target{beyond(x, before), beyond(y, before), beyond(x, after), beyond(y, after)};
     };
     if (element.elementLocked) {
         return;

@@ -18,7 +18,8 @@ class PickIndex : public DocumentObserver {
     void documentChanged(const DocumentChange& change) override;
 
     /// Row of the frontmost unlocked element of the current screen at the point; -1 for none.
-    [[nodiscard]] int rowAt(const SkinDocument& document, SkinPoint point);
+    /// Another `zoom` than the last time costs as much as other rows.
+    [[nodiscard]] int rowAt(const SkinDocument& document, SkinPoint point, double zoom = 1);
 
   private:
     // A rectangle that holds all points of an element, or of one end of a line.
@@ -35,6 +36,7 @@ class PickIndex : public DocumentObserver {
     void setTargets(int row, const Element& element);
 
     int screen_ = -1;
+    double zoom_ = 1; // of the ends of lines
     bool stale_ = true;
     std::vector<Target> targets_; // two for each row
     std::vector<int> rows_;       // by element id; -1 for elements not on the screen
