@@ -18,11 +18,12 @@ int makeSelected(ToolHost& host, ElementKind kind, SkinPoint press) {
 
 } // namespace
 
-DrawTool::DrawTool(ToolHost& host, ElementKind kind, SkinPoint press)
+DrawTool::DrawTool(ToolHost& host, ElementKind kind, SkinPoint press, double zoom)
     : CanvasTool(host.document(), stepName(step::draw, kind))
     , host_(host)
     , kind_(kind)
     , press_(press)
+    , zoom_(zoom)
     , drag_(makeSelected(host, kind, press), press) {}
 
 void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
@@ -30,7 +31,7 @@ void DrawTool::move(SkinPoint point, bool /*keepProportions*/) {
 }
 
 void DrawTool::release(SkinPoint point) {
-    drag_.finish(host_.document(), point, host_.naturalSize(kind_));
+    drag_.finish(host_.document(), point, host_.naturalSize(kind_), zoom_);
     host_.drawingEnded();
 }
 
@@ -47,8 +48,9 @@ void DrawTool::takeBack() {
     host_.drawingEnded();
 }
 
-std::unique_ptr<DrawTool> startDrawing(ToolHost& host, ElementKind kind, SkinPoint press) {
-    return std::make_unique<DrawTool>(host, kind, press);
+std::unique_ptr<DrawTool> startDrawing(ToolHost& host, ElementKind kind, SkinPoint press,
+                                       double zoom) {
+    return std::make_unique<DrawTool>(host, kind, press, zoom);
 }
 
 void placeInTheMiddle(ToolHost& host, ElementKind kind) {

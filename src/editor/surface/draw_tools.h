@@ -11,7 +11,8 @@ namespace tarvel {
 /// Makes an element of a kind at the press and sizes it with the pointer.
 class DrawTool : public CanvasTool {
   public:
-    DrawTool(ToolHost& host, ElementKind kind, SkinPoint press);
+    /// `zoom` in pixels of the window a skin pixel: a press that hardly moves draws nothing.
+    DrawTool(ToolHost& host, ElementKind kind, SkinPoint press, double zoom);
 
     void move(SkinPoint point, bool keepProportions) override;
     void release(SkinPoint point) override;
@@ -23,12 +24,13 @@ class DrawTool : public CanvasTool {
     ToolHost& host_;
     ElementKind kind_;
     SkinPoint press_;
+    double zoom_;
     DrawDrag drag_;
 };
 
 /// The tool of a kind, with its element made at the press point.
 [[nodiscard]] std::unique_ptr<DrawTool> startDrawing(ToolHost& host, ElementKind kind,
-                                                     SkinPoint press);
+                                                     SkinPoint press, double zoom);
 
 /// Places an element of the kind in the middle of the screen, for those without a mouse.
 void placeInTheMiddle(ToolHost& host, ElementKind kind);

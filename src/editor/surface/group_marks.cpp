@@ -42,21 +42,30 @@ GroupMarks::GroupMarks(Pic& surface)
     setObjectName(QStringLiteral("groupMarks"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setVisible(false);
+    connect(&surface, &Pic::mappingChanged, this, &GroupMarks::placeAnew);
+}
+
+void GroupMarks::placeAnew() {
+    frames_.clear();
+    frames_.reserve(covered_.size());
+    for (const QRectF& rect : covered_) {
+        frames_.push_back(surface_.mapping().toWidget(rect).toAlignedRect());
+    }
+    setGeometry(surface_.rect());
+    update();
 }
 
 void GroupMarks::show(const std::vector<StartPlace>& elements, int leading) {
-    frames_.clear();
-    frames_.reserve(static_cast<qsizetype>(elements.size()));
+    covered_.clear();
+    covered_.reserve(static_cast<qsizetype>(elements.size()));
     for (const StartPlace& each : elements) {
         if (each.elementId != leading) {
             // Places may be as far out as numbers go, what is painted may not.
-            const QRectF rect = nearSurface(rectOf(boundsOf(each)));
-            frames_.push_back(surface_.mapping().toWidget(rect).toAlignedRect());
+            covered_.push_back(nearSurface(rectOf(boundsOf(each))));
         }
     }
     around_ = commonFrame(elements);
-    setGeometry(surface_.rect());
-    update();
+    placeAnew();
     raise();
     setVisible(true);
 }
@@ -73,7 +82,7 @@ void GroupMarks::paintEvent(QPaintEvent* /*event*/) {
         surface_.mapping().toWidget(nearSurface(QRectF(place[0], place[1], place[2], place[3])));
     paintOutline(painter, around.adjusted(-0.5, -0.5, 0.5, 0.5), outlineTones(), Qt::DashLine);
     for (const Handle handle : handles) {
-        if (!hasFrameHandle(around_, handle)) {
+        if (!hasFrameHandle(around_, handle, surface_.mapping().scale())) {
             continue;
         }
         const SkinPoint centre = frameHandleCentre(around_, handle);

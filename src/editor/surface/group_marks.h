@@ -29,9 +29,12 @@ class GroupMarks : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void placeAnew();
+
     const Pic& surface_;
-    QList<QRect> frames_; // in pixels of the widget
-    Place around_{};      // in skin pixels
+    QList<QRectF> covered_; // in skin pixels
+    QList<QRect> frames_;   // the same in pixels of the widget
+    Place around_{};        // in skin pixels
 };
 
 } // namespace tarvel

@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarvel {
 
@@ -24,6 +25,7 @@ GuideMarks::GuideMarks(Pic& surface)
     setObjectName(QStringLiteral("guideMarks"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setVisible(false);
+    connect(&surface, &Pic::mappingChanged, this, &GuideMarks::showOrHide);
 }
 
 void GuideMarks::showGuides(const std::vector<Guide>& guides) {
@@ -46,10 +48,10 @@ void GuideMarks::showOrHide() {
     update();
 }
 
-void GuideMarks::paintEvent(QPaintEvent* /*event*/) {
+void GuideMarks::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     if (grid_ > 0) {
-        paintGrid(painter);
+        paintGrid(painter, event->rect());
     }
     for (const Guide& guide : guides_) {
         paintGuide(painter, guide);
@@ -57,17 +59,23 @@ void GuideMarks::paintEvent(QPaintEvent* /*event*/) {
 }
 
 // A dot at each crossing; of a grid too fine to be seen every second, fourth and so on.
-void GuideMarks::paintGrid(QPainter& painter) const {
+void GuideMarks::paintGrid(QPainter& painter, const QRect& part) const {
     constexpr double finest = 6; // pixels between dots
     const ViewMapping& mapping = surface_.mapping();
     int step = grid_;
     while (step * mapping.scale() < finest) {
         step *= 2;
     }
+    const QRectF visible = mapping.toSkin(QRectF(part));
+    const auto firstFrom = [&](double from) {
+        return std::max(0, static_cast<int>(std::floor(from / step)) * step);
+    };
+    const double right = std::min<double>(skinWidth, visible.right() + step);
+    const double bottom = std::min<double>(skinHeight, visible.bottom() + step);
     painter.setPen(QPen(gridColor, 1));
     std::vector<QPointF> dots;
-    for (int y = 0; y < skinHeight; y += step) {
-        for (int x = 0; x < skinWidth; x += step) {
+    for (int y = firstFrom(visible.top()); y < bottom; y += step) {
+        for (int x = firstFrom(visible.left()); x < right; x += step) {
             dots.push_back(mapping.toWidget(QPointF(x, y)));
         }
     }

@@ -31,7 +31,7 @@ class GuideMarks : public QWidget {
 
   private:
     void showOrHide();
-    void paintGrid(QPainter& painter) const;
+    void paintGrid(QPainter& painter, const QRect& part) const;
     void paintGuide(QPainter& painter, const Guide& guide) const;
 
     const Pic& surface_;

@@ -20,6 +20,12 @@ HoverMark::HoverMark(Pic& surface)
     setObjectName(QStringLiteral("hoverMark"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setVisible(false);
+    connect(&surface, &Pic::mappingChanged, this, &HoverMark::placeAnew);
+}
+
+void HoverMark::placeAnew() {
+    setGeometry(
+        surface_.mapping().toWidget(covered_).toAlignedRect().adjusted(-gap, -gap, gap, gap));
 }
 
 void HoverMark::mark(const SkinDocument& document, int elementId) {
@@ -30,12 +36,9 @@ void HoverMark::mark(const SkinDocument& document, int elementId) {
         return;
     }
     const Bounds bounds = boundsOf(place, rulesOf(control.kind).placeForm);
-    const QRectF covered(bounds.across.start, bounds.down.start, bounds.across.length,
-                         bounds.down.length);
-    setGeometry(surface_.mapping()
-                    .toWidget(nearSurface(covered))
-                    .toAlignedRect()
-                    .adjusted(-gap, -gap, gap, gap));
+    covered_ = nearSurface(
+        QRectF(bounds.across.start, bounds.down.start, bounds.across.length, bounds.down.length));
+    placeAnew();
     raise();
     setVisible(true);
 }

@@ -3,6 +3,7 @@
 
 #include "document/skin_document.h"
 
+#include <QRectF>
 #include <QWidget>
 
 namespace tarvel {
@@ -23,7 +24,10 @@ class HoverMark : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void placeAnew();
+
     const Pic& surface_;
+    QRectF covered_; // by the element, in skin pixels
 };
 
 } // namespace tarvel

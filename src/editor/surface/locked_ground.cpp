@@ -12,6 +12,11 @@ LockedGround::LockedGround(const SkinDocument& document, Pic& pic)
     later_.setSingleShot(true);
     later_.setInterval(0);
     connect(&later_, &QTimer::timeout, this, &LockedGround::refresh);
+    connect(&pic, &Pic::mappingChanged, this, [this] {
+        if (locked_ > 0) {
+            later_.start();
+        }
+    });
 }
 
 void LockedGround::documentChanged(const DocumentChange& change) {
@@ -36,7 +41,8 @@ void LockedGround::refresh() {
     screen_ = document_.currentLayout();
     locked_ = document_.lockCount(screen_);
     pic_.clearFlatGround();
-    if (locked_ > 0) {
+    constexpr double largestScale = largestFlatZoom / 100.0;
+    if (locked_ > 0 && pic_.mapping().scale() <= largestScale) {
         pic_.setFlatGround(pic_.flatPicture(locked_), locked_);
     }
 }

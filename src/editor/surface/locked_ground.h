@@ -18,6 +18,10 @@ class LockedGround : public QObject, private DocumentObserver {
   public:
     LockedGround(const SkinDocument& document, Pic& pic);
 
+    /// Up to this zoom, in per cent, the ground is one picture; larger ones would take more memory
+    /// than they save time, and the locked elements are painted anew each time.
+    static constexpr int largestFlatZoom = 200;
+
     /// Pictures changed: the ground is out of date.
     void picturesChanged() { documentChanged({DocumentChange::What::settings}); }
 

@@ -2,6 +2,8 @@
 #include "surface/pic.h"
 
 #include "document/element_kinds.h"
+#include "editing/snapping.h"
+#include "editing/zoom.h"
 #include "surface/picture_cache.h"
 #include "widgets/accessible_roles.h"
 #include "widgets/control_names.h"
@@ -11,6 +13,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tarvel {
@@ -22,6 +25,11 @@ constexpr int largestCount = 8;
 // So are those that fill at least one part in so many of it: what lies between them costs less
 // than another pass over all elements.
 constexpr int fewestParts = 2;
+
+// Over elements of any colour.
+constexpr QColor pixelGridColor(128, 128, 128, 80);
+constexpr QColor safeAreaColor(255, 200, 0);
+constexpr double percent = 100;
 
 bool lieTogether(const QRegion& region) {
     const auto area = [](const QRect& rect) { return rect.width() * rect.height(); };
@@ -109,6 +117,26 @@ void Pic::documentChanged(const DocumentChange& change) {
     }
 }
 
+void Pic::setZoom(int zoom) {
+    const double scale = zoom / percent;
+    if (scale == mapping_.scale()) {
+        return;
+    }
+    mapping_ = ViewMapping(scale, {});
+    clearFlatGround();
+    setFixedSize(mapping_.screen().size().toSize());
+    emit mappingChanged();
+}
+
+void Pic::showSafeArea(bool shown) {
+    showsSafeArea_ = shown;
+    update();
+}
+
+void Pic::tellPointer(QPointF at) {
+    emit pointerMoved(mapping_.toSkin(at));
+}
+
 void Pic::setFlatGround(QImage ground, int firstRow) {
     flatGround_ = std::move(ground);
     firstRow_ = firstRow;
@@ -169,15 +197,57 @@ void Pic::paintRegion(QPainter& painter, const QRegion& region) {
         painter_.paint(painter, *document_, document_->currentLayout(), mapping_.toSkin(part),
                        view());
     };
-    if (region.rectCount() > largestCount || lieTogether(region)) {
+    const bool asOne = region.rectCount() > largestCount || lieTogether(region);
+    if (asOne) {
         paint(region.boundingRect());
-        return;
+    } else {
+        std::for_each(region.begin(), region.end(), paint);
     }
-    std::for_each(region.begin(), region.end(), paint);
+    painter.resetTransform();
+    if (mapping_.scale() * percent >= pixelGridZoom) {
+        paintPixelGrid(painter, region.boundingRect());
+    }
+    if (showsSafeArea_) {
+        paintSafeArea(painter);
+    }
+}
+
+// Along the first pixels of the window of each skin pixel.
+void Pic::paintPixelGrid(QPainter& painter, const QRect& part) const {
+    const QRectF skin = mapping_.toSkin(QRectF(part));
+    const auto lines = [](double from, double to, auto&& paint) {
+        for (int at = static_cast<int>(from); at <= to; ++at) {
+            paint(at);
+        }
+    };
+    lines(skin.left(), skin.right(), [&](int x) {
+        const double left = std::round(mapping_.toWidget(QPointF(x, 0)).x());
+        painter.fillRect(QRectF(left, part.top(), 1, part.height()), pixelGridColor);
+    });
+    lines(skin.top(), skin.bottom(), [&](int y) {
+        const double top = std::round(mapping_.toWidget(QPointF(0, y)).y());
+        painter.fillRect(QRectF(part.left(), top, part.width(), 1), pixelGridColor);
+    });
+}
+
+// Two colours show on any ground.
+void Pic::paintSafeArea(QPainter& painter) const {
+    const QRect outer = mapping_
+                            .toWidget(QRectF(safeArea.across.start, safeArea.down.start,
+                                             safeArea.across.length, safeArea.down.length))
+                            .toRect();
+    const auto frame = [&](const QRect& rect, const QColor& color) {
+        painter.fillRect(rect.left(), rect.top(), rect.width(), 1, color);
+        painter.fillRect(rect.left(), rect.bottom(), rect.width(), 1, color);
+        painter.fillRect(rect.left(), rect.top(), 1, rect.height(), color);
+        painter.fillRect(rect.right(), rect.top(), 1, rect.height(), color);
+    };
+    frame(outer.adjusted(-1, -1, 1, 1), Qt::black);
+    frame(outer, safeAreaColor);
 }
 
 void Pic::mouseMoveEvent(QMouseEvent* event) {
-    emit pointerMoved(mapping_.toSkin(event->position()));
+    tellPointer(event->position());
     QWidget::mouseMoveEvent(event);
 }
 
@@ -189,6 +259,11 @@ void Pic::showEvent(QShowEvent* event) {
 void Pic::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     catchUpLater();
+}
+
+void Pic::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    picBox_->setGeometry(rect());
 }
 
 void Pic::elementChanged(int elementId) {
@@ -219,7 +294,10 @@ void Pic::repaintDamage(const Damage& damage) {
 void Pic::repaintRect(const QRectF& rect) {
     const QRectF visible = rect & QRectF(0, 0, skinWidth, skinHeight);
     if (!visible.isEmpty()) {
-        update(mapping_.toWidget(visible).toAlignedRect());
+        // Edges between pixels of the window are drawn on the nearest ones.
+        const int margin = mapping_.scale() < 1 ? 1 : 0;
+        update(
+            mapping_.toWidget(visible).toAlignedRect().adjusted(-margin, -margin, margin, margin));
     }
 }
 
@@ -242,7 +320,9 @@ void Pic::catchUp() {
 }
 
 SurfaceView Pic::view() const {
-    return {.firstRow = firstRow_, .ground = flatGround_.isNull() ? nullptr : &flatGround_};
+    return {.firstRow = firstRow_,
+            .ground = flatGround_.isNull() ? nullptr : &flatGround_,
+            .crisp = mapping_.scale() * percent >= crispZoom};
 }
 
 } // namespace tarvel

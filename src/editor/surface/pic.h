@@ -1,4 +1,4 @@
-// The drawing surface: shows the current screen of a document at its size of 640 by 480.
+// The drawing surface: shows the current screen of a document, 640 by 480 skin pixels, at a zoom.
 #pragma once
 
 #include "document/skin_document.h"
@@ -33,12 +33,21 @@ class Pic : public QWidget, private DocumentObserver {
 
     /// Where on the widget the skin is.
     [[nodiscard]] const ViewMapping& mapping() const { return mapping_; }
+    /// Takes the size of the screen at a zoom, in per cent, as `editing/zoom.h` has them. A flat
+    /// ground goes: it is of another size.
+    void setZoom(int percent);
+
+    /// Shows the safe area of a television as a frame.
+    void showSafeArea(bool shown);
+    /// Tells that the pointer is at a point of the widget, which may have moved below it.
+    void tellPointer(QPointF at);
 
     /// Shows `ground` stretched over the screen in place of the background picture, and only the
     /// rows from `firstRow` on.
     void setFlatGround(QImage ground, int firstRow);
     /// Back to all rows on the background picture.
     void clearFlatGround();
+    [[nodiscard]] bool hasFlatGround() const { return !flatGround_.isNull(); }
 
     /// The screen as it is shown, in the pixels of the display: on the background picture or the
     /// flat ground, with the rows before `endRow`.
@@ -59,12 +68,15 @@ class Pic : public QWidget, private DocumentObserver {
   signals:
     /// The pointer is at a point, in skin pixels and parts of them.
     void pointerMoved(QPointF point);
+    /// Skin pixels are somewhere else on the widget.
+    void mappingChanged();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void documentChanged(const DocumentChange& change) override;
@@ -76,6 +88,8 @@ class Pic : public QWidget, private DocumentObserver {
     void catchUp();
     [[nodiscard]] SurfaceView view() const;
     void paintRegion(QPainter& painter, const QRegion& region);
+    void paintPixelGrid(QPainter& painter, const QRect& part) const;
+    void paintSafeArea(QPainter& painter) const;
 
     PictureCache& pictures_;
     const SkinDocument* document_ = nullptr;
@@ -89,6 +103,7 @@ class Pic : public QWidget, private DocumentObserver {
     int firstRow_ = 0;
     QWidget* picBox_;
     bool catchingUp_ = false;
+    bool showsSafeArea_ = false;
 };
 
 } // namespace tarvel

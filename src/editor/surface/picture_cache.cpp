@@ -22,6 +22,9 @@ constexpr qint64 largeDecoding = qint64{32} << 20;
 // What remembering a failure costs.
 constexpr qsizetype failureBytes = 1024;
 
+// Stands for the size of a picture that is kept to be enlarged.
+constexpr QSize sizeAsItIs(-2, -2);
+
 qint64 pixelsOf(QSize size) {
     return qint64{size.width()} * size.height();
 }
@@ -87,6 +90,28 @@ const Picture& PictureCache::stretched(std::string_view file, QSize size) {
     }
     return keep(key, readyPicture(
                          from.image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+}
+
+const Picture& PictureCache::notEnlarged(std::string_view file, QSize size) {
+    const Key asItIs{borrowed(file), sizeAsItIs};
+    const auto isEnlarged = [&](const Picture& picture) {
+        return size.width() > picture.image.width() || size.height() > picture.image.height();
+    };
+    if (const Picture* known = shown_.object(asItIs)) {
+        return isEnlarged(*known) ? *known : stretched(file, size);
+    }
+    const Key key{asItIs.file, size};
+    if (const Picture* known = shown_.object(key)) {
+        return *known;
+    }
+    if (mustWait(key.file)) {
+        return pendingPicture();
+    }
+    const Picture& from = source(key.file);
+    if (from.state != Picture::State::ready) {
+        return keep(key, from);
+    }
+    return isEnlarged(from) ? keep(asItIs, from) : stretched(file, size);
 }
 
 const Picture& PictureCache::unscaled(std::string_view file) {

@@ -40,6 +40,10 @@ class PictureCache {
     /// keeping, a smaller image that the caller stretches.
     const Picture& stretched(std::string_view file, QSize size);
 
+    /// The same, but a picture that would be enlarged comes as it is, for the caller to enlarge:
+    /// no memory goes into pixels that are many times the same.
+    const Picture& notEnlarged(std::string_view file, QSize size);
+
     /// The picture at its own size. Of a very large one it is the top left corner, far larger than
     /// any screen.
     const Picture& unscaled(std::string_view file);

@@ -34,18 +34,23 @@ class SelectionBox : public QWidget {
 
     /// Without handles what is selected beside it is sized along with it, by other handles.
     void show(const Element& element, bool withHandles) {
-        const ElementControl& control = element.elementControl;
+        element_ = element;
+        withHandles_ = withHandles;
+        place();
+        update();
+        raise();
+        setVisible(true);
+    }
+
+    /// Where its element is at the surface's zoom.
+    void place() {
+        const ElementControl& control = element_.elementControl;
         // Places may be as far out as numbers go, windows may not.
         const QRectF skin =
             nearSurface(QRectF(control.left, control.top, std::max(control.width, 0.0F),
                                std::max(control.height, 0.0F)));
         const QRect near = surface_.mapping().toWidget(skin).toAlignedRect();
-        element_ = element;
-        withHandles_ = withHandles;
         setGeometry(near.adjusted(-margin, -margin, margin, margin));
-        update();
-        raise();
-        setVisible(true);
     }
 
   protected:
@@ -59,7 +64,7 @@ class SelectionBox : public QWidget {
                                         Handle::right,      Handle::bottomRight, Handle::bottom,
                                         Handle::bottomLeft, Handle::left};
         for (const Handle handle : handles) {
-            if (withHandles_ && hasHandle(element_, handle)) {
+            if (withHandles_ && hasHandle(element_, handle, surface_.mapping().scale())) {
                 const HandleEdges edges = edgesOf(handle);
                 const QPointF centre(outline.left() + (edges.x + 1) * outline.width() / 2,
                                      outline.top() + (edges.y + 1) * outline.height() / 2);
@@ -90,15 +95,22 @@ class LineEndMark : public QWidget {
     }
 
     void showAt(SkinPoint point) {
-        const QPointF centre(point.x, point.y);
+        point_ = point;
+        place();
+        raise();
+    }
+
+    /// On the middle of the skin pixel that the end is.
+    void place() {
+        const QPointF centre(point_.x, point_.y);
         if (nearSurface(QRectF(centre, QSizeF())).topLeft() != centre) {
             setVisible(false); // too far out to be seen
             return;
         }
-        const QPointF at = surface_.mapping().toWidget(centre);
+        constexpr QPointF middle(0.5, 0.5);
+        const QPointF at = surface_.mapping().toWidget(centre + middle) - middle;
         move(static_cast<int>(std::lround(at.x())) - width() / 2,
              static_cast<int>(std::lround(at.y())) - height() / 2);
-        raise();
         setVisible(true);
     }
 
@@ -110,6 +122,7 @@ class LineEndMark : public QWidget {
 
   private:
     const Pic& surface_;
+    SkinPoint point_;
 };
 
 namespace {
@@ -130,6 +143,16 @@ SelectionMarks::SelectionMarks(Pic& surface)
     , fraResize2_(prepared(new LineEndMark(surface, 2))) {
     fraSel_->setObjectName(QStringLiteral("fraSel"));
     group_ = new GroupMarks(surface);
+    connect(&surface, &Pic::mappingChanged, this, &SelectionMarks::placeAnew);
+}
+
+void SelectionMarks::placeAnew() {
+    fraSel_->place();
+    for (LineEndMark* end : {fraResize1_, fraResize2_}) {
+        if (!end->isHidden()) {
+            end->place();
+        }
+    }
 }
 
 void SelectionMarks::setSel(const Element& element) {

@@ -38,6 +38,8 @@ class SelectionMarks : public QObject {
     [[nodiscard]] bool isBoxShown() const;
 
   private:
+    void placeAnew();
+
     Pic& surface_;
     SelectionBox* fraSel_;
     GroupMarks* group_ = nullptr;

@@ -19,6 +19,7 @@
 #include <QScopedValueRollback>
 
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 namespace tarvel {
@@ -35,7 +36,7 @@ int modifiersOf(const QKeyEvent& event) {
            held(Qt::AltModifier, altModifier);
 }
 
-Qt::CursorShape pointerOf(Handle handle) {
+Qt::CursorShape shapeOf(Handle handle) {
     switch (handle) {
     case Handle::topLeft:
     case Handle::bottomRight:
@@ -79,6 +80,10 @@ SurfaceController::~SurfaceController() = default;
 
 void SurfaceController::setTool(std::optional<ElementKind> kind) {
     kind_ = kind;
+    restorePointer();
+}
+
+void SurfaceController::restorePointer() {
     surface_.setCursor(kind_ ? Qt::CrossCursor : Qt::ArrowCursor);
     showPointerLater();
 }
@@ -96,13 +101,27 @@ SkinPoint SurfaceController::pointOf(const QMouseEvent& event) const {
     return surface_.mapping().pixelAt(event.position());
 }
 
+double SurfaceController::zoom() const {
+    return surface_.mapping().scale();
+}
+
+// At 100 per cent a place between pixels of the window, on finer displays, counts as its pixel.
+SurfaceController::PointerAt SurfaceController::pointerOf(const QMouseEvent& event) const {
+    const SkinPoint pixel = pointOf(event);
+    if (zoom() == 1) {
+        return {pixel, pixel};
+    }
+    const QPointF exact = surface_.mapping().toSkin(event.position());
+    return {pixel, {static_cast<float>(exact.x()), static_cast<float>(exact.y())}};
+}
+
 void SurfaceController::setSnapping(const SnapOptions& options) {
     snapping_ = options;
     guides_->showGrid(options.toGrid ? options.grid : 0);
 }
 
 double SurfaceController::snapTolerance() const {
-    return snapReach / surface_.mapping().scale();
+    return snapReach / zoom();
 }
 
 // Ctrl suspends snapping, and with Shift the other side decides.
@@ -186,13 +205,15 @@ void SurfaceController::press(const QMouseEvent& event) {
         cancelWork(); // its release went elsewhere
     }
     surface_.setFocus(Qt::MouseFocusReason);
-    lastPoint_ = pointOf(event);
+    const PointerAt at = pointerOf(event);
+    lastPoint_ = at.pixel;
+    pressedAt_ = event.position();
     emit pressed();
     if (event.button() == Qt::LeftButton) {
-        pressLeft(pointOf(event), event.modifiers());
+        pressLeft(at, event.modifiers());
     } else if (event.button() == Qt::RightButton) {
-        if (!leadAt(pointOf(event))) {
-            pick(pointOf(event));
+        if (!leadAt(at.exact)) {
+            pick(at.exact);
         }
         emit menuWanted(event.globalPosition().toPoint());
     } else {
@@ -200,36 +221,36 @@ void SurfaceController::press(const QMouseEvent& event) {
     }
 }
 
-void SurfaceController::pressLeft(SkinPoint point, Qt::KeyboardModifiers keys) {
+void SurfaceController::pressLeft(const PointerAt& at, Qt::KeyboardModifiers keys) {
     const bool copies = keys.testFlag(Qt::AltModifier);
     if (kind_) {
-        draw(*kind_, point);
+        draw(*kind_, at);
     } else if (keys.testFlag(Qt::ControlModifier)) {
-        toggleAt(point);
-    } else if (!pressSeveral(point, copies) && !pressSelected(point, copies)) {
-        pressAnew(point, copies);
+        toggleAt(at);
+    } else if (!pressSeveral(at, copies) && !pressSelected(at, copies)) {
+        pressAnew(at, copies);
     }
 }
 
 // Several selected elements are moved by any of them, and scaled by the frame around them.
-bool SurfaceController::pressSeveral(SkinPoint point, bool copies) {
+bool SurfaceController::pressSeveral(const PointerAt& at, bool copies) {
     const Selection& selection = host_.selection();
     if (selection.size() < 2) {
         return false;
     }
     const SkinDocument& document = host_.document();
     const Place frame = commonFrame(startPlaces(document, selection.ids()));
-    if (const Handle handle = frameHandleAt(frame, point); handle != Handle::none) {
-        work_ = std::make_unique<GroupScaleTool>(host_, handle, point);
+    if (const Handle handle = frameHandleAt(frame, at.exact, zoom()); handle != Handle::none) {
+        work_ = std::make_unique<GroupScaleTool>(host_, handle, at.pixel);
         return true;
     }
-    if (!leadAt(point)) {
+    if (!leadAt(at.exact)) {
         return false;
     }
     if (copies) {
-        work_ = std::make_unique<CopyMoveTool>(host_, point);
+        work_ = std::make_unique<CopyMoveTool>(host_, at.pixel);
     } else {
-        work_ = std::make_unique<GroupMoveTool>(host_, selection.curNum(), point);
+        work_ = std::make_unique<GroupMoveTool>(host_, selection.curNum(), at.pixel);
     }
     return true;
 }
@@ -237,7 +258,7 @@ bool SurfaceController::pressSeveral(SkinPoint point, bool copies) {
 // Lets the one of several selected elements lead that is at the point.
 bool SurfaceController::leadAt(SkinPoint point) {
     const SkinDocument& document = host_.document();
-    const int row = picks_.rowAt(document, point);
+    const int row = picks_.rowAt(document, point, zoom());
     const int id = row < 0 ? 0 : document.itemData(document.currentLayout(), row);
     if (host_.selection().size() < 2 || !host_.selection().contains(id)) {
         return false;
@@ -248,66 +269,67 @@ bool SurfaceController::leadAt(SkinPoint point) {
 
 // The selected element is sized by its handles. The ends of a line are all that it can be held by,
 // so its copy is drawn from it by these.
-bool SurfaceController::pressSelected(SkinPoint point, bool copies) {
+bool SurfaceController::pressSelected(const PointerAt& at, bool copies) {
     const int selected = host_.selection().curNum();
-    const Handle handle = handleAt(host_.document().element(selected), point);
+    const Handle handle = handleAt(host_.document().element(selected), at.exact, zoom());
     if (selected == 0 || handle == Handle::none) {
         return false;
     }
     const bool isEnd = edgesOf(handle).x == 0 && edgesOf(handle).y == 0;
     if (isEnd && copies) {
-        work_ = std::make_unique<CopyMoveTool>(host_, point);
+        work_ = std::make_unique<CopyMoveTool>(host_, at.pixel);
     } else if (isEnd) {
-        work_ = std::make_unique<LineEndTool>(host_, handle, point);
+        work_ = std::make_unique<LineEndTool>(host_, handle, at.pixel);
     } else {
-        work_ = std::make_unique<ResizeTool>(host_, handle, point);
+        work_ = std::make_unique<ResizeTool>(host_, handle, at.pixel);
     }
     return true;
 }
 
-void SurfaceController::pressAnew(SkinPoint point, bool copies) {
+void SurfaceController::pressAnew(const PointerAt& at, bool copies) {
     const std::vector<int> before = host_.selection().ids();
-    pick(point);
+    pick(at.exact);
     const int id = host_.selection().curNum();
     if (id == 0) {
-        work_ = std::make_unique<SelectTool>(host_, surface_, point, before, false);
+        work_ = std::make_unique<SelectTool>(host_, surface_, at.pixel, before, false);
         return;
     }
     // A line is held by the end that was pressed.
-    const Handle end = handleAt(host_.document().element(id), point);
+    const Handle end = handleAt(host_.document().element(id), at.exact, zoom());
     if (copies) {
-        work_ = std::make_unique<CopyMoveTool>(host_, point);
+        work_ = std::make_unique<CopyMoveTool>(host_, at.pixel);
     } else if (end == Handle::firstEnd || end == Handle::secondEnd) {
-        work_ = std::make_unique<LineEndTool>(host_, end, point);
+        work_ = std::make_unique<LineEndTool>(host_, end, at.pixel);
     } else {
-        work_ = std::make_unique<MoveTool>(host_, point);
+        work_ = std::make_unique<MoveTool>(host_, at.pixel);
     }
 }
 
 // With Ctrl: an element joins the others or leaves them, and so does what a rubber band touches.
-void SurfaceController::toggleAt(SkinPoint point) {
-    const int row = picks_.rowAt(host_.document(), point);
+void SurfaceController::toggleAt(const PointerAt& at) {
+    const int row = picks_.rowAt(host_.document(), at.exact, zoom());
     if (row >= 0) {
         host_.selection().toggle(row);
     } else {
-        work_ = std::make_unique<SelectTool>(host_, surface_, point, host_.selection().ids(), true);
+        work_ =
+            std::make_unique<SelectTool>(host_, surface_, at.pixel, host_.selection().ids(), true);
     }
 }
 
-void SurfaceController::draw(ElementKind kind, SkinPoint press) {
+void SurfaceController::draw(ElementKind kind, const PointerAt& press) {
     host_.selection().clear();
     if (!refused(kind)) {
         const QScopedValueRollback making(making_, true);
-        const SkinPoint from =
-            snapping_.isOn() ? snappedPress(host_.document(), press, snapping_, snapTolerance())
-                             : press;
-        drawnFrom_ = {press, from};
-        work_ = startDrawing(host_, kind, from);
+        const SkinPoint from = snapping_.isOn() ? snappedPress(host_.document(), press.pixel,
+                                                               snapping_, snapTolerance())
+                                                : press.pixel;
+        drawnFrom_ = {pressedAt_, from};
+        work_ = startDrawing(host_, kind, from, zoom());
     }
 }
 
 void SurfaceController::pick(SkinPoint point) {
-    const int row = picks_.rowAt(host_.document(), point);
+    const int row = picks_.rowAt(host_.document(), point, zoom());
     host_.selection().clear();
     host_.selection().select(row);
 }
@@ -327,7 +349,8 @@ bool SurfaceController::refused(ElementKind kind) {
 }
 
 void SurfaceController::move(const QMouseEvent& event) {
-    hover_ = lastPoint_ = pointOf(event);
+    lastPoint_ = pointOf(event);
+    hover_ = pointerOf(event).exact;
     if (work_ != nullptr && event.buttons().testFlag(Qt::LeftButton)) {
         lastPoint_ = snappedPointOf(event);
         work_->move(lastPoint_, event.modifiers().testFlag(Qt::ShiftModifier));
@@ -340,12 +363,23 @@ void SurfaceController::release(const QMouseEvent& event) {
     if (event.button() == Qt::LeftButton) {
         if (work_ != nullptr) {
             // A press that was snapped is not drawn away from by a pointer that has not moved.
-            const SkinPoint point = drawnFrom_ && pointOf(event) == drawnFrom_->pressed
-                                        ? drawnFrom_->snapped
-                                        : snappedPointOf(event);
+            const SkinPoint point =
+                isStillAtPress(event) ? drawnFrom_->snapped : snappedPointOf(event);
             takeWork()->release(point);
         }
     }
+}
+
+// Of a press that draws. Where pixels of the window are parts of skin pixels, a hand that shakes
+// may be on the next one.
+bool SurfaceController::isStillAtPress(const QMouseEvent& event) const {
+    if (!drawnFrom_) {
+        return false;
+    }
+    const ViewMapping& mapping = surface_.mapping();
+    const QPointF way = event.position() - drawnFrom_->pressed;
+    return mapping.pixelAt(event.position()) == mapping.pixelAt(drawnFrom_->pressed) ||
+           (zoom() > 1 && std::abs(way.x()) < drawThreshold && std::abs(way.y()) < drawThreshold);
 }
 
 void SurfaceController::drop(QDropEvent& event) {
@@ -438,7 +472,7 @@ void SurfaceController::showPointer() {
         return;
     }
     const bool isOpen = surface_.isEnabled();
-    const int row = isOpen && !kind_ ? picks_.rowAt(host_.document(), *hover_) : -1;
+    const int row = isOpen && !kind_ ? picks_.rowAt(host_.document(), *hover_, zoom()) : -1;
     tellHovered(row);
     const Qt::CursorShape shape = isOpen ? pointerAt(*hover_, row) : Qt::ArrowCursor;
     if (surface_.cursor().shape() != shape) {
@@ -459,11 +493,11 @@ Qt::CursorShape SurfaceController::pointerAt(SkinPoint point, int row) {
     const SkinDocument& document = host_.document();
     const std::vector<int>& ids = host_.selection().ids();
     if (!ids.empty()) {
-        const Handle handle = ids.size() > 1
-                                  ? frameHandleAt(commonFrame(startPlaces(document, ids)), point)
-                                  : handleAt(document.element(ids.front()), point);
+        const Handle handle =
+            ids.size() > 1 ? frameHandleAt(commonFrame(startPlaces(document, ids)), point, zoom())
+                           : handleAt(document.element(ids.front()), point, zoom());
         if (handle != Handle::none) {
-            return pointerOf(handle);
+            return shapeOf(handle);
         }
     }
     return row < 0 ? Qt::ArrowCursor : Qt::SizeAllCursor;

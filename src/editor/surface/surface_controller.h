@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QPointF>
 #include <QTimer>
 
 #include <memory>
@@ -41,6 +42,8 @@ class SurfaceController : public QObject, private DocumentObserver {
     [[nodiscard]] bool isWorking() const { return work_ != nullptr; }
     /// Whether an element is just being made and selected.
     [[nodiscard]] bool isMaking() const { return making_; }
+    /// Shows the pointer that tells what a press would do, after something else had changed it.
+    void restorePointer();
     /// Takes back what the pointer is doing.
     void cancelWork();
     /// Ends what the pointer is doing where it stands, as letting the button go does.
@@ -65,14 +68,20 @@ class SurfaceController : public QObject, private DocumentObserver {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // The pointer: what it draws and drags goes by skin pixels, what it picks is where it is.
+    struct PointerAt {
+        SkinPoint pixel;
+        SkinPoint exact;
+    };
+
     void documentChanged(const DocumentChange& change) override;
     void press(const QMouseEvent& event);
-    void pressLeft(SkinPoint point, Qt::KeyboardModifiers keys);
-    bool pressSeveral(SkinPoint point, bool copies);
-    bool pressSelected(SkinPoint point, bool copies);
-    void pressAnew(SkinPoint point, bool copies);
+    void pressLeft(const PointerAt& at, Qt::KeyboardModifiers keys);
+    bool pressSeveral(const PointerAt& at, bool copies);
+    bool pressSelected(const PointerAt& at, bool copies);
+    void pressAnew(const PointerAt& at, bool copies);
     bool leadAt(SkinPoint point);
-    void toggleAt(SkinPoint point);
+    void toggleAt(const PointerAt& at);
     void pick(SkinPoint point);
     void move(const QMouseEvent& event);
     void release(const QMouseEvent& event);
@@ -83,10 +92,13 @@ class SurfaceController : public QObject, private DocumentObserver {
     void nudge(ArrowKey key, int modifiers);
     void showPointer();
     void showPointerLater();
-    void draw(ElementKind kind, SkinPoint press);
+    void draw(ElementKind kind, const PointerAt& press);
     [[nodiscard]] Qt::CursorShape pointerAt(SkinPoint point, int row);
     void tellHovered(int row);
     [[nodiscard]] SkinPoint pointOf(const QMouseEvent& event) const;
+    [[nodiscard]] PointerAt pointerOf(const QMouseEvent& event) const;
+    [[nodiscard]] bool isStillAtPress(const QMouseEvent& event) const;
+    [[nodiscard]] double zoom() const;
     [[nodiscard]] SkinPoint snappedPointOf(const QMouseEvent& event);
     [[nodiscard]] double snapTolerance() const;
     [[nodiscard]] std::unique_ptr<CanvasTool> takeWork();
@@ -104,9 +116,10 @@ class SurfaceController : public QObject, private DocumentObserver {
     SnapOptions snapping_;
     std::optional<SnapDrag> snap_; // of work_, from its first move on
     struct DrawnFrom {
-        SkinPoint pressed;
+        QPointF pressed; // in pixels of the widget
         SkinPoint snapped;
     };
+    QPointF pressedAt_;                  // the last press, in pixels of the widget
     std::optional<DrawnFrom> drawnFrom_; // while work_ draws
     GuideMarks* guides_;
     bool making_ = false;

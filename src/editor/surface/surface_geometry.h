@@ -21,6 +21,9 @@ class PixelGrid {
     [[nodiscard]] QRectF snapped(const QRectF& rect) const;
     /// Size in device pixels of a rectangle from snapped(), held at a million each way.
     [[nodiscard]] QSize deviceSize(const QRectF& rect) const;
+    /// How far from their places edges may be drawn, in skin pixels: one, or one of the device's
+    /// where that is more.
+    [[nodiscard]] double margin() const { return scale_ < 1 ? 1 / scale_ : 1; }
     /// Width of a line of one skin pixel: whole device pixels, at least one.
     [[nodiscard]] double lineWidth() const { return lineWidth_; }
 

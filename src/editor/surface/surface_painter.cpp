@@ -48,8 +48,8 @@ void SurfacePainter::paint(QPainter& painter, const SkinDocument& document, int 
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    SurfacePass pass(painter, pictures_, texts_, frames_, area);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !view.crisp);
+    SurfacePass pass(painter, pictures_, texts_, frames_, area, view.crisp);
     paintGround(pass, document, view);
     const int end = std::min(view.endRow, document.rowCount(screen));
     for (int row = std::max(view.firstRow, 0); row < end; ++row) {

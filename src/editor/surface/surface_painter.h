@@ -23,6 +23,7 @@ struct SurfaceView {
     /// Takes the place of the black ground and the background picture, stretched over the screen;
     /// not owned. nullptr for none.
     const QImage* ground = nullptr;
+    bool crisp = false; ///< enlarged pictures show their own pixels and are not smoothed
 };
 
 /// Everything the element may cover, in skin pixels, with a margin for edges between pixels; empty

@@ -25,7 +25,9 @@ const LaidOutText& SurfacePass::useText(int id, const ElementControl& control) {
 }
 
 void SurfacePass::paintStretched(const QRectF& rect, std::string_view file) {
-    const Picture& picture = pictures_.stretched(file, grid_.deviceSize(grid_.snapped(rect)));
+    const QSize size = grid_.deviceSize(grid_.snapped(rect));
+    const Picture& picture =
+        crisp_ ? pictures_.notEnlarged(file, size) : pictures_.stretched(file, size);
     if (picture.state == Picture::State::ready) {
         drawStretched(rect, picture.image);
     } else {

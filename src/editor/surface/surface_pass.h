@@ -37,16 +37,17 @@ inline constexpr double edgeMargin = 1;
 class SurfacePass {
   public:
     SurfacePass(QPainter& painter, PictureCache& pictures, TextCache& texts,
-                const VideoFrames* frames, const QRectF& dirty)
+                const VideoFrames* frames, const QRectF& dirty, bool crisp)
         : painter_(painter)
         , pictures_(pictures)
         , texts_(texts)
         , frames_(frames)
+        , crisp_(crisp)
         , grid_(painter.deviceTransform())
-        , left_(dirty.left() - edgeMargin)
-        , top_(dirty.top() - edgeMargin)
-        , right_(dirty.right() + edgeMargin)
-        , bottom_(dirty.bottom() + edgeMargin) {}
+        , left_(dirty.left() - grid_.margin())
+        , top_(dirty.top() - grid_.margin())
+        , right_(dirty.right() + grid_.margin())
+        , bottom_(dirty.bottom() + grid_.margin()) {}
 
     /// Whether anything of a rectangle has to be painted.
     [[nodiscard]] bool isDirty(const ElementControl& control) const {
@@ -71,7 +72,9 @@ class SurfacePass {
     }
     void usePen(const QColor& color) {
         if (pen_ != color) {
-            painter_.setPen(color);
+            QPen pen(color);
+            pen.setWidthF(grid_.margin()); // a thinner one would fade
+            painter_.setPen(pen);
             pen_ = color;
         }
     }
@@ -91,6 +94,7 @@ class SurfacePass {
     PictureCache& pictures_;
     TextCache& texts_;
     const VideoFrames* frames_;
+    bool crisp_; // enlarged pictures show their pixels
     PixelGrid grid_;
     double left_; // what is dirty, with the margin of edges
     double top_;

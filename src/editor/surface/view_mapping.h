@@ -14,8 +14,7 @@ namespace tarvel {
 /// The skin pixel that a point lies in; on finer displays the pointer stands between pixels, too.
 [[nodiscard]] SkinPoint pixelOf(QPointF skin);
 
-/// A scale and a shift, the same for painting, marks, picking and tools. Now one widget pixel is
-/// one skin pixel.
+/// A scale and a shift, the same for painting, marks, picking and tools.
 class ViewMapping {
   public:
     ViewMapping() = default;

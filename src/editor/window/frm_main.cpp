@@ -12,6 +12,7 @@
 #include "surface/locked_ground.h"
 #include "surface/pic.h"
 #include "surface/picture_watch.h"
+#include "surface/surface_room.h"
 #include "widgets/panel_slide.h"
 #include "widgets/prompts.h"
 #include "widgets/qt_text.h"
@@ -33,6 +34,7 @@
 #include "window/window_keys.h"
 #include "window/window_place.h"
 #include "window/work_history.h"
+#include "window/zoom_choice.h"
 
 #include <QAction>
 #include <QCloseEvent>

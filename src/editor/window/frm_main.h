@@ -14,6 +14,7 @@
 #include <memory>
 
 class QLabel;
+class QToolButton;
 
 namespace tarvel {
 
@@ -43,10 +44,12 @@ class SkinDialogs;
 class SnapChoice;
 class SkinStatus;
 class StyleChoice;
+class SurfaceRoom;
 class ToolChoice;
 class WindowGate;
 class WindowKeys;
 class WorkHistory;
+class ZoomChoice;
 struct Finding;
 
 /// Owns the document and what is selected in it. Asks the user through `prompts`, which outlives
@@ -98,7 +101,8 @@ class FrmMain : public QMainWindow {
   private:
     void build(const std::filesystem::path& programFolder);
     QWidget* buildLeftSide();
-    QWidget* buildSurface();
+    SurfaceRoom* buildSurface();
+    QWidget* buildReadout();
     QWidget* buildRightSide();
     QWidget* buildPanels();
     QWidget* buildStopButton();
@@ -134,7 +138,8 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<MainMenus> menus_;
     std::unique_ptr<StyleChoice> style_;
     Pic* pic_ = nullptr;
-    QWidget* surface_ = nullptr; // the frame around Pic
+    SurfaceRoom* surface_ = nullptr; // the room around Pic
+    QToolButton* cmdZoom_ = nullptr;
     QLabel* lblPos_ = nullptr;
     QWidget* fraNote_ = nullptr;
     CreatePanel* fraCreate_ = nullptr;
@@ -152,6 +157,7 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<SelectionViews> views_;
     std::unique_ptr<WindowKeys> keys_;
     std::unique_ptr<SnapChoice> snapping_;
+    std::unique_ptr<ZoomChoice> zoom_;
     std::unique_ptr<ChangeTeller> changes_;
     std::unique_ptr<WorkHistory> history_;
     std::unique_ptr<SkinStatus> status_;

@@ -14,8 +14,9 @@
 #include "surface/picture_watch.h"
 #include "surface/selection_marks.h"
 #include "surface/surface_controller.h"
+#include "surface/surface_pan.h"
+#include "surface/surface_room.h"
 #include "widgets/control_names.h"
-#include "widgets/focus_frame.h"
 #include "widgets/mnemonics.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
@@ -46,6 +47,7 @@
 #include "window/window_keys.h"
 #include "window/window_mnemonics.h"
 #include "window/work_history.h"
+#include "window/zoom_choice.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -54,6 +56,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <initializer_list>
@@ -113,11 +116,29 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     new ToolTips(*this); // NOLINT: the window owns it
 }
 
-QWidget* FrmMain::buildSurface() {
+SurfaceRoom* FrmMain::buildSurface() {
     pic_ = new Pic(pictures_);
-    auto* frame = new FocusFrame(*pic_);
+    auto* room = new SurfaceRoom(*pic_);
     marks_ = new SelectionMarks(*pic_);
-    return frame;
+    return room;
+}
+
+// Where the pointer is, and how large the screen.
+QWidget* FrmMain::buildReadout() {
+    auto* readout = new QWidget;
+    auto* row = new QHBoxLayout(readout);
+    row->setContentsMargins(0, 0, 0, 0);
+    lblPos_ = new QLabel(qtText(initialReadout));
+    lblPos_->setObjectName(QStringLiteral("lblPos"));
+    lblPos_->setAccessibleDescription(tr("Position of the pointer")); // its text is its name
+    cmdZoom_ = named(new QToolButton, QStringLiteral("cmdZoom"), tr("Zoom"));
+    cmdZoom_->setToolTip(tr("Zoom: Ctrl and the wheel, Ctrl+Plus, Ctrl+Minus"));
+    cmdZoom_->setPopupMode(QToolButton::InstantPopup);
+    cmdZoom_->setAutoRaise(true);
+    cmdZoom_->setFocusPolicy(Qt::NoFocus); // its entries are in the menu "Options", too
+    row->addWidget(lblPos_, 1);
+    row->addWidget(cmdZoom_);
+    return readout;
 }
 
 QWidget* FrmMain::buildLeftSide() {
@@ -126,20 +147,17 @@ QWidget* FrmMain::buildLeftSide() {
     column->setContentsMargins(0, 0, 0, 0);
     surface_ = sliding(buildSurface());
 
-    lblPos_ = new QLabel(qtText(initialReadout));
-    lblPos_->setObjectName(QStringLiteral("lblPos"));
-    lblPos_->setAccessibleDescription(tr("Position of the pointer")); // its text is its name
+    QWidget* readout = buildReadout();
     fraCreate_ = sliding(new CreatePanel);
     auto* note = new QLabel(QLatin1String(noteText));
     note->setObjectName(QStringLiteral("fraNote"));
     note->setWordWrap(true);
     fraNote_ = sliding(note);
 
-    column->addWidget(surface_, 0, Qt::AlignLeft);
-    column->addWidget(lblPos_);
+    column->addWidget(surface_, 1);
+    column->addWidget(readout);
     column->addWidget(fraCreate_);
     column->addWidget(fraNote_);
-    column->addStretch();
     return side;
 }
 
@@ -203,6 +221,8 @@ void FrmMain::buildReactions() {
     keys_ = std::make_unique<WindowKeys>(
         *this, [this] { return !gate_->isClosed(); },
         std::vector<WindowKeys::Key>{
+            {Qt::Key_Escape, [this] { return zoom_->pan().isPanning(); },
+             [this] { zoom_->pan().cancel(); }},
             {Qt::Key_Escape, [this] { return fraElements_->isDragging(); },
              [this] { fraElements_->cancelDrag(); }},
             {Qt::Key_Escape, [this] { return tools_->isBusy(); }, [this] { tools_->giveUp(); }},
@@ -249,6 +269,14 @@ void FrmMain::connectPanels() {
                                      *menus_->mnuSnapElements, *menus_->mnuSnapGrid, remembered_);
     controller.setSnapping(snapping_->options());
     connect(snapping_.get(), &SnapChoice::changed, &controller, &SurfaceController::setSnapping);
+    zoom_ = std::make_unique<ZoomChoice>(
+        ZoomChoice::Parts{.menu = *menuBar()->findChild<QMenu*>("mnuOptions"),
+                          .display = *cmdZoom_,
+                          .room = *surface_,
+                          .surface = *pic_,
+                          .controller = controller,
+                          .remembered = remembered_});
+    connect(&zoom_->pan(), &SurfacePan::clicked, this, [this] { selection_.clear(); });
     connect(&controller, &SurfaceController::menuWanted, this, &FrmMain::popupMenu);
     connect(&controller, &SurfaceController::fileDropped, this,
             [this](const QString& file) { dialogs_->addResource(file); });
