@@ -66,6 +66,10 @@ void beCanvas(QWidget& widget) {
     setRole(widget, QAccessible::Canvas);
 }
 
+void beHandle(QWidget& widget) {
+    setRole(widget, QAccessible::Separator);
+}
+
 void beRadioButton(QAbstractButton& button) {
     setRole(button, QAccessible::RadioButton);
     // A factory's interface is not told of what Qt's own knows by itself.

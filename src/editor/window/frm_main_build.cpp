@@ -16,6 +16,7 @@
 #include "surface/surface_controller.h"
 #include "surface/surface_pan.h"
 #include "surface/surface_room.h"
+#include "widgets/accessible_roles.h"
 #include "widgets/control_names.h"
 #include "widgets/mnemonics.h"
 #include "widgets/panel_slide.h"
@@ -55,6 +56,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QSizeGrip>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -254,6 +256,10 @@ void FrmMain::buildHistory() {
 
 void FrmMain::buildStatus() {
     status_ = std::make_unique<SkinStatus>(document_, *statusBar());
+    for (auto* grip : statusBar()->findChildren<QSizeGrip*>()) {
+        beHandle(*grip); // before its name is told
+        named(grip, QStringLiteral("sizeGrip"), tr("Size of the window"));
+    }
     connect(history_.get(), &WorkHistory::changed, status_.get(),
             [this] { status_->setUnsaved(history_->history().isChanged()); });
     connect(&files_, &SkinFileCommands::skinFolderChanged, status_.get(),

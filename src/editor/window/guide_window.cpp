@@ -1,6 +1,7 @@
 // Puts contents, text and search together.
 #include "window/guide_window.h"
 
+#include "widgets/accessible_roles.h"
 #include "widgets/control_names.h"
 #include "window/guide_view.h"
 
@@ -51,6 +52,8 @@ GuideWindow::GuideWindow(std::function<void(const QUrl&)> open, QWidget* parent)
     parts->addWidget(txtGuide_);
     parts->setStretchFactor(1, 1);
     parts->setChildrenCollapsible(false);
+    beHandle(*parts->handle(1)); // before its name is told
+    named(parts->handle(1), QStringLiteral("handle"), tr("Width of the contents"));
     auto* column = new QVBoxLayout(this);
     column->addLayout(makeSearch());
     column->addWidget(parts, 1);
