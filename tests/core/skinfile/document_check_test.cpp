@@ -155,5 +155,21 @@ TEST_F(DocumentCheckTest, SkinsSayWhichElementIsMeant) {
             {"Menu, element 1 (Image: zz): its source \"zz\" names no resource", 1, first}}));
 }
 
+TEST_F(DocumentCheckTest, FindingsTellHowBadTheyAre) {
+    addImage("nothing", 10, 10);
+    addText("NoSuchField");
+    addPicture("big", 640, 480);
+    addImage("big", 10, 10);
+    std::vector<std::pair<bool, Severity>> seen; // of an element?
+    for (const Finding& finding : check()) {
+        seen.emplace_back(finding.elementId.has_value(), finding.severity);
+    }
+    const std::vector<std::pair<bool, Severity>> expected = {{true, Severity::error},
+                                                             {true, Severity::warning},
+                                                             {true, Severity::note},
+                                                             {false, Severity::note}};
+    EXPECT_EQ(seen, expected);
+}
+
 } // namespace
 } // namespace tarvel

@@ -91,7 +91,9 @@ std::vector<Case> PanelNamesTest::cases() {
         {"screens",
          {"Menu", "JukeBox"},
          [this] { return std::make_unique<LayoutPanel>(document_); }},
-        {"elements", {}, [this] { return std::make_unique<ElementsPanel>(document_, selection_); }},
+        {"elements",
+         {},
+         [this] { return std::make_unique<ElementsPanel>(document_, selection_, pictures_); }},
         {"position", {}, [this] { return position(ControlKind::box); }},
         {"position of a line", {}, [this] { return position(ControlKind::lin); }},
     };
