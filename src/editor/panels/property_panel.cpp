@@ -20,13 +20,11 @@ namespace tarvel {
 
 namespace {
 
-constexpr int narrowest = 340; // pixels
 QString applyTip(bool differs) {
     return differs ? PropertyPanel::tr("Take the values of the panel over into the element, from "
                                        "which they differ")
                    : PropertyPanel::tr("Take the values of the panel over into the element");
 }
-
 
 } // namespace
 
@@ -40,7 +38,6 @@ PropertyPanel::PropertyPanel(const SkinDocument& document, Prompts& prompts, Pic
     , fraImg_(new ImageFrame(values_, document, pictures))
     , fraQor_(new MenuSettingsFrame(values_.menu, prompts)) {
     setAccessibleName(tr("Properties"));
-    setMinimumWidth(narrowest);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     buildFrames();

@@ -1,0 +1,266 @@
+// Makes the pictures of the documents: the windows of the editor with an example open, each in
+// light and dark.
+#include "panels/behaviour_panel.h"
+#include "surface/pic.h"
+#include "widgets/content_scroll.h"
+#include "widgets/panel_slide.h"
+#include "widgets/qt_prompts.h"
+#include "widgets/remembered.h"
+#include "widgets/shown_path.h"
+#include "widgets/style/palettes.h"
+#include "window/frm_main.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QListView>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <initializer_list>
+
+namespace tarvel {
+
+namespace {
+
+// What is asked for on the command line.
+struct Wish {
+    QDir out;
+    QString skin;   // its folder
+    QSize size;     // of the main window; empty for the one that it asks for
+    int points = 0; // of the application's font; 0 for the system's
+};
+
+void wait(int milliseconds) {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) {
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+    }
+}
+
+// One run of the editor, in one shade, whose windows are pictured one by one.
+class Studio {
+  public:
+    Studio(const Wish& wish, const QDir& out)
+        : out_(out) {
+        window_.resize(wish.size.isEmpty() ? window_.sizeHint() : wish.size);
+        window_.show();
+        wait(800); // the panels slide in
+        window_.begin({wish.skin});
+        wait(1500); // pictures are decoded
+    }
+
+    void takeAll() {
+        select({{5, 4}});
+        take("main-window", window_);
+        takeSelections();
+        takePanels();
+        takeDialogs();
+        takeMenus();
+        takeHelp();
+        takeZoom();
+    }
+
+  private:
+    template <class Widget> Widget& at(const char* name) {
+        auto* found = window_.findChild<Widget*>(QLatin1String(name));
+        if (found == nullptr) {
+            qFatal("there is no %s", name);
+        }
+        return *found;
+    }
+    QAction& entry(const char* name) { return at<QAction>(name); }
+
+    // Rows of the current screen, the last of which leads.
+    void select(std::initializer_list<std::pair<int, int>> ranges) {
+        QListView* list = nullptr;
+        for (auto* each : window_.findChildren<QListView*>()) {
+            if (each->objectName().startsWith(QLatin1String("lst(")) && each->isVisible()) {
+                list = each;
+            }
+        }
+        QItemSelection rows;
+        QModelIndex last;
+        for (const auto& [from, to] : ranges) {
+            const int first = std::min(from, to);
+            rows.select(list->model()->index(first, 0),
+                        list->model()->index(std::max(from, to), 0));
+            last = list->model()->index(to, 0);
+        }
+        list->selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
+        list->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+        list->scrollTo(last);
+        wait(150);
+    }
+
+    void take(const QString& name, QWidget& widget) {
+        wait(150);
+        const QString file = out_.filePath(name + QStringLiteral(".png"));
+        if (!widget.grab().toImage().convertToFormat(QImage::Format_RGB32).save(file)) {
+            qFatal("cannot write %s", qPrintable(file));
+        }
+    }
+
+    // The first row of the current screen whose text begins so; -1 for none.
+    int rowOf(const QString& text) {
+        const int screen = window_.document().currentLayout();
+        for (int row = 0; row < window_.document().rowCount(screen); ++row) {
+            if (QString::fromStdString(window_.document().rowText(screen, row)).startsWith(text)) {
+                return row;
+            }
+        }
+        return -1;
+    }
+
+    void takeSelections() {
+        select({{8, 8}, {1, 1}});
+        take(QStringLiteral("several-elements"), window_);
+        auto& panels = at<QWidget>("sidePanels");
+        for (const auto& [name, row] : {std::pair{"panel-text", "Text: Time"},
+                                        {"panel-image", "Image: Logo"},
+                                        {"panel-menu", "Menu"},
+                                        {"panel-line", "Line"}}) {
+            const int found = rowOf(QLatin1String(row));
+            select({{found, found}});
+            wait(300);
+            take(QLatin1String(name), panels);
+        }
+    }
+
+    void takePanels() {
+        select({{5, 5}});
+        int index = 0;
+        for (const char* name : {"modifiers", "timers", "condition"}) {
+            at<QPushButton>(qPrintable(QStringLiteral("cmdModifier(%1)").arg(index))).click();
+            QWidget* open = nullptr;
+            for (auto* panel : window_.findChildren<BehaviourPanel*>()) {
+                open = panel->isVisible() ? panel : open;
+            }
+            take(QLatin1String(name), *open);
+            take(QStringLiteral("window-") + QLatin1String(name), window_);
+            static_cast<BehaviourPanel*>(open)->ok();
+            ++index;
+        }
+    }
+
+    void takeDialogs() {
+        for (const auto& [name, picture] : {std::pair{"frmResources", "resources"},
+                                            {"frmAudio", "music"},
+                                            {"frmMusic", "music"},
+                                            {"frmColors", "colors"},
+                                            {"frmDelays", "delays"},
+                                            {"frmInfo", "information"}}) {
+            auto* dialog = window_.findChild<QDialog*>(QLatin1String(name));
+            if (dialog == nullptr) {
+                continue;
+            }
+            dialog->show();
+            wait(900); // thumbnails
+            take(QLatin1String(picture), *dialog);
+            dialog->hide();
+        }
+        entry("mnuCheck").trigger();
+        takeWindow("frmCheck", "check");
+    }
+
+    // A window that was opened, which is closed again.
+    void takeWindow(const char* name, const char* picture) {
+        wait(300);
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible() && window->objectName() == QLatin1String(name)) {
+                take(QLatin1String(picture), *window);
+                window->close();
+                return;
+            }
+        }
+        qFatal("%s does not open", name);
+    }
+
+    void takeMenus() {
+        select({{5, 5}, {8, 8}});
+        for (const auto& [name, picture] : {std::pair{"mnuSkin", "menu-skin"},
+                                            {"mnuOptions", "menu-options"},
+                                            {"mnuEdit", "menu-edit"},
+                                            {"mnuArrange", "menu-arrange"},
+                                            {"mnuRight", "menu-right"}}) {
+            auto& menu = at<QMenu>(name);
+            menu.popup(window_.pos() + QPoint(20, 40));
+            take(QLatin1String(picture), menu);
+            menu.close();
+        }
+    }
+
+    void takeHelp() {
+        entry("mnuGuide").trigger();
+        takeWindow("frmGuide", "guide");
+        entry("mnuKeys").trigger();
+        takeWindow("frmKeys", "keys");
+        entry("mnuAbout").trigger();
+        takeWindow("frmAbout", "about");
+    }
+
+    void takeZoom() {
+        select({{5, 5}});
+        entry("mnuRulers").trigger();
+        entry("mnuSafeArea").trigger();
+        take(QStringLiteral("rulers"), window_);
+        for (int i = 0; i < 4; ++i) {
+            entry("mnuZoomIn").trigger();
+        }
+        take(QStringLiteral("zoom"), window_);
+        entry("mnuZoomFit").trigger();
+        entry("mnuRulers").trigger();
+        entry("mnuSafeArea").trigger();
+    }
+
+    QDir out_;
+    QTemporaryDir folder_;
+    Remembered remembered_{folder_.filePath(QStringLiteral("settings.ini"))};
+    QtPrompts prompts_{&remembered_};
+    FrmMain window_{prompts_, hostPathOf(QCoreApplication::applicationDirPath()), remembered_};
+};
+
+// OUT SKIN [WIDTHxHEIGHT [POINTS]]
+Wish wishOf(const QStringList& words) {
+    Wish wish{.out = QDir(words.value(1)), .skin = words.value(2), .size = {}};
+    const QStringList size = words.value(3).split(QLatin1Char('x'));
+    if (size.size() == 2) {
+        wish.size = {size[0].toInt(), size[1].toInt()};
+    }
+    wish.points = words.value(4).toInt();
+    return wish;
+}
+
+} // namespace
+
+} // namespace tarvel
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tarvel"));
+    const tarvel::Wish wish = tarvel::wishOf(QApplication::arguments());
+    if (wish.skin.isEmpty()) {
+        std::fputs("tarvel_pictures OUT SKIN [WIDTHxHEIGHT [POINTS]]\n", stderr);
+        return 2;
+    }
+    if (wish.points > 0) {
+        QFont font = QApplication::font();
+        font.setPointSize(wish.points);
+        QApplication::setFont(font);
+    }
+    for (const bool dark : {false, true}) {
+        QApplication::setPalette(
+            tarvel::paletteOf(dark ? tarvel::Shade::dark : tarvel::Shade::light));
+        const QDir out(wish.out.filePath(dark ? QStringLiteral("dark") : QStringLiteral(".")));
+        out.mkpath(QStringLiteral("."));
+        tarvel::Studio(wish, out).takeAll();
+    }
+    return 0;
+}
