@@ -10,8 +10,8 @@ namespace tarvel {
 /// picture that is worked on, with its accessible description as its words.
 void beCanvas(QWidget& widget);
 
-/// A handle that is dragged, of a splitter or of a window's corner. Qt's own role for these is none of
-/// those that screen readers know.
+/// A handle that is dragged, of a splitter or of a window's corner. Qt's own role for these is none
+/// of those that screen readers know.
 void beHandle(QWidget& widget);
 
 /// The checkable button is one of several of which at most one is chosen.

@@ -18,8 +18,9 @@ namespace tarvel {
 
 namespace {
 
-constexpr int zoomStep = 10;   // percent
-constexpr int textMargin = 20; // pixels
+constexpr int zoomStep = 10;    // percent
+constexpr int textMargin = 20;  // pixels
+constexpr int firstColumn = 30; // percent of a table's width
 
 // As the places that show such texts on the web make them.
 QString anchorOf(const QString& heading) {
@@ -80,6 +81,7 @@ void GuideView::noteHeadings() {
 // Qt leaves no room above headings and in tables.
 void GuideView::styleText() {
     QTextCursor cursor(document());
+    cursor.beginEditBlock();
     for (const Heading& heading : headings_) {
         cursor.setPosition(document()->findBlockByNumber(heading.block).position());
         QTextBlockFormat room;
@@ -96,9 +98,16 @@ void GuideView::styleText() {
             format.setBorderCollapse(true);
             format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
             format.setBorderBrush(palette().color(QPalette::Mid));
+            format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+            if (table->columns() == 2) {
+                format.setColumnWidthConstraints(
+                    {QTextLength(QTextLength::PercentageLength, firstColumn),
+                     QTextLength(QTextLength::PercentageLength, 100 - firstColumn)});
+            }
             table->setFormat(format);
         }
     }
+    cursor.endEditBlock();
 }
 
 QVariant GuideView::loadResource(int type, const QUrl& name) {
@@ -128,6 +137,7 @@ void GuideView::fitPictures() {
         }
     }
     QTextCursor cursor(document());
+    cursor.beginEditBlock();
     for (Picture& picture : pictures) {
         const QString name = picture.format.name();
         const QPixmap whole = pictureOf(name);
@@ -136,8 +146,8 @@ void GuideView::fitPictures() {
             continue;
         }
         // Qt would draw it smaller without smoothing it.
-        QPixmap fitting = whole.scaledToWidth(qRound(width * devicePixelRatioF()),
-                                              Qt::SmoothTransformation);
+        QPixmap fitting =
+            whole.scaledToWidth(qRound(width * devicePixelRatioF()), Qt::SmoothTransformation);
         fitting.setDevicePixelRatio(devicePixelRatioF());
         document()->addResource(QTextDocument::ImageResource, QUrl(name), fitting);
         picture.format.setWidth(width);
@@ -145,6 +155,14 @@ void GuideView::fitPictures() {
         cursor.setPosition(picture.position + 1, QTextCursor::KeepAnchor);
         cursor.setCharFormat(picture.format);
     }
+    cursor.endEditBlock();
+    layOutWhole();
+}
+
+// Laid out piece by piece, as it comes into sight, the text between tables would be left out.
+void GuideView::layOutWhole() {
+    document()->markContentsDirty(0, document()->characterCount());
+    (void)document()->size();
 }
 
 void GuideView::resizeEvent(QResizeEvent* event) {
@@ -180,6 +198,7 @@ void GuideView::setZoom(int percent) {
     QFont larger = font();
     larger.setPointSizeF(plainSize_ * zoom_ / 100);
     setFont(larger);
+    layOutWhole();
     if (at >= 0) {
         scrollTo(headings_[static_cast<std::size_t>(at)].block);
     }
@@ -239,7 +258,7 @@ void GuideView::search(const QString& text) {
         setTextCursor(plain);
     } else if (!rendering_) {
         shownMatch_ = std::max(shownMatch_, 0);
-        setTextCursor(matches_[static_cast<std::size_t>(shownMatch_)]);
+        goToMatch();
     }
     markMatches();
 }
@@ -247,8 +266,18 @@ void GuideView::search(const QString& text) {
 void GuideView::showMatch(int step) {
     if (!matches_.empty()) {
         shownMatch_ = (shownMatch_ + step + matches()) % matches();
-        setTextCursor(matches_[static_cast<std::size_t>(shownMatch_)]);
+        goToMatch();
         markMatches();
+    }
+}
+
+// Somewhat above the middle, with what stands around it.
+void GuideView::goToMatch() {
+    setTextCursor(matches_[static_cast<std::size_t>(shownMatch_)]);
+    const QRect place = cursorRect();
+    const int height = viewport()->height();
+    if (place.top() < height / 8 || place.bottom() > height * 3 / 4) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - height / 3);
     }
 }
 

@@ -63,8 +63,10 @@ class GuideView : public QTextBrowser {
     void noteHeadings();
     void styleText();
     void fitPictures();
+    void layOutWhole();
     [[nodiscard]] QPixmap pictureOf(const QString& name);
     void followLink(const QUrl& link);
+    void goToMatch();
     void markMatches();
     void scrollTo(int block);
 

@@ -125,6 +125,7 @@ void GuideWindow::fillContents() {
         const bool isChapter = heading.level == 2 || chapter == nullptr;
         auto* item = new QTreeWidgetItem(QStringList(heading.text));
         item->setData(0, Qt::UserRole, heading.anchor);
+        item->setToolTip(0, heading.text); // where the column is narrow
         if (isChapter) {
             lstContents_->addTopLevelItem(item);
             chapter = item;
