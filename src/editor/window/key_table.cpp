@@ -30,6 +30,12 @@ const std::vector<KeyGroup>& keyTable() {
           {"Ctrl+V", "Paste", "mnuPaste"},
           {"Ctrl+D", "Duplicate", "mnuDuplicate"},
           {"Ctrl+A", "Select All", "mnuSelectAll"}}},
+        {"Zoom",
+         {{"Ctrl++ or Ctrl+=", "Zoom In; also Ctrl and the wheel", "mnuZoomIn"},
+          {"Ctrl+-", "Zoom Out", "mnuZoomOut"},
+          {"Ctrl+0", "100 %", "mnuZoomActual"},
+          {"Ctrl+9", "Fit the screen into its room", "mnuZoomFit"},
+          {"Space while dragging", "moves the screen in its room, as the middle button does", {}}}},
         {"Surface",
          {{"Enter", "with a tool chosen: an element in the middle of the screen", {}},
           {"Arrow keys", "move what is selected by 1 pixel", {}},
@@ -59,8 +65,8 @@ const std::vector<KeyGroup>& keyTable() {
          {{"Ctrl+F", "finds a text", {}},
           {"F3 or Enter", "the next place", {}},
           {"Shift+F3", "the place before", {}},
-          {"Ctrl+Plus", "larger text; also Ctrl and the wheel", {}},
-          {"Ctrl+Minus", "smaller text", {}},
+          {"Ctrl++", "larger text; also Ctrl and the wheel", {}},
+          {"Ctrl+-", "smaller text", {}},
           {"Ctrl+0", "the usual size", {}}}}};
     return table;
 }

@@ -1,5 +1,6 @@
 // The file list of the Music dialog, and listening to its files.
 #include "dialogs/music_list.h"
+#include "support/captions.h"
 #include "support/music_support.h"
 #include "support/ui_test.h"
 #include "widgets/play_button.h"
@@ -254,12 +255,12 @@ void FrmMusicListTest::selectedFileIsPlayed() {
     click(button);
     QCOMPARE(log_, QStringList{"play " + inFolder("b.wma")});
     QVERIFY(button.isPlaying());
-    QCOMPARE(button.text(), "Stop");
+    QCOMPARE(test::captionOf(button), "Stop");
     QCOMPARE(button.accessibleName(), "Stop listening");
     click(button);
     QCOMPARE(log_.last(), "stop");
     QVERIFY(!button.isPlaying());
-    QCOMPARE(button.text(), "Play");
+    QCOMPARE(test::captionOf(button), "Play");
     QCOMPARE(button.accessibleName(), "Play the selected file");
     QTest::keyClick(&list, Qt::Key_Space);
     QVERIFY(button.isPlaying());
@@ -309,7 +310,7 @@ void FrmMusicListTest::progressAndProblemsAreShown() {
     QCOMPARE(label.text(), "1:01 of 3:25");
     player_->tell({.file = file, .problem = "cannot be played here"});
     QCOMPARE(label.text(), "cannot be played here");
-    QCOMPARE(control<PlayButton>(*dialog, "cmdPlay").text(), "Play");
+    QCOMPARE(test::captionOf(control<PlayButton>(*dialog, "cmdPlay")), "Play");
     player_->tell({});
     QCOMPARE(label.text(), "");
 }
