@@ -381,7 +381,7 @@ void FrmMain::buildKeyboard() {
         return tools_->isBusy() ? ElementWalk::Hand::drawing : ElementWalk::Hand::free;
     });
     FocusRound::Part panel = behaviourPanels_->panels();
-    panel.insert(panel.end(), {fraPos_, behaviours_, properties_});
+    panel.insert(panel.end(), {fraPos_, behaviours_, properties_, properties_->commands()});
     new FocusRound(*this, {{pic_}, {fraElements_, fraLayout_}, panel, {fraCreate_}});
     giveWindowMnemonics(*this);
     new MnemonicKeeper(this);

@@ -53,14 +53,17 @@ QStringList captionsOf(const QWidget& window) {
     return captions;
 }
 
-/// Beside the screens, which are a group.
+/// Of the window itself, but for the screens, which are a group, and the zoom, which is a number.
 QStringList buttonsOf(const Editor& editor) {
     QStringList captions;
-    for (const char* part : {"fraCreate", "fraBehaviour"}) {
-        captions += captionsOf(*editor.window.findChild<QWidget*>(part));
+    for (const auto* button : editor.window.findChildren<QAbstractButton*>()) {
+        const bool isOwn = button->window() == &editor.window && button->isVisible();
+        if (isOwn && !button->text().isEmpty() && button->objectName() != "cmdZoom" &&
+            !button->objectName().startsWith("optScreen")) {
+            captions << button->text();
+        }
     }
-    const auto* cmdApply = editor.window.findChild<QAbstractButton*>("cmdApply");
-    return captions + captionsOf(*cmdApply->parentWidget());
+    return captions;
 }
 
 } // namespace
