@@ -1,6 +1,7 @@
 // Gives the right column its width whenever there is another one to share.
 #include "window/window_columns.h"
 
+#include "widgets/accessible_roles.h"
 #include "widgets/remembered.h"
 
 #include <QEvent>
@@ -31,6 +32,7 @@ void WindowColumns::setColumns(QWidget* left, QWidget* right, QWidget* most) {
     insertWidget(0, left);
     setStretchFactor(0, 1);
     setStretchFactor(1, 0);
+    beHandle(*handle(1)); // before its name is told
     handle(1)->setAccessibleName(tr("Edge between the surface and the panels"));
     handle(1)->setToolTip(tr("Drag to make the panels wider"));
 }
