@@ -3,20 +3,15 @@
 
 #include <QAbstractItemView>
 #include <QEvent>
+#include <QPainter>
 
 namespace tarvel {
 
 EmptyHint::EmptyHint(QAbstractItemView& list, const QString& words)
-    : QLabel(list.viewport())
+    : QWidget(list.viewport())
     , list_(list) {
     setObjectName(QStringLiteral("emptyHint"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setAlignment(Qt::AlignCenter);
-    setWordWrap(true);
-    setTextFormat(Qt::PlainText);
-    setForegroundRole(QPalette::PlaceholderText);
-    constexpr int margin = 8; // pixels
-    setMargin(margin);
     setWords(words);
     const QAbstractItemModel* model = list.model();
     connect(model, &QAbstractItemModel::rowsInserted, this, &EmptyHint::showOrHide);
@@ -27,7 +22,9 @@ EmptyHint::EmptyHint(QAbstractItemView& list, const QString& words)
 }
 
 void EmptyHint::setWords(const QString& words) {
-    setText(words);
+    words_ = words;
+    setAccessibleName(words);
+    update();
     showOrHide();
 }
 
@@ -35,14 +32,23 @@ bool EmptyHint::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize) {
         setGeometry(list_.viewport()->rect());
     }
-    return QLabel::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
+}
+
+void EmptyHint::paintEvent(QPaintEvent* /*event*/) {
+    constexpr int margin = 8; // pixels
+    QPainter painter(this);
+    painter.setPen(list_.palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
+                     static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap),
+                     words_);
 }
 
 void EmptyHint::showOrHide() {
     const bool isEmpty = list_.model()->rowCount() == 0;
     setGeometry(list_.viewport()->rect());
-    setVisible(isEmpty && !text().isEmpty());
-    list_.setAccessibleDescription(isVisibleTo(list_.viewport()) ? text() : QString());
+    setVisible(isEmpty && !words_.isEmpty());
+    list_.setAccessibleDescription(isVisibleTo(list_.viewport()) ? words_ : QString());
 }
 
 } // namespace tarvel
