@@ -27,7 +27,7 @@ constexpr int largestCount = 8;
 constexpr int fewestParts = 2;
 
 // Over elements of any colour.
-constexpr QColor pixelGridColor(128, 128, 128, 80);
+constexpr QColor pixelGridColor(128, 128, 128, 56);
 constexpr QColor safeAreaColor(255, 200, 0);
 constexpr double percent = 100;
 
@@ -181,6 +181,9 @@ void Pic::paintEvent(QPaintEvent* event) {
     if (document_ == nullptr) {
         painter.fillRect(event->rect(), Qt::black);
         return;
+    }
+    if (mapping_.screen().size() != QSizeF(size())) {
+        painter.fillRect(event->rect(), Qt::black); // the last pixels are no whole ones
     }
     // Pictures appear as they are decoded, so that a skin of hundreds shows at once.
     constexpr int budgetMs = 20;

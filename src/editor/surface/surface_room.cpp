@@ -173,7 +173,23 @@ void SurfaceRoom::moveFrame() {
     viewport()->update(); // the shadow
     showOnRulers();
     if (pointer_ && (before != frame_->pos() || held_)) {
-        surface_.tellPointer(*pointer_ - surfacePlace());
+        movedBelowPointer();
+    }
+}
+
+void SurfaceRoom::movedBelowPointer() {
+    const QPointF at = *pointer_ - surfacePlace();
+    if (QRectF(surface_.rect()).contains(at)) {
+        surface_.tellPointer(at);
+    } else {
+        forgetPointer();
+    }
+}
+
+void SurfaceRoom::forgetPointer() {
+    pointer_.reset();
+    for (SurfaceRuler* ruler : rulers_) {
+        ruler->setPointer(std::nullopt);
     }
 }
 
@@ -245,9 +261,7 @@ bool SurfaceRoom::eventFilter(QObject* watched, QEvent* event) {
         if (event->type() == QEvent::MouseMove) {
             pointer_ = static_cast<QMouseEvent*>(event)->position() + surfacePlace();
         } else if (event->type() == QEvent::Leave) {
-            pointer_.reset();
-            rulers_[0]->setPointer(std::nullopt);
-            rulers_[1]->setPointer(std::nullopt);
+            forgetPointer();
         }
     }
     return QAbstractScrollArea::eventFilter(watched, event);

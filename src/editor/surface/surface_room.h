@@ -73,6 +73,8 @@ class SurfaceRoom : public QAbstractScrollArea {
     void placeAlong(QScrollBar& bar, int length, int room, int wanted);
     [[nodiscard]] QPoint withinEnds(QPoint scrolled) const;
     void moveFrame();
+    void movedBelowPointer();
+    void forgetPointer();
     void showOnRulers();
     [[nodiscard]] QPoint surfacePlace() const;
 

@@ -61,6 +61,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <initializer_list>
 
 namespace tarvel {
@@ -79,6 +80,16 @@ template <class Panel> Panel* sliding(Panel* panel) {
     panel->setVisible(false);
     return panel;
 }
+
+// Asks for the height that its texts take when they are broken at its width: the screen is not to
+// make room for them.
+class LeftColumn : public QWidget {
+  public:
+    [[nodiscard]] QSize sizeHint() const override {
+        const QSize size = QWidget::sizeHint();
+        return {size.width(), std::max(size.height(), heightForWidth(size.width()))};
+    }
+};
 
 } // namespace
 
@@ -101,7 +112,6 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     QWidget* right = buildRightSide();
     columns->setColumns(left, right, surface_);
     setCentralWidget(centre);
-    resize(sizeHint());
     behaviourPanels_ = new BehaviourPanels(document_, prompts_, *gate_,
                                            {.side = *right, .roof = *fraPos_, .floor = *cmdStop_},
                                            *centre, programFolder);
@@ -116,6 +126,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     setMenuIcons(*this);
     setControlTips(*this);
     new ToolTips(*this); // NOLINT: the window owns it
+    resize(sizeHint());  // now that all parts can tell theirs
 }
 
 SurfaceRoom* FrmMain::buildSurface() {
@@ -144,7 +155,7 @@ QWidget* FrmMain::buildReadout() {
 }
 
 QWidget* FrmMain::buildLeftSide() {
-    auto* side = new QWidget;
+    auto* side = new LeftColumn;
     auto* column = new QVBoxLayout(side);
     column->setContentsMargins(0, 0, 0, 0);
     surface_ = sliding(buildSurface());

@@ -532,6 +532,11 @@ void SurfaceRoomTest::rulersMarkThePointer() {
     shown.room.horizontalScrollBar()->setValue(shown.room.horizontalScrollBar()->value() + 20);
     QCOMPARE(across->pointer(), std::optional(at.x() / 2.0 + 10));
     QCOMPARE(moved.last().first().toPointF(), QPointF(at.x() / 2.0 + 10, at.y() / 2.0));
+    shown.room.zoomTo(25); // the screen is not below it any more
+    settle();
+    QVERIFY(!across->pointer() && !down->pointer());
+    QApplication::sendEvent(&shown.pic, &move);
+    QVERIFY(across->pointer() && down->pointer());
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(&shown.pic, &leave);
     QVERIFY(!across->pointer() && !down->pointer());
