@@ -148,7 +148,8 @@ void Pic::clearFlatGround() {
 }
 
 QImage Pic::flatPicture(int endRow) {
-    QImage image(size() * devicePixelRatioF(), QImage::Format_RGB32);
+    // Exactly the pixels that the painter snaps the screen to.
+    QImage image((mapping_.screen().size() * devicePixelRatioF()).toSize(), QImage::Format_RGB32);
     image.setDevicePixelRatio(devicePixelRatioF());
     image.fill(Qt::black);
     if (document_ != nullptr) {
