@@ -6,6 +6,7 @@
 // machine does not bend; the limits are those of the project and apply to the latter.
 #include "document/open_edit.h"
 #include "editing/pick_index.h"
+#include "surface/surface_room.h"
 #include "widgets/panel_slide.h"
 #include "widgets/prompts.h"
 #include "widgets/remembered.h"
@@ -185,20 +186,21 @@ QPoint onTheWay(int step) {
 }
 
 /// Drags with the left button and times every move from its event to the end of the repaint.
-Times dragTimes(QWidget& widget) {
+/// `scale` in pixels of the window a skin pixel.
+Times dragTimes(QWidget& widget, int scale = 1) {
     PaintCount paints(widget);
     Times times;
-    sendMouse(widget, QEvent::MouseButtonPress, onTheWay(0));
+    sendMouse(widget, QEvent::MouseButtonPress, onTheWay(0) * scale);
     QApplication::processEvents();
     for (int step = 1; step <= moves; ++step) {
         if (onTheWay(step) != onTheWay(step - 1)) {
             times.take([&] {
-                sendMouse(widget, QEvent::MouseMove, onTheWay(step));
+                sendMouse(widget, QEvent::MouseMove, onTheWay(step) * scale);
                 paints.wait();
             });
         }
     }
-    sendMouse(widget, QEvent::MouseButtonRelease, onTheWay(moves));
+    sendMouse(widget, QEvent::MouseButtonRelease, onTheWay(moves) * scale);
     return times;
 }
 
@@ -383,6 +385,12 @@ bool runAll() {
         add("main window, a move among 10,000 boxes", dragTimes(window.find<QWidget>("Pic")),
             {1.5, 5});
         add("selection in a list of 10,000 rows", selectionTimes(window), {5, 0});
+    }
+    {
+        Window window(many);
+        window.find<SurfaceRoom>("surfaceRoom").zoomTo(400);
+        add("a move among 10,000 boxes at 400 %", dragTimes(window.find<QWidget>("Pic"), 4),
+            {16.7, 16.7});
     }
     constexpr Limits shown = {16, 16};
     {

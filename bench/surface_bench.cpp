@@ -20,8 +20,8 @@ namespace {
 constexpr int screen = 1;
 constexpr QRectF everything(0, 0, skinWidth, skinHeight);
 
-QImage surfaceImage() {
-    return {skinWidth, skinHeight, QImage::Format_ARGB32_Premultiplied};
+QImage surfaceImage(int scale = 1) {
+    return {skinWidth * scale, skinHeight * scale, QImage::Format_ARGB32_Premultiplied};
 }
 
 struct Boxes {
@@ -58,22 +58,25 @@ Boxes boxes(int count, int smallest, int largest) {
     return result;
 }
 
-// Arguments: number of boxes, shortest and longest side.
+// Arguments: number of boxes, shortest and longest side, and pixels a skin pixel.
 void paintBoxesAgainstFillRect(benchmark::State& state) {
     const Boxes scene = boxes(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)),
                               static_cast<int>(state.range(2)));
     PictureCache pictures;
     SurfacePainter surface(pictures);
-    QImage own = surfaceImage();
-    QImage bare = surfaceImage();
+    const int scale = static_cast<int>(state.range(3));
+    QImage own = surfaceImage(scale);
+    QImage bare = surfaceImage(scale);
     comparePairs(
         state,
         [&] {
             QPainter painter(&own);
+            painter.scale(scale, scale);
             surface.paint(painter, scene.document, screen, everything);
         },
         [&] {
             QPainter painter(&bare);
+            painter.scale(scale, scale);
             painter.fillRect(everything, Qt::black);
             for (std::size_t index = 0; index < scene.rects.size(); ++index) {
                 painter.fillRect(scene.rects[index], scene.colors[index]);
@@ -161,10 +164,12 @@ void repaintMovedBox(benchmark::State& state) {
 }
 
 BENCHMARK(paintBoxesAgainstFillRect)
-    ->ArgNames({"boxes", "from", "to"})
-    ->Args({10'000, 10, 80})
-    ->Args({10'000, 100, 300})
-    ->Args({10'000, 4, 12})
+    ->ArgNames({"boxes", "from", "to", "scale"})
+    ->Args({10'000, 10, 80, 1})
+    ->Args({10'000, 100, 300, 1})
+    ->Args({10'000, 4, 12, 1})
+    ->Args({10'000, 10, 80, 2})
+    ->Args({10'000, 4, 12, 2})
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(paintTextsAgainstStaticText)
