@@ -249,7 +249,15 @@ void MenuSettingsFrame::showCheck(const Check& check) {
                              : value           ? Qt::Checked
                                                : Qt::Unchecked);
     check.box->setAccessibleDescription(value.isVarious() ? various() : QString());
-    check.box->setToolTip(check.box->accessibleDescription());
+    // Its own tip comes back when the value is one again.
+    constexpr auto ownTip = "ownTip";
+    const bool saysVarious = check.box->toolTip() == various();
+    if (value.isVarious() && !saysVarious) {
+        check.box->setProperty(ownTip, check.box->toolTip());
+        check.box->setToolTip(various());
+    } else if (!value.isVarious() && saysVarious) {
+        check.box->setToolTip(check.box->property(ownTip).toString());
+    }
 }
 
 void MenuSettingsFrame::showNumber(const Number& number) {
