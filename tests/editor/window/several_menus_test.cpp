@@ -1,4 +1,5 @@
 // The panel of the item menu's settings over several selected menus.
+#include "support/captions.h"
 #include "support/dialog_support.h"
 #include "support/editor.h"
 #include "support/ui_test.h"
@@ -143,7 +144,7 @@ void SeveralMenusTest::onlyWhatWasChosenGoesToAll() {
     second.titleAlignment = "Left";
     QVERIFY(editor.settings(1) == first);
     QVERIFY(editor.settings(2) == second);
-    QCOMPARE(editor.entry("mnuUndo")->text(), QString("Undo apply changes to 2 elements"));
+    QCOMPARE(captionOf(*editor.entry("mnuUndo")), QString("Undo apply changes to 2 elements"));
 }
 
 TARVEL_UI_TEST(SeveralMenusTest)
