@@ -1,9 +1,7 @@
 // Makes the pictures of the documents: the windows of the editor with an example open, each in
 // light and dark.
 #include "panels/behaviour_panel.h"
-#include "surface/pic.h"
-#include "widgets/content_scroll.h"
-#include "widgets/panel_slide.h"
+#include "surface/surface_room.h"
 #include "widgets/qt_prompts.h"
 #include "widgets/remembered.h"
 #include "widgets/shown_path.h"
@@ -12,14 +10,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QListView>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QPushButton>
-#include <QStyleFactory>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -58,7 +56,7 @@ class Studio {
     }
 
     void takeAll() {
-        select({{5, 4}});
+        select({{rowOf("Menu"), rowOf("Menu")}});
         take("main-window", window_);
         takeSelections();
         takePanels();
@@ -120,7 +118,8 @@ class Studio {
     }
 
     void takeSelections() {
-        select({{8, 8}, {1, 1}});
+        const int up = rowOf(QStringLiteral("Image: Up"));
+        select({{up - 3, up}, {up + 1, up + 1}});
         take(QStringLiteral("several-elements"), window_);
         auto& panels = at<QWidget>("sidePanels");
         for (const auto& [name, row] : {std::pair{"panel-text", "Text: Time"},
@@ -135,7 +134,9 @@ class Studio {
     }
 
     void takePanels() {
-        select({{5, 5}});
+        const int box = rowOf(QStringLiteral("Box"));
+        select({{box, box}});
+        const SkinDocument before = window_.document();
         int index = 0;
         for (const char* name : {"modifiers", "timers", "condition"}) {
             at<QPushButton>(qPrintable(QStringLiteral("cmdModifier(%1)").arg(index))).click();
@@ -143,10 +144,17 @@ class Studio {
             for (auto* panel : window_.findChildren<BehaviourPanel*>()) {
                 open = panel->isVisible() ? panel : open;
             }
+            if (index == 0) {
+                auto& types = at<QComboBox>("lstMods");
+                types.setCurrentIndex(types.findText(QStringLiteral("Tint")));
+            }
             take(QLatin1String(name), *open);
             take(QStringLiteral("window-") + QLatin1String(name), window_);
             static_cast<BehaviourPanel*>(open)->ok();
             ++index;
+            if (!window_.document().holdsTheSame(before)) {
+                entry("mnuUndo").trigger();
+            }
         }
     }
 
@@ -166,8 +174,24 @@ class Studio {
             take(QLatin1String(picture), *dialog);
             dialog->hide();
         }
+        takeCheck();
+    }
+
+    // With something to be found.
+    void takeCheck() {
+        SkinDocument& document = window_.document();
+        const SkinDocument before = document;
+        const int screen = document.currentLayout();
+        const int text = document.itemData(screen, rowOf(QStringLiteral("Text: Time")));
+        document.editElement(text, [](Element& element) { element.elementControl.left = 800; });
+        document.editSettings([](SkinSettings& settings) {
+            settings.resources.front().content = "Media\\gone.png";
+            settings.skinName += " \u2605";
+        });
         entry("mnuCheck").trigger();
         takeWindow("frmCheck", "check");
+        document.showVersion(before, screen);
+        wait(500);
     }
 
     // A window that was opened, which is closed again.
@@ -207,13 +231,17 @@ class Studio {
     }
 
     void takeZoom() {
-        select({{5, 5}});
+        const int logo = rowOf(QStringLiteral("Image: Logo"));
+        select({{logo, logo}});
         entry("mnuRulers").trigger();
         entry("mnuSafeArea").trigger();
         take(QStringLiteral("rulers"), window_);
-        for (int i = 0; i < 4; ++i) {
+        for (int i = 0; i < 5; ++i) {
             entry("mnuZoomIn").trigger();
         }
+        auto* room = window_.findChild<SurfaceRoom*>();
+        room->horizontalScrollBar()->setValue(100);
+        room->verticalScrollBar()->setValue(60);
         take(QStringLiteral("zoom"), window_);
         entry("mnuZoomFit").trigger();
         entry("mnuRulers").trigger();

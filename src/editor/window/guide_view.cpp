@@ -1,7 +1,10 @@
 // Lays the guide out by Qt's Markdown, and adds what that lacks: anchors, fitting pictures, room.
 #include "window/guide_view.h"
 
+#include "widgets/style/palettes.h"
+
 #include <QAbstractTextDocumentLayout>
+#include <QFile>
 #include <QPalette>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -35,9 +38,12 @@ QString anchorOf(const QString& heading) {
     return anchor;
 }
 
+bool isDark(const QPalette& palette) {
+    return shadeOf(palette) == Shade::dark;
+}
+
 QColor foundGround(const QPalette& palette) {
-    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
-    return isDark ? QColor(104, 84, 0) : QColor(255, 232, 130);
+    return isDark(palette) ? QColor(104, 84, 0) : QColor(255, 232, 130);
 }
 
 } // namespace
@@ -114,11 +120,18 @@ QVariant GuideView::loadResource(int type, const QUrl& name) {
     return type == QTextDocument::ImageResource ? pictureOf(name.path()) : QVariant();
 }
 
+// On dark ground the one from the folder of dark pictures beside it, where there is one.
 QPixmap GuideView::pictureOf(const QString& name) {
-    if (!pictures_.contains(name)) {
-        pictures_.insert(name, QPixmap(folder_ + name));
+    QString file = folder_ + name;
+    const auto slash = file.lastIndexOf(QLatin1Char('/')) + 1;
+    const QString dark = file.left(slash) + QStringLiteral("dark/") + file.mid(slash);
+    if (isDark(palette()) && QFile::exists(dark)) {
+        file = dark;
     }
-    return pictures_.value(name);
+    if (!pictures_.contains(file)) {
+        pictures_.insert(file, QPixmap(file));
+    }
+    return pictures_.value(file);
 }
 
 void GuideView::fitPictures() {

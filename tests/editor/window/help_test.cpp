@@ -1,6 +1,7 @@
 // The menu "Help": the guide with its search, links and pictures, the keys, and the program itself.
 #include "support/behaviour_editor.h"
 #include "support/ui_test.h"
+#include "widgets/style/palettes.h"
 #include "window/guide_view.h"
 #include "window/guide_window.h"
 #include "window/help_windows.h"
@@ -90,6 +91,7 @@ class HelpTest : public QObject {
     void guideFollowsLinks();
     void everyLinkLeadsSomewhere();
     void picturesFitTheWindow();
+    void picturesAreOfTheShadeOfTheWindow();
     void textIsZoomed();
     void chaptersOfDialogsAreThere();
     void f1InADialog();
@@ -203,11 +205,30 @@ void HelpTest::everyLinkLeadsSomewhere() {
     QVERIFY(links >= 2);
     for (const auto& [name, format] : picturesOf(*document)) {
         QVERIFY2(!QPixmap(":/tarvel/docs/" + name).isNull(), qPrintable(name));
+        const QString dark = QString(name).replace("images/", "images/dark/");
+        QVERIFY2(!QPixmap(":/tarvel/docs/" + dark).isNull(), qPrintable(dark));
     }
     QStringList anchors;
     for (const GuideView::Heading& heading : guide.view().headings()) {
         QVERIFY2(!anchors.contains(heading.anchor), qPrintable(heading.anchor));
         anchors << heading.anchor;
+    }
+}
+
+void HelpTest::picturesAreOfTheShadeOfTheWindow() {
+    GuideWindow guide([](const QUrl&) {});
+    QVERIFY(open(guide));
+    QTextDocument* document = guide.view().document();
+    // The menu bar's ground, in the corner of the first picture.
+    const auto isDark = [&] {
+        const QString name = picturesOf(*document).front().first;
+        const auto picture =
+            document->resource(QTextDocument::ImageResource, QUrl(name)).value<QPixmap>();
+        return picture.toImage().pixelColor(2, 2).lightness() < 128;
+    };
+    for (const Shade shade : {Shade::dark, Shade::light}) {
+        guide.setPalette(paletteOf(shade));
+        QTRY_COMPARE(isDark(), shade == Shade::dark);
     }
 }
 
