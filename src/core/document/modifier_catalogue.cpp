@@ -3,6 +3,7 @@
 
 #include "files/host_files.h"
 #include "text/tag_scanner.h"
+#include "text/text_case.h"
 #include "text/text_encoding.h"
 #include "text/value_encodings.h"
 #include "text/xml_parse.h"
@@ -108,6 +109,32 @@ ParameterPanel ModifierCatalogue::panelOf(std::string_view type) const {
         }
     }
     return ParameterPanel::none;
+}
+
+ModifierPreview ModifierCatalogue::previewOf(std::string_view type) const {
+    struct Known {
+        std::string_view name;
+        ParameterPanel needs;
+        ModifierPreview preview;
+    };
+    constexpr std::array<Known, 4> previews = {
+        {{"color", ParameterPanel::Color, ModifierPreview::color},
+         {"opacity", ParameterPanel::Range, ModifierPreview::opacity},
+         {"scale", ParameterPanel::Range, ModifierPreview::scale},
+         {"move", ParameterPanel::Bounds, ModifierPreview::move}}};
+    const ParameterPanel panel = panelOf(type);
+    const XmlNode types = sectionOf(tree_, "types");
+    const XmlNode entry = types ? childTagged(types, type) : XmlNode{};
+    const std::string_view word = entry ? getAttrib(entry, "preview") : std::string_view{};
+    if (word.empty()) {
+        return panel == ParameterPanel::Color ? ModifierPreview::color : ModifierPreview::still;
+    }
+    for (const Known& known : previews) {
+        if (known.needs == panel && equalsIgnoringCase(known.name, word)) {
+            return known.preview;
+        }
+    }
+    return ModifierPreview::still;
 }
 
 bool isPlaceholderTarget(std::string_view target) {

@@ -26,6 +26,15 @@ inline constexpr std::string_view noModifier = "None";
 /// The values that a modifier type takes beyond its target.
 enum class ParameterPanel : std::uint8_t { none, Range, Bounds, Color };
 
+/// The motion that stands for a modifier type while a screen plays.
+enum class ModifierPreview : std::uint8_t {
+    still,   ///< none: what the type does is not known
+    color,   ///< colour channels swing
+    opacity, ///< the opacity goes up and down
+    scale,   ///< the size does
+    move     ///< the element travels
+};
+
 /// The parsed file. Whatever is missing from it, offers less: a catalogue without anything offers
 /// "None" only. No member function fails.
 class ModifierCatalogue {
@@ -50,6 +59,11 @@ class ModifierCatalogue {
 
     /// The type's values by that word; letter case matters.
     [[nodiscard]] ParameterPanel panelOf(std::string_view type) const;
+
+    /// How a type plays: by its attribute "preview", in any letter case, as long as the type has
+    /// the values for it; without the attribute a Color type plays as `color`, and any other word
+    /// leaves the element still.
+    [[nodiscard]] ModifierPreview previewOf(std::string_view type) const;
 
   private:
     [[nodiscard]] XmlNode kindEntry(ElementKind kind) const;
