@@ -202,9 +202,10 @@ void FrmResources::resizeForm(int added) {
     const QSize hint = layout()->totalSizeHint();
     const int wide = std::max(width(), hint.width());
     fitted_ = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wide) : hint.height();
+    const int least = layout()->hasHeightForWidth() ? layout()->totalMinimumHeightForWidth(wide)
+                                                    : minimumSizeHint().height();
     constexpr int title = 40; // pixels of the window manager's
-    const int highest =
-        std::max(minimumSizeHint().height(), screen()->availableSize().height() - title);
+    const int highest = std::max(least, screen()->availableSize().height() - title);
     resize(wide, std::min(fitted_ + added, highest));
 }
 
