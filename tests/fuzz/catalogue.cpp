@@ -22,6 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             }
             static_cast<void>(catalogue.panelName(type));
             static_cast<void>(catalogue.panelOf(type));
+            static_cast<void>(catalogue.previewOf(type));
         }
     }
     return 0;
