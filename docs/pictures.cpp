@@ -1,5 +1,6 @@
 // Makes the pictures of the documents: the windows of the editor with an example open, each in
 // light and dark.
+#include "dialogs/frm_instructions.h"
 #include "panels/behaviour_panel.h"
 #include "surface/surface_room.h"
 #include "widgets/qt_prompts.h"
@@ -47,10 +48,12 @@ void wait(int milliseconds) {
 class Studio {
   public:
     Studio(const Wish& wish, const QDir& out)
-        : out_(out) {
+        : out_(out)
+        , skin_(wish.skin) {
         window_.resize(wish.size.isEmpty() ? window_.sizeHint() : wish.size);
         window_.show();
         wait(800); // the panels slide in
+        take(QStringLiteral("start"), window_);
         window_.begin({wish.skin});
         wait(1500); // pictures are decoded
     }
@@ -122,6 +125,8 @@ class Studio {
         select({{up - 3, up}, {up + 1, up + 1}});
         take(QStringLiteral("several-elements"), window_);
         auto& panels = at<QWidget>("sidePanels");
+        select({{1, 1}, {31, 35}}); // boxes that differ, and others
+        take(QStringLiteral("panel-various"), panels);
         for (const auto& [name, row] : {std::pair{"panel-text", "Text: Time"},
                                         {"panel-image", "Image: Logo"},
                                         {"panel-menu", "Menu"},
@@ -175,6 +180,11 @@ class Studio {
             dialog->hide();
         }
         takeCheck();
+        entry("mnuView").trigger();
+        takeWindow("frmXml", "xml");
+        FrmInstructions instructions(skin_, &window_);
+        instructions.show();
+        take(QStringLiteral("instructions"), instructions);
     }
 
     // With something to be found.
@@ -219,6 +229,10 @@ class Studio {
             take(QLatin1String(picture), menu);
             menu.close();
         }
+        QMenu& recent = *entry("mnuRecent").menu();
+        recent.popup(window_.pos() + QPoint(20, 40));
+        take(QStringLiteral("menu-recent"), recent);
+        recent.close();
     }
 
     void takeHelp() {
@@ -249,6 +263,7 @@ class Studio {
     }
 
     QDir out_;
+    QString skin_; // its folder
     QTemporaryDir folder_;
     Remembered remembered_{folder_.filePath(QStringLiteral("settings.ini"))};
     QtPrompts prompts_{&remembered_};
