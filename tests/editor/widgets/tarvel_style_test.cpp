@@ -10,6 +10,8 @@
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -81,6 +83,20 @@ QImage imageOf(QWidget& widget) {
     return widget.grab().toImage();
 }
 
+// What stands out in a part of a picture from the ground of that role.
+QRect marksIn(const QImage& image, QPalette::ColorRole role, const QRect& part) {
+    const QColor ground = QApplication::palette().color(role);
+    QRect marks;
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x) {
+            if (contrast(image.pixelColor(x, y), ground) > markContrast) {
+                marks |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return marks;
+}
+
 } // namespace
 
 class TarvelStyleTest : public QObject {
@@ -93,6 +109,9 @@ class TarvelStyleTest : public QObject {
     void theSystemsShadeIsTaken_data();
     void theSystemsShadeIsTaken();
     void checkedToolsHaveTheAccent();
+    void captionsOfToolsStandInTheMiddle();
+    void buttonsOfMenusHaveAnArrow();
+    void framesAreWholeAtTheirCorners();
     void headingsAreBold();
     void focusIsSeen_data();
     void focusIsSeen();
@@ -166,6 +185,55 @@ void TarvelStyleTest::checkedToolsHaveTheAccent() {
         QCOMPARE(idle, paletteOf(shade).color(QPalette::Button));
         button.setChecked(true);
         QCOMPARE(imageOf(button).pixelColor(40, 4), paletteOf(shade).color(QPalette::Highlight));
+    }
+}
+
+void TarvelStyleTest::captionsOfToolsStandInTheMiddle() {
+    QToolButton button;
+    QPixmap icon(16, 16);
+    icon.fill(Qt::black);
+    button.setIcon(icon);
+    button.setIconSize({16, 16});
+    button.setText(QStringLiteral("HHH"));
+    button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button.resize(button.sizeHint());
+    const QRect marks =
+        marksIn(imageOf(button), QPalette::Button, button.rect().adjusted(3, 3, -3, -3));
+    const int before = marks.left();
+    const int behind = button.width() - 1 - marks.right();
+    QVERIFY2(std::abs(before - behind) <= 3, qPrintable(QString("%1, %2").arg(before).arg(behind)));
+}
+
+void TarvelStyleTest::buttonsOfMenusHaveAnArrow() {
+    QToolButton plain;
+    QToolButton button;
+    QMenu menu;
+    button.setMenu(&menu);
+    button.setPopupMode(QToolButton::InstantPopup);
+    for (QToolButton* each : {&plain, &button}) {
+        each->setText(QStringLiteral("HHH"));
+        each->resize(each->sizeHint());
+    }
+    const int more = button.width() - plain.width();
+    QVERIFY(more >= 12);
+    const QRect arrow = marksIn(imageOf(button), QPalette::Button,
+                                {button.width() - more, 3, more - 3, button.height() - 6});
+    QVERIFY2(arrow.width() >= 7 && arrow.width() < more,
+             qPrintable(QString::number(arrow.width())));
+    QVERIFY(std::abs(arrow.center().y() - button.rect().center().y()) <= 1);
+}
+
+void TarvelStyleTest::framesAreWholeAtTheirCorners() {
+    QListWidget list;
+    list.resize(100, 80);
+    const QImage image = imageOf(list);
+    const QPalette palette = list.palette();
+    const QColor edge = palette.color(QPalette::Mid);
+    const QColor base = palette.color(QPalette::Base);
+    QCOMPARE(image.pixelColor(0, 40), edge);
+    QCOMPARE(image.pixelColor(50, 40), base);
+    for (const QPoint corner : {QPoint(1, 1), QPoint(98, 1), QPoint(1, 78), QPoint(98, 78)}) {
+        QVERIFY(contrast(image.pixelColor(corner), base) > contrast(edge, base) / 2);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "widgets/style/palettes.h"
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDialog>
@@ -47,6 +48,47 @@ template <class Button> void setChecked(Button& option) {
     if (!option.icon.isNull()) {
         option.icon = QIcon(option.icon.pixmap(option.iconSize, QIcon::Selected));
     }
+}
+
+// What shows in the corners between a rounded frame and the content, which has none.
+QColor groundInFrame(const QWidget* widget) {
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(widget);
+    return area == nullptr ? QColor()
+                           : area->viewport()->palette().color(area->viewport()->backgroundRole());
+}
+
+// The menu opens at a press anywhere on the button, and an arrow behind the caption tells of it.
+bool opensMenu(const QStyleOptionToolButton& button) {
+    return button.features.testFlag(QStyleOptionToolButton::HasMenu) &&
+           !button.features.testFlag(QStyleOptionToolButton::MenuButtonPopup);
+}
+
+constexpr int menuArrow = 4 * step; // pixels that the arrow takes behind the caption
+
+void paintMenuButton(const QStyle& style, const QStyleOptionToolButton& button, QPainter& painter,
+                     const QWidget* widget) {
+    QStyleOptionToolButton ground = button;
+    ground.text.clear();
+    ground.features.setFlag(QStyleOptionToolButton::HasMenu, false);
+    style.drawComplexControl(QStyle::CC_ToolButton, &ground, &painter, widget);
+    QStyleOptionToolButton label = button;
+    label.rect.setRight(button.rect.right() - menuArrow + step);
+    style.drawControl(QStyle::CE_ToolButtonLabel, &label, &painter, widget);
+    paintArrow(painter, button.rect.adjusted(button.rect.width() - menuArrow - 1, 0, -step, 0),
+               Qt::DownArrow, button.palette.color(QPalette::ButtonText));
+}
+
+// A caption beside its icon has all that is left behind it, else.
+QStyleOptionToolButton inTheMiddle(const QStyleOptionToolButton& label) {
+    QStyleOptionToolButton middle = label;
+    if (label.toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
+        constexpr int around = 2; // pixels on each side of the icon
+        const int caption = label.fontMetrics.size(Qt::TextShowMnemonic, label.text).width();
+        const int left = label.rect.width() - label.iconSize.width() - 3 * around - caption;
+        const int aside = std::max(0, left / 2);
+        middle.rect.translate(label.direction == Qt::RightToLeft ? -aside : aside, 0);
+    }
+    return middle;
 }
 
 bool isChecked(const QStyleOption& option) {
@@ -156,7 +198,7 @@ void TarvelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     case PE_FrameLineEdit:
         return; // painted with the ground
     case PE_Frame:
-        paintFlat(*painter, option->rect, {},
+        paintFlat(*painter, option->rect, groundInFrame(widget),
                   option->palette.color(option->state.testFlag(State_HasFocus) ? QPalette::Highlight
                                                                                : QPalette::Mid));
         return;
@@ -181,11 +223,13 @@ void TarvelStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
 
 void TarvelStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
-    if (element == CE_ToolButtonLabel && isChecked(*option)) {
-        if (const auto* label = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
-            QStyleOptionToolButton checked = *label;
-            setChecked(checked);
-            QProxyStyle::drawControl(element, &checked, painter, widget);
+    if (element == CE_ToolButtonLabel) {
+        if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            QStyleOptionToolButton label = inTheMiddle(*button);
+            if (isChecked(*option)) {
+                setChecked(label);
+            }
+            QProxyStyle::drawControl(element, &label, painter, widget);
             return;
         }
     }
@@ -227,6 +271,9 @@ void TarvelStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     } else if (const auto* number = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
                control == CC_SpinBox && number != nullptr) {
         paintSpinBox(*proxy(), *number, *painter, widget);
+    } else if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+               control == CC_ToolButton && button != nullptr && opensMenu(*button)) {
+        paintMenuButton(*proxy(), *button, *painter, widget);
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
@@ -253,6 +300,10 @@ QRect TarvelStyle::subControlRect(ComplexControl control, const QStyleOptionComp
 
 QSize TarvelStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                     const QSize& size, const QWidget* widget) const {
+    if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        type == CT_ToolButton && button != nullptr && opensMenu(*button)) {
+        return QProxyStyle::sizeFromContents(type, option, size, widget) + QSize(menuArrow, 0);
+    }
     const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     if (type != CT_GroupBox || box == nullptr) {
         return QProxyStyle::sizeFromContents(type, option, size, widget);
@@ -275,6 +326,10 @@ int TarvelStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_LayoutVerticalSpacing:
         return widget != nullptr && qobject_cast<QDialog*>(widget->window()) != nullptr ? 2 * step
                                                                                         : step;
+    case PM_DefaultFrameWidth: // what scrolls leaves the corners of its rounded frame free
+        return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
+                   ? 2
+                   : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
