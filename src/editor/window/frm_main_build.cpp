@@ -288,6 +288,7 @@ void FrmMain::connectPanels() {
     connect(snapping_.get(), &SnapChoice::changed, &controller, &SurfaceController::setSnapping);
     zoom_ = std::make_unique<ZoomChoice>(
         ZoomChoice::Parts{.menu = *menuBar()->findChild<QMenu*>("mnuOptions"),
+                          .before = *menus_->mnuSystemStyle,
                           .display = *cmdZoom_,
                           .room = *surface_,
                           .surface = *pic_,

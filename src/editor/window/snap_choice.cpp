@@ -51,7 +51,8 @@ void SnapChoice::addGridSize(QMenu& menu) {
     auto* entry = new QWidgetAction(&menu);
     entry->setObjectName(QStringLiteral("mnuGrid"));
     entry->setDefaultWidget(row);
-    menu.addAction(entry);
+    const QList<QAction*> entries = menu.actions();
+    menu.insertAction(entries.value(entries.indexOf(&toGrid_) + 1), entry);
 }
 
 SnapOptions SnapChoice::options() const {

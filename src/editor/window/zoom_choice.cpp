@@ -32,9 +32,10 @@ ZoomChoice::ZoomChoice(const Parts& parts)
     , pan_(new SurfacePan(parts.surface, parts.room, parts.controller)) {
     pan_->setParent(this);
     parts_.room.setBusyTest([this] { return parts_.controller.isWorking() || pan_->isPanning(); });
-    parts_.menu.addSeparator();
+    parts_.menu.insertSeparator(&parts_.before);
     addZooms();
     addViews();
+    parts_.menu.insertSeparator(&parts_.before);
     takeRemembered();
     connect(&parts_.room, &SurfaceRoom::zoomChanged, this, &ZoomChoice::showZoom);
     connect(&parts_.room, &SurfaceRoom::zoomChanged, this, &ZoomChoice::remember);
@@ -48,8 +49,9 @@ QAction* ZoomChoice::addEntry(QMenu& menu, const char* name, const QString& capt
 }
 
 void ZoomChoice::addZooms() {
-    QMenu* zooms = parts_.menu.addMenu(tr("Zoom"));
+    auto* zooms = new QMenu(tr("Zoom"), &parts_.menu);
     zooms->setObjectName(QStringLiteral("mnuZoom"));
+    parts_.menu.insertMenu(&parts_.before, zooms);
     mnuZoomIn_ = addEntry(*zooms, "mnuZoomIn", tr("Zoom In"));
     mnuZoomIn_->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
     connect(mnuZoomIn_, &QAction::triggered, &parts_.room, &SurfaceRoom::zoomIn);
@@ -71,8 +73,10 @@ void ZoomChoice::addZooms() {
 void ZoomChoice::addViews() {
     const auto add = [this](const char* name, const QString& caption, const RememberedSwitch& key,
                             auto&& show) {
-        QAction* entry = addEntry(parts_.menu, name, caption);
+        auto* entry = new QAction(caption, &parts_.menu);
+        entry->setObjectName(QLatin1String(name));
         entry->setCheckable(true);
+        parts_.menu.insertAction(&parts_.before, entry);
         connect(entry, &QAction::toggled, this, [this, key, show](bool on) {
             show(on);
             parts_.remembered.remember(key, on);

@@ -23,6 +23,7 @@ class ZoomChoice : public QObject {
   public:
     struct Parts {
         QMenu& menu;
+        QAction& before; ///< the entry of the menu that the new ones stand before
         QToolButton& display;
         SurfaceRoom& room;
         Pic& surface;

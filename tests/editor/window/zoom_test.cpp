@@ -81,7 +81,7 @@ class ZoomTest : public QObject {
 
   private slots:
     void startsAtAHundredInFit();
-    void entriesStandAfterTheOthers();
+    void entriesStandInTheirGroups();
     void keysZoom();
     void theButtonShowsTheZoom();
     void choicesAreRemembered();
@@ -131,15 +131,17 @@ void ZoomTest::startsAtAHundredInFit() {
     QVERIFY(top("lblPos") < top("fraCreate") && top("fraCreate") < top("fraNote"));
 }
 
-void ZoomTest::entriesStandAfterTheOthers() {
+void ZoomTest::entriesStandInTheirGroups() {
     Editor editor;
     QStringList names;
     for (const QAction* entry : editor.find<QMenu>("mnuOptions")->actions()) {
-        names << (entry->menu() != nullptr ? entry->menu()->objectName() : entry->objectName());
+        names << (entry->isSeparator()       ? "-"
+                  : entry->menu() != nullptr ? entry->menu()->objectName()
+                                             : entry->objectName());
     }
-    const qsizetype zoom = names.indexOf("mnuZoom");
-    QVERIFY(zoom > names.indexOf("mnuSnapGrid") && zoom > names.indexOf("mnuBorders"));
-    QCOMPARE(names.mid(zoom, 3), QStringList({"mnuZoom", "mnuRulers", "mnuSafeArea"}));
+    QCOMPARE(names, QStringList({"mnuCover", "mnuBorders", "-", "mnuSnapElements", "mnuSnapGrid",
+                                 "mnuGrid", "-", "mnuZoom", "mnuRulers", "mnuSafeArea", "-",
+                                 "mnuSystemStyle"}));
     QStringList captions;
     for (const QAction* entry : editor.find<QMenu>("mnuZoom")->actions()) {
         captions << entry->objectName() + "=" + entry->text().remove('&') + "=" +
