@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -59,6 +60,16 @@ void ElementListView::setSelectedRows(const std::vector<int>& rows, int leading)
         selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
         selectionModel()->select(rangesOf(rows), QItemSelectionModel::ClearAndSelect);
         scrollTo(index);
+    }
+}
+
+// The panel of what was just selected may take room from the list.
+void ElementListView::resizeEvent(QResizeEvent* event) {
+    const QRect row = visualRect(currentIndex());
+    const QRect before(QPoint(), QSize(viewport()->width(), event->oldSize().height()));
+    QListView::resizeEvent(event);
+    if (row.intersects(before)) {
+        scrollTo(currentIndex());
     }
 }
 

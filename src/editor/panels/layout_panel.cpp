@@ -18,10 +18,10 @@ LayoutPanel::LayoutPanel(const SkinDocument& document, QWidget* parent)
     , watch_(document.watch(*this)) {
     named(this, QStringLiteral("fraLayout"), QStringLiteral("Current screen"));
     auto* grid = new QGridLayout(this);
-    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     grid->setHorizontalSpacing(2);
     grid->setVerticalSpacing(3);
     grid->setRowStretch(screenCount, 1);
+    grid->setColumnStretch(1, 1); // the notes stay beside their captions
     for (int screen = 0; screen < screenCount; ++screen) {
         const LayoutScreen& shown = layoutScreens[static_cast<std::size_t>(screen)];
         auto* button = named(new QRadioButton(qtText(shown.caption)),

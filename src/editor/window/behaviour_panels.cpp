@@ -7,6 +7,7 @@
 #include "window/window_gate.h"
 
 #include <QEvent>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -68,9 +69,12 @@ void BehaviourPanels::place(BehaviourPanel& panel) {
     const int bottom = topOf(room_.floor) - gap;
     const int roof = std::max(side.top(), topOf(room_.roof)); // which may be scrolled out of sight
     // A panel that needs more than its room reaches over what is beside it.
-    const QSize size = panel.sizeHint()
-                           .expandedTo({side.width(), bottom - roof})
-                           .boundedTo({side.right() + 1, bottom});
+    QSize wanted = panel.sizeHint();
+    if (wanted.height() > bottom) { // its scroll bar must not cover the texts
+        wanted.rwidth() += panel.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
+    const QSize size =
+        wanted.expandedTo({side.width(), bottom - roof}).boundedTo({side.right() + 1, bottom});
     panel.setGeometry(side.right() + 1 - size.width(), bottom - size.height(), size.width(),
                       size.height());
 }

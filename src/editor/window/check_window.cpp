@@ -6,6 +6,7 @@
 #include "widgets/icons.h"
 #include "widgets/qt_text.h"
 #include "widgets/wait_cursor.h"
+#include "window/window_place.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -54,7 +55,7 @@ CheckWindow::CheckWindow(const SkinDocument& document, std::function<QString()> 
     column->addWidget(lblResult_);
     column->addWidget(lstFindings_, 1);
     column->addLayout(bottom);
-    resize(640, 320);
+    resizeWithin(*this, {640, 320});
 
     connect(cmdAgain, &QPushButton::clicked, this, &CheckWindow::check);
     connect(lstFindings_, &QListWidget::itemClicked, this,

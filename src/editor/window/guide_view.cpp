@@ -56,6 +56,7 @@ GuideView::GuideView(const QString& markdown, const QString& folder, QWidget* pa
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+    setCursorWidth(0); // nothing can be typed
     connect(this, &QTextBrowser::anchorClicked, this, &GuideView::followLink);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GuideView::scrolled);
     render();

@@ -4,6 +4,7 @@
 #include "widgets/accessible_roles.h"
 #include "widgets/control_names.h"
 #include "window/guide_view.h"
+#include "window/window_place.h"
 
 #include <QFile>
 #include <QHBoxLayout>
@@ -57,7 +58,7 @@ GuideWindow::GuideWindow(std::function<void(const QUrl&)> open, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addLayout(makeSearch());
     column->addWidget(parts, 1);
-    resize(960, 680);
+    resizeWithin(*this, {960, 680});
     parts->setSizes({230, 730});
     fillContents();
     addKeys();

@@ -6,6 +6,7 @@
 #include "widgets/control_names.h"
 #include "widgets/qt_text.h"
 #include "window/key_table.h"
+#include "window/window_place.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -47,11 +48,12 @@ FrmKeys::FrmKeys(QWidget* parent)
     setWindowTitle(tr("Keys"));
     auto* page = named(new QTextBrowser, QStringLiteral("txtKeys"), tr("All keys"));
     page->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    page->setCursorWidth(0); // nothing can be typed
     page->setHtml(keyPage());
     auto* column = new QVBoxLayout(this);
     column->addWidget(page, 1);
     column->addWidget(makeOk(*this), 0, Qt::AlignRight);
-    resize(620, 640);
+    resizeWithin(*this, {620, 640});
 }
 
 FrmAbout::FrmAbout(QWidget* parent)

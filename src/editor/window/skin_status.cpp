@@ -13,10 +13,10 @@ namespace tarvel {
 
 namespace {
 
-// As wide as its text where there is room.
+// As wide as its text where there is room, and as high as its neighbours, for one line of letters.
 class SkinLabel : public PathLabel {
   public:
-    SkinLabel() { setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed); }
+    SkinLabel() { setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred); }
 
     [[nodiscard]] QSize sizeHint() const override {
         return {fontMetrics().horizontalAdvance(text()) + 1, fontMetrics().height()};

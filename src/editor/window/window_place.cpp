@@ -35,8 +35,21 @@ void takePlace(QWidget& window, const Remembered& remembered) {
         }
         return;
     }
-    const QSize room = window.screen()->availableSize() - QSize(frameAcross, frameDown);
-    window.resize(window.sizeHint().boundedTo(room));
+    resizeWithin(window, window.sizeHint());
+}
+
+void resizeWithin(QWidget& window, QSize wanted) {
+    constexpr int side = frameAcross / 2;
+    const QRect room =
+        window.screen()->availableGeometry().adjusted(side, frameDown - side, -side, -side);
+    const QSize size = wanted.boundedTo(room.size());
+    if (window.parentWidget() == nullptr) {
+        window.resize(size);
+        return;
+    }
+    QRect place(QPoint(), size);
+    place.moveCenter(window.parentWidget()->window()->geometry().center());
+    window.setGeometry(within(place, room));
 }
 
 void keepPlace(const QWidget& window, Remembered& remembered) {

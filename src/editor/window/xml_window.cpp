@@ -2,6 +2,7 @@
 #include "window/xml_window.h"
 
 #include "widgets/control_names.h"
+#include "window/window_place.h"
 
 #include <QFontDatabase>
 #include <QPlainTextEdit>
@@ -25,7 +26,7 @@ XmlWindow::XmlWindow(const QString& text, QWidget* parent)
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
     box->addWidget(edit);
-    resize(760, 560);
+    resizeWithin(*this, {760, 560});
 }
 
 } // namespace tarvel

@@ -2,6 +2,7 @@
 #include "support/behaviour_editor.h"
 #include "support/clipboard_support.h"
 #include "support/ui_test.h"
+#include "surface/surface_room.h"
 
 using namespace tarvel;
 using namespace tarvel::test;
@@ -63,6 +64,7 @@ class ElementListTest : public QObject {
     void aClickOnOneOfSeveralSelectsIt();
     void typingFindsTheNextRow();
     void rowBelowThePointerIsMarked();
+    void whatIsSelectedComesIntoSight();
 };
 
 void ElementListTest::draggedRowsTakeTheirPlace_data() {
@@ -212,6 +214,34 @@ void ElementListTest::rowBelowThePointerIsMarked() {
     moveTo(editor, pointIn(editor, 0, 0.5), Qt::NoButton);
     editor.clickScreen(2);
     QVERIFY(!mark->isVisible());
+}
+
+// Also where the panel of its kind takes other room than the one before.
+void ElementListTest::whatIsSelectedComesIntoSight() {
+    Editor editor;
+    for (int i = 0; i < 30; ++i) {
+        editor.add(boxAt(16 * static_cast<float>(i), 30, 12, 40));
+    }
+    Element menu = boxAt(100, 200, 400, 240);
+    menu.elementKind = ElementKind::Menu;
+    editor.add(menu);
+    editor.show();
+    for (const QSize& size : {QSize(1020, 608), QSize(1360, 736), QSize(1900, 1040)}) {
+        editor.window.resize(size);
+        settle();
+        for (const auto& [at, row] :
+             {std::pair{QPoint(6, 50), 0}, {QPoint(300, 300), 30}, {QPoint(16 * 20 + 6, 50), 20}}) {
+            editor.selectRow(1, -1);
+            const auto& room = *editor.find<SurfaceRoom>("surfaceRoom");
+            QTest::mouseClick(editor.pic(), Qt::LeftButton, {}, at * room.zoom() / 100);
+            settle();
+            QCOMPARE(editor.window.curNum(), row + 1);
+            const QListView* list = editor.lst(1);
+            const QRect place = list->visualRect(list->model()->index(row, 0));
+            QVERIFY2(list->viewport()->rect().contains(place.center()),
+                     qPrintable(QString("row %1, %2").arg(row).arg(size.width())));
+        }
+    }
 }
 
 TARVEL_UI_TEST(ElementListTest)

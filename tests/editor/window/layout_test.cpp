@@ -6,6 +6,8 @@
 #include "support/ui_test.h"
 
 #include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace tarvel;
 using namespace tarvel::test;
@@ -91,9 +93,20 @@ void LayoutTest::nothingIsCutOrOverprinted() {
     for (int panel = 0; panel < 3; ++panel) {
         QVERIFY(editor.openPanel(panel));
         isRight = look(QString("panel %1").arg(panel)) && isRight;
+        const auto* across = editor.panel(panel).findChild<QScrollArea*>()->horizontalScrollBar();
+        QVERIFY2(across->maximum() == 0, qPrintable(QString("panel %1").arg(panel)));
         editor.ok(panel);
     }
     QVERIFY(isRight);
+    // The panels end where the column does, those beside each other as one.
+    const auto* screens = editor.find<QWidget>("fraLayout");
+    const auto* elements = editor.find<QWidget>("fraElements");
+    const auto* position = editor.find<QWidget>("fraPos");
+    QCOMPARE(screens->x(), position->x());
+    QCOMPARE(elements->geometry().right(), position->geometry().right());
+    if (screens->y() < elements->y()) {
+        QCOMPARE(screens->width(), elements->width());
+    }
 }
 
 void LayoutTest::dialogsFitTheSmallestDisplay_data() {

@@ -482,6 +482,9 @@ void SkinMenuTest::theStatusLineHasRoomForOtherThings() {
     settle();
     QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance("W"));
     QVERIFY(label->width() < 120);
+    const auto* beside = editor.find<QLabel>("lblUnsaved"); // both texts stand on one line
+    QCOMPARE(label->y(), beside->y());
+    QCOMPARE(label->height(), beside->height());
 }
 
 TARVEL_UI_TEST(SkinMenuTest)

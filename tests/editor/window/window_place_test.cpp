@@ -4,6 +4,8 @@
 #include "window/window_columns.h"
 #include "window/window_place.h"
 
+#include <QAction>
+#include <QDialog>
 #include <QScreen>
 #include <QSplitterHandle>
 
@@ -17,6 +19,7 @@ class WindowPlaceTest : public QObject {
     void takesThePlaceOfTheLastRun();
     void isNeverOffTheDisplay_data();
     void isNeverOffTheDisplay();
+    void furtherWindowsFitTheDisplay();
     void whatCannotBeReadIsTheFirstStart();
     void closingRemembersThePlace();
     void theColumnIsAsWideAsItsContents();
@@ -60,6 +63,32 @@ void WindowPlaceTest::isNeverOffTheDisplay() {
     takePlace(next, remembered);
     QVERIFY2(display().contains(next.geometry()),
              qPrintable(QString("%1, %2").arg(next.x()).arg(next.y())));
+}
+
+void WindowPlaceTest::furtherWindowsFitTheDisplay() {
+    Editor editor;
+    editor.show();
+    for (const char* entry : {"mnuGuide", "mnuKeys", "mnuAbout", "mnuCheck", "mnuView"}) {
+        editor.entry(entry)->trigger();
+    }
+    settle();
+    int windows = 0;
+    for (const QWidget* each : QApplication::topLevelWidgets()) {
+        if (each->isVisible() && each != &editor.window && each->inherits("QDialog")) {
+            ++windows;
+            QVERIFY2(each->width() < display().width() && each->height() < display().height(),
+                     qPrintable(each->objectName()));
+        }
+    }
+    QCOMPARE(windows, 5);
+    QWidget window;
+    resizeWithin(window, {100, 5000});
+    QCOMPARE(window.width(), 100);
+    QVERIFY(window.height() < display().height());
+    editor.window.move(0, -200);
+    QDialog dialog(&editor.window);
+    resizeWithin(dialog, {300, 5000});
+    QVERIFY(display().contains(dialog.geometry().adjusted(0, -30, 0, 0))); // with its title bar
 }
 
 void WindowPlaceTest::whatCannotBeReadIsTheFirstStart() {
