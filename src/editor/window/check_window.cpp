@@ -55,7 +55,7 @@ CheckWindow::CheckWindow(const SkinDocument& document, std::function<QString()> 
     column->addWidget(lblResult_);
     column->addWidget(lstFindings_, 1);
     column->addLayout(bottom);
-    resizeWithin(*this, {640, 320});
+    placeWithin(*this, {640, 320});
 
     connect(cmdAgain, &QPushButton::clicked, this, &CheckWindow::check);
     connect(lstFindings_, &QListWidget::itemClicked, this,

@@ -58,7 +58,7 @@ GuideWindow::GuideWindow(std::function<void(const QUrl&)> open, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addLayout(makeSearch());
     column->addWidget(parts, 1);
-    resizeWithin(*this, {960, 680});
+    placeWithin(*this, {960, 680});
     parts->setSizes({230, 730});
     fillContents();
     addKeys();

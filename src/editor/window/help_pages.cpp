@@ -53,7 +53,7 @@ FrmKeys::FrmKeys(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->addWidget(page, 1);
     column->addWidget(makeOk(*this), 0, Qt::AlignRight);
-    resizeWithin(*this, {620, 640});
+    placeWithin(*this, {620, 640});
 }
 
 FrmAbout::FrmAbout(QWidget* parent)

@@ -35,20 +35,17 @@ void takePlace(QWidget& window, const Remembered& remembered) {
         }
         return;
     }
-    resizeWithin(window, window.sizeHint());
+    const QSize room = window.screen()->availableSize() - QSize(frameAcross, frameDown);
+    window.resize(window.sizeHint().boundedTo(room));
 }
 
-void resizeWithin(QWidget& window, QSize wanted) {
+void placeWithin(QWidget& window, QSize wanted) {
     constexpr int side = frameAcross / 2;
     const QRect room =
         window.screen()->availableGeometry().adjusted(side, frameDown - side, -side, -side);
-    const QSize size = wanted.boundedTo(room.size());
-    if (window.parentWidget() == nullptr) {
-        window.resize(size);
-        return;
-    }
-    QRect place(QPoint(), size);
-    place.moveCenter(window.parentWidget()->window()->geometry().center());
+    const QWidget* parent = window.parentWidget();
+    QRect place(QPoint(), wanted.boundedTo(room.size()));
+    place.moveCenter(parent == nullptr ? room.center() : parent->window()->geometry().center());
     window.setGeometry(within(place, room));
 }
 

@@ -12,9 +12,9 @@ class Remembered;
 /// asks for. It is never larger than the display, nor outside of it.
 void takePlace(QWidget& window, const Remembered& remembered);
 
-/// Gives a window that is still to be shown its size, or less where the display is smaller. One of
-/// another window stands in the middle of that, as far as its title bar stays on the display.
-void resizeWithin(QWidget& window, QSize wanted);
+/// Gives a window that is still to be shown its size, or less where the display is smaller, in the
+/// middle of its parent's window or of the display, as far as its title bar stays on the display.
+void placeWithin(QWidget& window, QSize wanted);
 
 /// Remembers where the window is now.
 void keepPlace(const QWidget& window, Remembered& remembered);

@@ -26,7 +26,7 @@ XmlWindow::XmlWindow(const QString& text, QWidget* parent)
     auto* box = new QVBoxLayout(this);
     box->setContentsMargins(0, 0, 0, 0);
     box->addWidget(edit);
-    resizeWithin(*this, {760, 560});
+    placeWithin(*this, {760, 560});
 }
 
 } // namespace tarvel
