@@ -133,6 +133,17 @@ void SurfaceRoom::scrollTo(QPoint scrolled) {
     verticalScrollBar()->setValue(scrolled.y());
 }
 
+void SurfaceRoom::reveal(const QRectF& part) {
+    if (part.isEmpty()) {
+        return; // what is just being drawn has no place yet
+    }
+    const QRectF place = surface_.mapping().toWidget(part).translated(surfacePlace());
+    const QRectF room = viewport()->rect();
+    if (!place.intersects(room) && !(isBusy_ && isBusy_())) {
+        scrollTo(scrolled() + (place.center() - room.center()).toPoint());
+    }
+}
+
 // Scroll bars come and go later and change the room, which places the surface once more.
 void SurfaceRoom::place(QPoint scrolled) {
     {

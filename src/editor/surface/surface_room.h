@@ -43,6 +43,8 @@ class SurfaceRoom : public QAbstractScrollArea {
     [[nodiscard]] QPoint scrolled() const;
     /// As far as the scroll bars go.
     void scrollTo(QPoint scrolled);
+    /// Scrolls a part of the skin to the middle when nothing of it is in sight; not while isBusy().
+    void reveal(const QRectF& part);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -223,6 +223,7 @@ void FrmMain::buildReactions() {
                                                             .prompts = prompts_});
     views_ = std::make_unique<SelectionViews>(document_, selection_,
                                               SelectionViews::Views{.marks = *marks_,
+                                                                    .room = *surface_,
                                                                     .position = *fraPos_,
                                                                     .behaviours = *behaviours_,
                                                                     .properties = *properties_,

@@ -9,7 +9,9 @@
 #include "panels/create_panel.h"
 #include "panels/position_panel.h"
 #include "panels/property_panel.h"
+#include "surface/pic.h"
 #include "surface/selection_marks.h"
+#include "surface/surface_room.h"
 
 namespace tarvel {
 
@@ -28,6 +30,13 @@ void SelectionViews::documentChanged(const DocumentChange& change) {
         setCurrentSel();
         setBolds();
         showDifference();
+    }
+}
+
+void SelectionViews::selectionChanged() {
+    showSelection();
+    if (!selection_.isEmpty()) { // by the list or by keys it may be one that is scrolled away
+        views_.room.reveal(Pic::elementBounds(document_.element(selection_.curNum())));
     }
 }
 

@@ -1,4 +1,5 @@
-// What shows the selected element: marks, position fields, behaviour buttons, property panel.
+// What shows the selected element: marks, position fields, behaviour buttons, property panel, and
+// the surface at a zoom.
 #pragma once
 
 #include "document/selection.h"
@@ -10,12 +11,14 @@ class CreatePanel;
 class PositionPanel;
 class PropertyPanel;
 class SelectionMarks;
+class SurfaceRoom;
 
 /// Keeps them in line with document and selection. Owns nothing; all outlive it.
 class SelectionViews : private DocumentObserver, private SelectionObserver {
   public:
     struct Views {
         SelectionMarks& marks;
+        SurfaceRoom& room;
         PositionPanel& position;
         BehaviourButtons& behaviours;
         PropertyPanel& properties;
@@ -38,7 +41,7 @@ class SelectionViews : private DocumentObserver, private SelectionObserver {
 
   private:
     void documentChanged(const DocumentChange& change) override;
-    void selectionChanged() override { showSelection(); }
+    void selectionChanged() override;
 
     const SkinDocument& document_;
     const Selection& selection_;

@@ -65,6 +65,7 @@ class ElementListTest : public QObject {
     void typingFindsTheNextRow();
     void rowBelowThePointerIsMarked();
     void whatIsSelectedComesIntoSight();
+    void aDraggedRowEndsWellOverTheSurface();
 };
 
 void ElementListTest::draggedRowsTakeTheirPlace_data() {
@@ -242,6 +243,34 @@ void ElementListTest::whatIsSelectedComesIntoSight() {
                      qPrintable(QString("row %1, %2").arg(row).arg(size.width())));
         }
     }
+}
+
+// The marks of rows and elements below the pointer come and go meanwhile.
+void ElementListTest::aDraggedRowEndsWellOverTheSurface() {
+    Editor editor;
+    addFive(editor);
+    const auto order = [&] {
+        std::vector<int> ids;
+        for (int row = 0; row < 5; ++row) {
+            ids.push_back(editor.document().itemData(1, row));
+        }
+        return ids;
+    };
+    press(editor, pointIn(editor, 0, 0.5));
+    moveTo(editor, pointIn(editor, 2, 0.5));
+    const QPoint onElement(87, 50); // box D
+    QTest::mouseMove(editor.pic(), onElement);
+    moveTo(editor, pointIn(editor, 3, below));
+    editor.document().editElement(4, [](Element& box) { box.elementControl.left = 300; });
+    QTest::mouseMove(editor.pic(), QPoint(500, 400));
+    moveTo(editor, pointIn(editor, 4, below));
+    release(editor, pointIn(editor, 4, below));
+    QCOMPARE(order(), (std::vector<int>{2, 3, 4, 5, 1}));
+    QCOMPARE(editor.window.curNum(), 1);
+    moveTo(editor, pointIn(editor, 2, 0.5), Qt::NoButton);
+    auto* mark = editor.find<QWidget>("hoverMark");
+    QVERIFY(mark->isVisible());
+    QCOMPARE(mark->geometry().left(), 297);
 }
 
 TARVEL_UI_TEST(ElementListTest)

@@ -41,6 +41,8 @@ class KeyboardWaysTest : public QObject {
     void elementsByTab();
     void tabLeavesLockedElementsOut();
     void tabWhileDragging();
+    void tabWithSeveralSelected();
+    void partsWithTheGuideOpen();
     void escapeSelectsNothing();
     void rowsByKeys();
     void menuBarByF10();
@@ -147,6 +149,46 @@ void KeyboardWaysTest::tabWhileDragging() {
     press(Qt::Key_Tab); // with a tool the focus goes on
     QCOMPARE(focusName(), QString("optBox"));
     QVERIFY(editor.find<QAbstractButton>("optBox")->isChecked());
+}
+
+// Goes on from the one that leads, and selects it alone.
+void KeyboardWaysTest::tabWithSeveralSelected() {
+    Editor editor;
+    editor.show();
+    QList<int> ids;
+    for (const float left : {10.0F, 80.0F, 150.0F, 220.0F}) {
+        ids << editor.add(boxAt(left, 10, 50, 50));
+    }
+    editor.click({30, 30});
+    QTest::mouseClick(editor.pic(), Qt::LeftButton, Qt::ControlModifier, {170, 30});
+    QCOMPARE(editor.window.curNum(), ids[2]);
+    press(Qt::Key_Tab);
+    QCOMPARE(focusName(), QString("Pic"));
+    QCOMPARE(editor.window.curNum(), ids[3]);
+    QCOMPARE(editor.lst(1)->selectionModel()->selectedIndexes().size(), 1);
+}
+
+void KeyboardWaysTest::partsWithTheGuideOpen() {
+    Editor editor;
+    editor.show();
+    editor.pic()->setFocus();
+    press(Qt::Key_F1);
+    QWidget* guide = nullptr;
+    for (QWidget* each : QApplication::topLevelWidgets()) {
+        guide = each->objectName() == "frmGuide" ? each : guide;
+    }
+    QVERIFY(guide != nullptr);
+    QVERIFY(QTest::qWaitForWindowActive(guide));
+    const QWidget* before = editor.window.focusWidget();
+    press(Qt::Key_F6); // goes round the main window only
+    QCOMPARE(editor.window.focusWidget(), before);
+    QVERIFY(guide->isActiveWindow());
+    press(Qt::Key_Escape);
+    QVERIFY(!guide->isVisible());
+    editor.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&editor.window));
+    press(Qt::Key_F6);
+    QVERIFY(focusName().startsWith("lst("));
 }
 
 void KeyboardWaysTest::escapeSelectsNothing() {
