@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarvel {
 
@@ -48,10 +49,10 @@ QColor foundGround(const QPalette& palette) {
 
 } // namespace
 
-GuideView::GuideView(const QString& markdown, const QString& folder, QWidget* parent)
+GuideView::GuideView(QString markdown, QString folder, QWidget* parent)
     : QTextBrowser(parent)
-    , markdown_(markdown)
-    , folder_(folder)
+    , markdown_(std::move(markdown))
+    , folder_(std::move(folder))
     , plainSize_(font().pointSizeF()) {
     setOpenLinks(false);
     setUndoRedoEnabled(false);

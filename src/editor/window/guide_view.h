@@ -25,7 +25,7 @@ class GuideView : public QTextBrowser {
     static constexpr int smallestZoom = 50; ///< percent
     static constexpr int largestZoom = 300;
 
-    GuideView(const QString& markdown, const QString& folder, QWidget* parent = nullptr);
+    GuideView(QString markdown, QString folder, QWidget* parent = nullptr);
 
     [[nodiscard]] const std::vector<Heading>& headings() const { return headings_; }
     /// The heading of what stands at the top of the view, by its place in headings(); -1 above all.
