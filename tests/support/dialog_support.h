@@ -22,12 +22,17 @@ template <class Control> Control& control(const QWidget& window, const QString& 
     return *found;
 }
 
-/// Brings a window to the front and waits until it takes keys.
-inline bool activate(QWidget& window) {
-    window.activateWindow();
+/// Waits until a window takes keys.
+inline bool isActive(QWidget& window) {
     // The application knows a little later than the window system.
     return QTest::qWaitForWindowActive(&window) &&
            QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; });
+}
+
+/// Brings a window to the front and waits until it takes keys.
+inline bool activate(QWidget& window) {
+    window.activateWindow();
+    return isActive(window);
 }
 
 /// Shows a window and waits until it takes keys.

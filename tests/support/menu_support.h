@@ -51,7 +51,7 @@ inline bool inDialog(const std::function<void()>& open, const QString& name, con
             return;
         }
         poll.stop();
-        if (dialog->objectName() == name && QTest::qWaitForWindowActive(dialog)) {
+        if (dialog->objectName() == name && isActive(*dialog)) {
             work(*dialog);
             click(control<QPushButton>(*dialog, "cmdOK"));
             done = !dialog->isVisible();
