@@ -70,9 +70,6 @@ FrmResources::FrmResources(SkinDocument& document, Prompts& prompts, PictureCach
 }
 
 void FrmResources::buildColumns() {
-    const int width = std::max(fraCustom_->sizeHint().width(), fraPreset_->sizeHint().width());
-    fraCustom_->setMinimumWidth(width);
-    fraPreset_->setMinimumWidth(width);
     auto* left = new QVBoxLayout;
     left->addWidget(fraCustom_);
     left->addWidget(fraPreset_);
@@ -99,6 +96,9 @@ QWidget* FrmResources::makePreviewFrame() {
 
 void FrmResources::readDocument() {
     fraCurrent_->readDocument();
+    const int width = std::max(fraCustom_->sizeHint().width(), fraPreset_->sizeHint().width());
+    fraCustom_->setMinimumWidth(width); // so that the choice between them moves nothing
+    fraPreset_->setMinimumWidth(width);
     resizeForm(added_); // a hidden window may not have taken the size of another frame
     if (!fraCustom_->hasFile()) {
         fraCustom_->source()->focusChosen(); // not where the last work ended
@@ -138,7 +138,9 @@ void FrmResources::showSource(bool preset) {
     // An arrow key will still give the focus to the option that it chose, in the hidden frame.
     QTimer::singleShot(0, this, &FrmResources::keepFocusVisible);
     showDefault();
-    resizeForm(added);
+    if (isVisible()) { // otherwise it is fitted when it opens
+        resizeForm(added);
+    }
 }
 
 // The default button adds what is filled in to be added, and otherwise closes.
