@@ -109,6 +109,10 @@ class Matching {
     QMap<QChar, qsizetype> holders_; // of letters
 };
 
+bool lacksMnemonic(const QString& caption) {
+    return mnemonicOf(caption).isNull() && !lettersOf(caption).isEmpty();
+}
+
 } // namespace
 
 QChar mnemonicOf(const QString& caption) {
@@ -133,6 +137,9 @@ void giveMnemonics(const QList<QAction*>& entries) {
     QStringList captions;
     std::transform(named.begin(), named.end(), std::back_inserter(captions),
                    [](const QAction* entry) { return entry->text(); });
+    if (std::none_of(captions.begin(), captions.end(), lacksMnemonic)) {
+        return; // every change of an entry comes here
+    }
     captions = withMnemonics(captions);
     for (qsizetype i = 0; i < named.size(); ++i) {
         named[i]->setText(captions[i]);
