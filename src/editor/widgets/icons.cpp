@@ -148,7 +148,38 @@ class IconEngine : public QIconEngine {
     QString name_;
 };
 
+// Not every desktop asks for a window's icon, and reading it takes longer than any panel.
+class ProgramIconEngine : public QIconEngine {
+  public:
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return read().pixmap(size, mode, state);
+    }
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        read().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
+        return read().availableSizes(mode, state);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new ProgramIconEngine; }
+    bool isNull() override { return false; }
+
+  private:
+    const QIcon& read() {
+        if (icon_.isNull()) {
+            icon_ = QIcon(QStringLiteral(":/tarvel/tarvel.png"));
+        }
+        return icon_;
+    }
+
+    QIcon icon_;
+};
+
 } // namespace
+
+QIcon programIcon() {
+    return QIcon(new ProgramIconEngine); // NOLINT: the icon owns it
+}
 
 QString iconFile(IconName name) {
     return QLatin1String(files.at(static_cast<std::size_t>(name)));

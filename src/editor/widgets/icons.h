@@ -65,6 +65,9 @@ inline constexpr int toolIcon = 24;
 /// selected ground in that of selected text, both without the accent.
 [[nodiscard]] QIcon icon(IconName name);
 
+/// The icon of the program's windows. Its picture is read when the desktop asks for it.
+[[nodiscard]] QIcon programIcon();
+
 /// The file of an icon without folder and ending, "align-left".
 [[nodiscard]] QString iconFile(IconName name);
 
