@@ -13,7 +13,8 @@ class ContentScroll : public QScrollArea {
   public:
     enum class Ways { down, both };
 
-    /// Takes the content in.
+    /// Takes the content in. That measures it, so content of many parts is quicker filled
+    /// afterwards.
     ContentScroll(QWidget* content, Ways ways, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -39,6 +39,10 @@ bool isTahomaStandIn() {
 
 } // namespace
 
+void makeSkinFontsKnown() {
+    (void)isTahomaStandIn();
+}
+
 QFont skinFont(const FontChoice& choice) {
     QFont font(qtText(choice.family));
     const bool standIn =

@@ -14,4 +14,8 @@ namespace tarvel {
 /// none either, the system's own font. Needs a QGuiApplication.
 [[nodiscard]] QFont skinFont(const FontChoice& choice);
 
+/// Makes the stand-in for Tahoma known where it is wanted. That makes all fonts in use load anew,
+/// so it is best done before there are any; otherwise skinFont() does it.
+void makeSkinFontsKnown();
+
 } // namespace tarvel

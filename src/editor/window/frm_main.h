@@ -104,7 +104,7 @@ class FrmMain : public QMainWindow {
     SurfaceRoom* buildSurface();
     QWidget* buildReadout();
     QWidget* buildRightSide();
-    QWidget* buildPanels();
+    void buildPanels(QWidget& panels);
     QWidget* buildStopButton();
     void buildReactions();
     void connectPanels();

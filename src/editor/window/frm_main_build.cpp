@@ -17,10 +17,13 @@
 #include "surface/surface_pan.h"
 #include "surface/surface_room.h"
 #include "widgets/accessible_roles.h"
+#include "widgets/content_scroll.h"
 #include "widgets/control_names.h"
+#include "widgets/icons.h"
 #include "widgets/mnemonics.h"
 #include "widgets/panel_slide.h"
 #include "widgets/qt_text.h"
+#include "widgets/skin_fonts.h"
 #include "widgets/tool_tips.h"
 #include "widgets/turning_layout.h"
 #include "window/arrange_commands.h"
@@ -97,9 +100,11 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(
         QStringLiteral(":: TARVEL %1.%2 :: by varnokelt ").arg(versionMajor).arg(versionMinor));
-    setWindowIcon(QIcon(QStringLiteral(":/tarvel/tarvel.png")));
+    setWindowIcon(programIcon());
+    makeSkinFontsKnown();
+    style_ = std::make_unique<StyleChoice>(remembered_);
     menus_ = std::make_unique<MainMenus>(*this);
-    style_ = std::make_unique<StyleChoice>(*menus_->mnuSystemStyle, remembered_);
+    style_->offer(*menus_->mnuSystemStyle);
     gate_ = new WindowGate(*this);
     slide_ = new PanelSlide(this);
     dialogs_ = std::make_unique<SkinDialogs>(document_, prompts_, pictures_, this);
@@ -175,7 +180,8 @@ QWidget* FrmMain::buildLeftSide() {
 }
 
 QWidget* FrmMain::buildRightSide() {
-    QWidget* panels = buildPanels();
+    auto* panels = new ContentScroll(new QWidget, ContentScroll::Ways::down);
+    buildPanels(*panels->widget());
     cmdStop_ = buildStopButton();
     properties_->addBeside(cmdStop_);
     auto* side = new SideColumn(panels, sliding(properties_->commands()), properties_->pages());
@@ -186,9 +192,8 @@ QWidget* FrmMain::buildRightSide() {
     return side;
 }
 
-QWidget* FrmMain::buildPanels() {
-    auto* panels = new QWidget;
-    auto* column = new QVBoxLayout(panels);
+void FrmMain::buildPanels(QWidget& panels) {
+    auto* column = new QVBoxLayout(&panels);
     column->setContentsMargins(0, 0, 0, 0);
     fraLayout_ = sliding(new LayoutPanel(document_));
     fraElements_ = sliding(new ElementsPanel(document_, selection_, pictures_));
@@ -199,7 +204,6 @@ QWidget* FrmMain::buildPanels() {
     column->addWidget(fraPos_);
     column->addWidget(behaviours_);
     column->addWidget(properties_);
-    return panels;
 }
 
 QWidget* FrmMain::buildStopButton() {

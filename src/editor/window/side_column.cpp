@@ -9,18 +9,17 @@
 
 namespace tarvel {
 
-SideColumn::SideColumn(QWidget* panels, QWidget* floor, PageStack& pages, QWidget* parent)
+SideColumn::SideColumn(ContentScroll* panels, QWidget* floor, PageStack& pages, QWidget* parent)
     : QWidget(parent)
-    , panels_(*panels)
-    , pages_(pages)
-    , scroll_(new ContentScroll(panels, ContentScroll::Ways::down)) {
-    scroll_->setObjectName(QStringLiteral("sidePanels"));
+    , scroll_(*panels)
+    , pages_(pages) {
+    panels->setObjectName(QStringLiteral("sidePanels"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(scroll_, 1);
+    column->addWidget(panels, 1);
     column->addWidget(floor);
-    scroll_->viewport()->installEventFilter(this);
-    panels->installEventFilter(this);
+    panels->viewport()->installEventFilter(this);
+    panels->widget()->installEventFilter(this);
 }
 
 bool SideColumn::eventFilter(QObject* watched, QEvent* event) {
@@ -31,8 +30,9 @@ bool SideColumn::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void SideColumn::shareRoom() {
-    const QSize room = scroll_->viewport()->size();
-    const int others = panels_.heightForWidth(room.width()) - pages_.heightForWidth(room.width());
+    const QSize room = scroll_.viewport()->size();
+    const int others =
+        scroll_.widget()->heightForWidth(room.width()) - pages_.heightForWidth(room.width());
     pages_.keepRoom(others + pages_.highest(room.width()) <= room.height());
 }
 

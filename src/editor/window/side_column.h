@@ -16,7 +16,7 @@ class SideColumn : public QWidget {
   public:
     /// Takes both in: `panels` scroll up and down, `floor` stays below them. `pages`, somewhere in
     /// the panels, keep room for the highest one only where nothing has to scroll for it.
-    SideColumn(QWidget* panels, QWidget* floor, PageStack& pages, QWidget* parent = nullptr);
+    SideColumn(ContentScroll* panels, QWidget* floor, PageStack& pages, QWidget* parent = nullptr);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -24,9 +24,8 @@ class SideColumn : public QWidget {
   private:
     void shareRoom();
 
-    QWidget& panels_;
+    ContentScroll& scroll_;
     PageStack& pages_;
-    ContentScroll* scroll_;
 };
 
 } // namespace tarvel

@@ -26,12 +26,14 @@ QString& systemName() {
 
 } // namespace
 
-StyleChoice::StyleChoice(QAction& systemStyle, Remembered& remembered)
+StyleChoice::StyleChoice(Remembered& remembered)
     : remembered_(remembered) {
-    const bool system = remembered.value(systemStyleKey);
+    choose(remembered.value(systemStyleKey));
+}
+
+void StyleChoice::offer(QAction& systemStyle) {
     systemStyle.setCheckable(true);
-    systemStyle.setChecked(system);
-    choose(system);
+    systemStyle.setChecked(remembered_.value(systemStyleKey));
     connect(&systemStyle, &QAction::toggled, this, [this](bool checked) {
         remembered_.remember(systemStyleKey, checked);
         choose(checked);

@@ -10,12 +10,16 @@ namespace tarvel {
 class Remembered;
 
 /// Takes the style that is remembered, and another one as soon as it is chosen, for the whole
-/// program. Entry and memory are not owned and outlive it.
+/// program. Entry and memory are not owned and outlive it. To be made before the widgets, which
+/// would otherwise take one style and then another.
 class StyleChoice : public QObject {
     Q_OBJECT
 
   public:
-    StyleChoice(QAction& systemStyle, Remembered& remembered);
+    explicit StyleChoice(Remembered& remembered);
+
+    /// Lets the entry choose.
+    void offer(QAction& systemStyle);
 
   private:
     void choose(bool system);
