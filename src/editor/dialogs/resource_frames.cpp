@@ -22,6 +22,12 @@
 
 namespace tarvel {
 
+namespace {
+
+constexpr QSize presetIcon{64, 48}; // pixels
+
+} // namespace
+
 SourceButtons::SourceButtons(const QString& suffix, QWidget* parent)
     : QWidget(parent)
     , optCustom_(named(new QRadioButton(QStringLiteral("Custom (from file)")),
@@ -173,8 +179,11 @@ void CustomFrame::clear() {
 PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget* parent)
     : QGroupBox(QStringLiteral("ADD PRESET RESOURCE"), parent)
     , document_(document)
+    , pictures_(pictures)
     , source_(new SourceButtons(QStringLiteral("2")))
     , lstResDef_(named(new QListWidget, QStringLiteral("lstResDef"), tr("Preset resources")))
+    , imgDefault_(named(new QLabel, QStringLiteral("imgDefault"),
+                        tr("The picture that stands for presets")))
     , lblDesc_(new QLabel)
     , txtResDef_(named(new QLineEdit, QStringLiteral("txtResDef"), tr("Resource name")))
     , cmdAddDef_(
@@ -186,31 +195,26 @@ PresetFrame::PresetFrame(SkinDocument& document, PictureCache& pictures, QWidget
         lstResDef_->addItem(qtText(preset.entry));
     }
     lstResDef_->setCurrentIndex({}); // the focus alone is to choose nothing
-    buildGrid(pictures);
+    buildGrid();
     connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::lstResDef_Click);
     connect(lstResDef_, &QListWidget::itemClicked, this, &PresetFrame::lstResDef_Click);
     connect(lstResDef_, &QListWidget::itemSelectionChanged, this, &PresetFrame::inputChanged);
     connect(cmdAddDef_, &QPushButton::clicked, this, &PresetFrame::cmdAddDef_Click);
 }
 
-void PresetFrame::buildGrid(PictureCache& pictures) {
+void PresetFrame::buildGrid() {
     lblDesc_->setWordWrap(true);
     lblDesc_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     lblDesc_->setMinimumHeight(3 * lblDesc_->fontMetrics().lineSpacing());
     lstResDef_->setFixedHeight(150);
     txtResDef_->setAcceptDrops(false);
-    auto* imgDefault =
-        named(new QLabel, QStringLiteral("imgDefault"), tr("The picture that stands for presets"));
-    constexpr QSize iconSize{64, 48};
-    const Resource anyPreset{.name = {}, .content = {}, .isFile = false};
-    const QImage icon = thumbnailOf(anyPreset, pictures, iconSize, imgDefault->devicePixelRatioF());
-    imgDefault->setPixmap(QPixmap::fromImage(icon));
+    imgDefault_->setFixedSize(presetIcon);
     auto* lblName = new QLabel(QStringLiteral("Resource name"));
     lblName->setBuddy(txtResDef_);
     auto* grid = new QGridLayout(this);
     grid->addWidget(source_, 0, 0, 1, 2);
     grid->addWidget(lstResDef_, 1, 0, 3, 1);
-    grid->addWidget(imgDefault, 1, 1);
+    grid->addWidget(imgDefault_, 1, 1);
     grid->addWidget(new QLabel(QStringLiteral("Description:")), 2, 1);
     grid->addWidget(lblDesc_, 3, 1, Qt::AlignTop);
     auto* nameRow = new QHBoxLayout;
@@ -221,6 +225,16 @@ void PresetFrame::buildGrid(PictureCache& pictures) {
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1);
+}
+
+// Decoded when it is to be seen: not when the program starts.
+void PresetFrame::showEvent(QShowEvent* event) {
+    QGroupBox::showEvent(event);
+    if (imgDefault_->pixmap().isNull()) {
+        const Resource anyPreset{.name = {}, .content = {}, .isFile = false};
+        imgDefault_->setPixmap(QPixmap::fromImage(
+            thumbnailOf(anyPreset, pictures_, presetIcon, imgDefault_->devicePixelRatioF())));
+    }
 }
 
 int PresetFrame::selectedPreset() const {

@@ -113,15 +113,18 @@ class PresetFrame : public QGroupBox {
     void inputChanged();
 
   private:
+    void showEvent(QShowEvent* event) override;
     [[nodiscard]] bool hasName() const;
-    void buildGrid(PictureCache& pictures);
+    void buildGrid();
     void lstResDef_Click();
     void cmdAddDef_Click();
     [[nodiscard]] int selectedPreset() const;
 
     SkinDocument& document_;
+    PictureCache& pictures_;
     SourceButtons* source_;
     QListWidget* lstResDef_;
+    QLabel* imgDefault_;
     QLabel* lblDesc_;
     QLineEdit* txtResDef_;
     QPushButton* cmdAddDef_;
