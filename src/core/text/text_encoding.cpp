@@ -200,6 +200,12 @@ std::optional<char32_t> referencedCodePoint(std::string_view body) {
     return value;
 }
 
+// A byte order mark, or the letters that have its bytes.
+bool hasMark(std::string_view bytes) {
+    return bytes.starts_with("\xEF\xBB\xBF") || bytes.starts_with("\xFF\xFE") ||
+           bytes.starts_with("\xFE\xFF");
+}
+
 } // namespace
 
 bool isValidUtf8(std::string_view bytes) {
@@ -242,7 +248,7 @@ std::string encodeWindows1252(std::string_view text) {
         return std::string(text);
     }
     std::string bytes = encodeBytes(text, false);
-    if (nextBeyondAscii(bytes, 0) != bytes.size() && isValidUtf8(bytes)) {
+    if (nextBeyondAscii(bytes, 0) != bytes.size() && (hasMark(bytes) || isValidUtf8(bytes))) {
         bytes = encodeBytes(text, true);
     }
     return bytes;

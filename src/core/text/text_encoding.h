@@ -24,7 +24,8 @@ struct DecodedText {
 [[nodiscard]] bool isValidUtf8(std::string_view bytes);
 
 /// UTF-8 text as Windows-1252 bytes. A character outside it becomes a decimal character reference;
-/// so do all beyond ASCII when the result could be taken for UTF-8.
+/// so do all beyond ASCII when the result could be taken for UTF-8 or begins like a byte order
+/// mark.
 [[nodiscard]] std::string encodeWindows1252(std::string_view text);
 
 /// True when every character of the UTF-8 text has a byte in Windows-1252.

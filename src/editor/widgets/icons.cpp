@@ -152,20 +152,20 @@ class IconEngine : public QIconEngine {
 class ProgramIconEngine : public QIconEngine {
   public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return read().pixmap(size, mode, state);
+        return picture().pixmap(size, mode, state);
     }
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                QIcon::State state) override {
-        read().paint(painter, rect, Qt::AlignCenter, mode, state);
+        picture().paint(painter, rect, Qt::AlignCenter, mode, state);
     }
     QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
-        return read().availableSizes(mode, state);
+        return picture().availableSizes(mode, state);
     }
     [[nodiscard]] QIconEngine* clone() const override { return new ProgramIconEngine; }
     bool isNull() override { return false; }
 
   private:
-    const QIcon& read() {
+    const QIcon& picture() {
         if (icon_.isNull()) {
             icon_ = QIcon(QStringLiteral(":/tarvel/tarvel.png"));
         }

@@ -233,6 +233,13 @@ TEST(EncodeWindows1252, GivesTheSameTextForEveryPairOfBytes) {
     }
 }
 
+TEST(EncodeWindows1252, WritesNoByteOrderMarkForLetters) {
+    for (const char* mark : {"\u00EF\u00BB\u00BF", "\u00FF\u00FE", "\u00FE\u00FF"}) {
+        const std::string text = std::string(mark) + "\u00BC<Skin>";
+        ASSERT_EQ(referencesDecoded(decodeText(encodeWindows1252(text)).text), text);
+    }
+}
+
 TEST(FitsWindows1252, IsTrueWhenEveryCharacterHasAByte) {
     struct Case {
         std::string_view text;
