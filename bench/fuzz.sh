@@ -66,12 +66,12 @@ feed() {
     echo "$target: $runs inputs in $seconds s, ${covered:-cov: 0}"
 }
 
-# As many at once as there are cores.
+# Twice as many at once as there are cores: each has its seconds by the clock.
 mkdir -p build/fuzz/found
 failed=0
 running=0
 for target in "${targets[@]}"; do
-    if [ "$running" -eq "$(nproc)" ]; then
+    if [ "$running" -eq "$((2 * $(nproc)))" ]; then
         wait -n || failed=1
         running=$((running - 1))
     fi
