@@ -20,6 +20,8 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 
+#include <utility>
+
 namespace tarvel {
 
 namespace {
@@ -209,6 +211,9 @@ void PresetFrame::buildGrid() {
     lstResDef_->setFixedHeight(150);
     txtResDef_->setAcceptDrops(false);
     imgDefault_->setFixedSize(presetIcon);
+    QPixmap room(presetIcon);
+    room.fill(Qt::transparent);
+    imgDefault_->setPixmap(room);
     auto* lblName = new QLabel(QStringLiteral("Resource name"));
     lblName->setBuddy(txtResDef_);
     auto* grid = new QGridLayout(this);
@@ -230,7 +235,7 @@ void PresetFrame::buildGrid() {
 // Decoded when it is to be seen: not when the program starts.
 void PresetFrame::showEvent(QShowEvent* event) {
     QGroupBox::showEvent(event);
-    if (imgDefault_->pixmap().isNull()) {
+    if (!std::exchange(isPictureShown_, true)) {
         const Resource anyPreset{.name = {}, .content = {}, .isFile = false};
         imgDefault_->setPixmap(QPixmap::fromImage(
             thumbnailOf(anyPreset, pictures_, presetIcon, imgDefault_->devicePixelRatioF())));

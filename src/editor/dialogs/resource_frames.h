@@ -125,6 +125,7 @@ class PresetFrame : public QGroupBox {
     SourceButtons* source_;
     QListWidget* lstResDef_;
     QLabel* imgDefault_;
+    bool isPictureShown_ = false; // in it
     QLabel* lblDesc_;
     QLineEdit* txtResDef_;
     QPushButton* cmdAddDef_;

@@ -67,7 +67,8 @@ class FrmResourcesTest : public QObject, protected test::ResourcesFixture {
     void choosePresets() {
         click(at<QWidget>("optPreset"));
         QVERIFY(at<QGroupBox>("fraPreset").isVisible());
-        QVERIFY(!at<QLabel>("imgDefault").pixmap().isNull());
+        const QImage picture = at<QLabel>("imgDefault").pixmap().toImage();
+        QVERIFY(picture.pixelColor(picture.rect().center()).alpha() > 0);
     }
 };
 
@@ -105,6 +106,7 @@ void FrmResourcesTest::showsItsTexts() {
     QCOMPARE(labels("fraPreset"), (QStringList{"Description:", "Resource name"}));
     const auto* list = at<QListWidget>("lstRes").parentWidget();
     QCOMPARE(qobject_cast<const QGroupBox*>(list)->title(), "CURRENT RESOURCES");
+    QVERIFY(!at<QLabel>("imgDefault").pixmap().isNull());
     QCOMPARE(at<QLabel>("lblFile").text(), "");
 }
 
