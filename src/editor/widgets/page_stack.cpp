@@ -27,12 +27,18 @@ void PageStack::keepRoom(bool keep) {
     }
 }
 
+void PageStack::invalidate() {
+    heights_.clear();
+    QStackedLayout::invalidate();
+}
+
+// Asked for again and again while a window is laid out; each time all texts would be broken anew.
 int PageStack::highest(int width) const {
-    int height = 0;
-    for (int i = 0; i < count(); ++i) {
-        height = std::max(height, heightOf(*widget(i), width));
+    const auto [known, isNew] = heights_.try_emplace(width, 0);
+    for (int i = 0; isNew && i < count(); ++i) {
+        known->second = std::max(known->second, heightOf(*widget(i), width));
     }
-    return height;
+    return known->second;
 }
 
 QSize PageStack::sizeHint() const {

@@ -3,6 +3,8 @@
 
 #include <QStackedLayout>
 
+#include <map>
+
 namespace tarvel {
 
 /// Where there is room, it is as high as its highest page, so that nothing around it moves when
@@ -19,6 +21,7 @@ class PageStack : public QStackedLayout {
     /// How high it is at this width with room for the highest page.
     [[nodiscard]] int highest(int width) const;
 
+    void invalidate() override;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSize() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
@@ -26,6 +29,7 @@ class PageStack : public QStackedLayout {
 
   private:
     bool keepsRoom_ = true;
+    mutable std::map<int, int> heights_; // of the highest page, by width, until something changes
 };
 
 } // namespace tarvel
