@@ -6,6 +6,7 @@
 // The second form makes the folder and a skin of COUNT elements in it: of all kinds on all screens,
 // boxes on "Menu", images on "Menu" that have a picture file each, all kinds on "Menu".
 #include "files/host_files.h"
+#include "paint_watch.h"
 #include "skins.h"
 #include "support/scripted_prompts.h"
 #include "widgets/panel_slide.h"
@@ -30,21 +31,6 @@
 namespace tarvel::bench {
 
 namespace {
-
-/// Ends the program after the next whole painting of a widget.
-class PaintWatch : public QObject {
-  public:
-    explicit PaintWatch(QWidget& watched) { watched.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            // Not quit(), which asks the window whether it may.
-            QMetaObject::invokeMethod(
-                qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
-        }
-        return false;
-    }
-};
 
 // A picture as large as half the screen, and unlike the others.
 void drawPicture(int number, const QString& file) {

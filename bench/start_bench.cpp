@@ -8,6 +8,7 @@
 // Qt's own widgets of the same kinds in the same tree, with the same texts, the plain look, and
 // nothing behind them.
 #include "files/host_files.h"
+#include "paint_watch.h"
 #include "support/scripted_prompts.h"
 #include "widgets/panel_slide.h"
 #include "widgets/remembered.h"
@@ -55,21 +56,6 @@
 namespace tarvel::bench {
 
 namespace {
-
-/// Ends the program after the next painting of a widget.
-class PaintWatch : public QObject {
-  public:
-    explicit PaintWatch(QWidget& watched) { watched.installEventFilter(this); }
-
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            // Not quit(), which asks the window whether it may.
-            QMetaObject::invokeMethod(
-                qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
-        }
-        return false;
-    }
-};
 
 /// Tells how many widgets there are and ends the process; taking them apart is no part of the
 /// start.

@@ -20,6 +20,10 @@ class Block : public QWidget {
         , smallest_(smallest.isEmpty() ? hint : smallest) {}
     [[nodiscard]] QSize sizeHint() const override { return hint_; }
     [[nodiscard]] QSize minimumSizeHint() const override { return smallest_; }
+    void become(QSize size) {
+        hint_ = smallest_ = size;
+        updateGeometry();
+    }
 
   private:
     QSize hint_;
@@ -151,10 +155,14 @@ void WrapLayoutTest::pagesKeepRoomForTheHighest() {
     QWidget window;
     auto* pages = new PageStack;
     window.setLayout(pages);
-    pages->addWidget(new Block({100, 20}));
+    auto* first = new Block({100, 20});
+    pages->addWidget(first);
     pages->addWidget(new Block({60, 90}));
     QCOMPARE(pages->sizeHint(), QSize(100, 90));
     QCOMPARE(pages->minimumSize(), QSize(100, 90));
+    first->become({100, 120}); // what is known of the pages is no longer true
+    QCOMPARE(pages->sizeHint(), QSize(100, 120));
+    first->become({100, 20});
     pages->keepRoom(false);
     QCOMPARE(pages->sizeHint(), QSize(100, 20));
     QCOMPARE(pages->minimumSize(), QSize(100, 20));

@@ -2,6 +2,7 @@
 #include "document/normalised.h"
 #include "skinfile/skin_folder.h"
 #include "support/editor.h"
+#include "support/skin_head.h"
 #include "support/ui_test.h"
 
 #include <QComboBox>
@@ -20,30 +21,8 @@ constexpr int titleScreen = 0;
 constexpr int mainScreen = 1;
 constexpr int filesScreen = 5;
 
-const QString skinBeginning = QStringLiteral(R"(<Skin name="One sitting">
-	<Information>
-		<MadeUsing>Tarvel 5.0</MadeUsing>
-	</Information>
-	<Delays>
-		<Title>0</Title>
-		<Load>0</Load>
-		<Saver>0</Saver>
-	</Delays>
-	<MessageBox>
-		<BoxColor>0xFF182038</BoxColor>
-		<BorderColor>0xFF7896C8</BorderColor>
-		<TextColor>0xFFF0F4FF</TextColor>
-		<ShadowColor>0xFF000000</ShadowColor>
-	</MessageBox>
-	<SystemMenu>
-		<BoxColor>0xFF141C30</BoxColor>
-		<BorderColor>0xFF7896C8</BorderColor>
-		<TextColor>0xFFF0F4FF</TextColor>
-		<SelectColor>0xFFFFD25A</SelectColor>
-		<ValueColor>0xFFB0C8E8</ValueColor>
-		<SelectValueColor>0xFFFFE8AA</SelectValueColor>
-	</SystemMenu>
-	<Resource Type="Image" Name="logo">
+const QString skinBeginning =
+    skinHead("One sitting") + QStringLiteral(R"(	<Resource Type="Image" Name="logo">
 		<File>Media\logo.png</File>
 	</Resource>
 	<Resource Type="Image" Name="photo">

@@ -1,5 +1,6 @@
 // A whole sitting without a mouse: a skin drawn, set up, saved, loaded and undone by keys alone.
 #include "support/behaviour_editor.h"
+#include "support/focus_keys.h"
 #include "support/ui_test.h"
 #include "widgets/mnemonics.h"
 
@@ -12,19 +13,6 @@ using namespace tarvel;
 using namespace tarvel::test;
 
 namespace {
-
-QString focusName() {
-    const QWidget* widget = QApplication::focusWidget();
-    return widget == nullptr ? QString() : widget->objectName();
-}
-
-/// Presses a key wherever the keys go.
-void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QWidget* target = QApplication::activePopupWidget();
-    target = target != nullptr ? target : QApplication::focusWidget();
-    QVERIFY(target != nullptr);
-    QTest::keyClick(target, key, modifiers);
-}
 
 void type(const QString& text) {
     QVERIFY(QApplication::focusWidget() != nullptr);

@@ -1,5 +1,6 @@
 // The ways around the window by keys: F6 from part to part, Tab from element to element, F10.
 #include "support/behaviour_editor.h"
+#include "support/focus_keys.h"
 #include "support/ui_test.h"
 
 #include <QLineEdit>
@@ -9,16 +10,6 @@ using namespace tarvel;
 using namespace tarvel::test;
 
 namespace {
-
-QString focusName() {
-    const QWidget* widget = QApplication::focusWidget();
-    return widget == nullptr ? QString() : widget->objectName();
-}
-
-void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QVERIFY(QApplication::focusWidget() != nullptr);
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-}
 
 QStringList pressed(Qt::Key key, Qt::KeyboardModifiers modifiers, int times) {
     QStringList way;

@@ -2,6 +2,7 @@
 // and undone back to the empty document.
 #include "support/clipboard_support.h"
 #include "support/menu_support.h"
+#include "support/skin_head.h"
 #include "support/ui_test.h"
 
 #include <QAbstractButton>
@@ -78,30 +79,7 @@ constexpr std::array<Wanted, 30> screen = {{
     {Kind::text, "Night sky", white, {40, 38, 200, 32}},
 }};
 
-const QString fileBeginning = QStringLiteral(R"(<Skin name="Thirty">
-	<Information>
-		<MadeUsing>Tarvel 5.0</MadeUsing>
-	</Information>
-	<Delays>
-		<Title>0</Title>
-		<Load>0</Load>
-		<Saver>0</Saver>
-	</Delays>
-	<MessageBox>
-		<BoxColor>0xFF182038</BoxColor>
-		<BorderColor>0xFF7896C8</BorderColor>
-		<TextColor>0xFFF0F4FF</TextColor>
-		<ShadowColor>0xFF000000</ShadowColor>
-	</MessageBox>
-	<SystemMenu>
-		<BoxColor>0xFF141C30</BoxColor>
-		<BorderColor>0xFF7896C8</BorderColor>
-		<TextColor>0xFFF0F4FF</TextColor>
-		<SelectColor>0xFFFFD25A</SelectColor>
-		<ValueColor>0xFFB0C8E8</ValueColor>
-		<SelectValueColor>0xFFFFE8AA</SelectValueColor>
-	</SystemMenu>
-	<Layout Screen="Menu">
+const QString fileBeginning = skinHead("Thirty") + QStringLiteral(R"(	<Layout Screen="Menu">
 )");
 const QString fileEnd = QStringLiteral("\t</Layout>\n</Skin>\n\n");
 

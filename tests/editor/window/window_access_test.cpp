@@ -1,6 +1,7 @@
 // The main window without a pointer: the way of the Tab key, spoken names, and work by keys.
 #include "support/access_support.h"
 #include "support/editor.h"
+#include "support/focus_keys.h"
 #include "support/ui_test.h"
 #include "widgets/drop_down.h"
 
@@ -53,17 +54,6 @@ void addResource(Editor& editor) {
 QString spokenName(QWidget* widget) {
     QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
     return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
-}
-
-/// Where a key goes.
-QString focusName() {
-    const QWidget* widget = QApplication::focusWidget();
-    return widget == nullptr ? QString() : widget->objectName();
-}
-
-void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QVERIFY(QApplication::focusWidget() != nullptr);
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
 /// The names of the controls that a key leads through, from the checked screen back to it.

@@ -3,6 +3,7 @@
 #include "support/behaviour_editor.h"
 #include "support/menu_support.h"
 #include "support/ui_test.h"
+#include "support/zoom_editor.h"
 #include "surface/surface_room.h"
 #include "widgets/style/palettes.h"
 #include "window/window_columns.h"
@@ -15,16 +16,6 @@ using namespace tarvel;
 using namespace tarvel::test;
 
 namespace {
-
-struct ZoomEditor : BehaviourEditor {
-    explicit ZoomEditor(int zoom = 100)
-        : BehaviourEditor(1) {
-        add(boxAt(300, 200, 100, 50));
-        room().zoomTo(zoom);
-        settle();
-    }
-    SurfaceRoom& room() { return *find<SurfaceRoom>("surfaceRoom"); }
-};
 
 // Whether something of an element is in the room.
 bool isInSight(ZoomEditor& editor, int id) {
