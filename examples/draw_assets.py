@@ -119,6 +119,17 @@ def game_list():
     return canvas
 
 
+PICTURES = 9
+
+
+def game_pictures():
+    """The small pictures of all games of the playing list, side by side."""
+    canvas = Canvas(PICTURES * 46, 34)
+    for row in range(PICTURES):
+        _thumbnail(canvas, row, row * 46, 0)
+    return canvas
+
+
 def _thumbnail(canvas, row, x, y):
     """A tile of 46 x 34 with a scene for the row's title."""
     tile = RoundRect(x, y, 46, 34, 4)
@@ -146,9 +157,39 @@ def _thumbnail(canvas, row, x, y):
         tiles = ((12, 27, 22, "#D24B57"), (15, 20.5, 18, "#EFA33B"), (13, 14, 16, "#4FA56B"), (18, 7.5, 12, "#3B72C4"))
         for dx, dy, width, colour in tiles:
             art.fill(RoundRect(x + dx, y + dy, width, 5.5, 1), colour)
-    else:  # a paper plane at dusk
+    elif row == 4:  # a paper plane at dusk
         art.fill(tile, Gradient(0, y, 0, y + 34, (0, "#5B4B8A"), (1, "#EFA27E")))
         art.fill(Polygon((x + 7, y + 19), (x + 39, y + 6), (x + 26, y + 27), (x + 20, y + 21)), "#FFFFFF")
         art.fill(Polygon((x + 20, y + 21), (x + 39, y + 6), (x + 21, y + 29)), "#C9CDE6")
+    else:
+        _further_thumbnail(art, row, x, y, tile)
     art.outline(RoundRect(x + 0.5, y + 0.5, 45, 33, 3.5), 1, "#FFFFFF", 0.35)
     _lay(canvas, art)
+
+
+def _further_thumbnail(art, row, x, y, tile):
+    """The games that only the playing list has."""
+    if row == 5:  # a folder with games in it
+        art.fill(tile, Gradient(0, y, 0, y + 34, (0, "#22304A"), (1, "#3E5578")))
+        art.fill(RoundRect(x + 9, y + 6, 13, 8, 2), "#D99A32")
+        art.fill(RoundRect(x + 9, y + 9, 28, 19, 2), "#E9AE45")
+        art.fill(RoundRect(x + 13, y + 7, 20, 8, 1), "#F6F8FC")
+        art.fill(RoundRect(x + 9, y + 13, 28, 15, 2), Gradient(0, y + 13, 0, y + 28, (0, "#FFD27A"), (1, "#F0AC3C")))
+    elif row == 6:  # a shaft with ore in its walls
+        art.fill(tile, Gradient(0, y, 0, y + 34, (0, "#4A342B"), (1, "#1E1513")))
+        art.fill(Polygon((x + 17, y + 34), (x + 19, y + 12), (x + 27, y + 12), (x + 29, y + 34)), "#0C0807")
+        for dx, dy, size in ((8, 9, 2.6), (12, 22, 3.2), (37, 14, 3), (34, 27, 2.4), (40, 6, 1.8)):
+            art.fill(Circle(x + dx, y + dy, size), Gradient(0, y, 0, y + 34, (0, "#FFB27A"), (1, "#C8632F")))
+        art.fill(Strokes([[(x + 16, y + 11), (x + 30, y + 11)]], 2.4), "#8C6239")
+    elif row == 7:  # a lock
+        art.fill(tile, Gradient(0, y, 0, y + 34, (0, "#2A1F45"), (1, "#0F0B1F")))
+        art.fill(Ring(x + 23, y + 13, 4.5, 7), "#C8D2E4")
+        art.fill(RoundRect(x + 14, y + 14, 18, 14, 2.5), Gradient(0, y + 14, 0, y + 28, (0, "#F3CF6B"), (1, "#C8932C")))
+        art.fill(Circle(x + 23, y + 20, 2.2), "#3A2A12")
+        art.fill(RoundRect(x + 22.1, y + 20, 1.8, 5, 0.8), "#3A2A12")
+    else:  # a letter in the snow
+        art.fill(tile, Gradient(0, y, 0, y + 34, (0, "#7FA6CF"), (1, "#E6F0FA")))
+        for dx, dy in ((5, 6), (13, 4), (24, 5), (36, 7), (41, 15), (6, 18), (40, 26)):
+            art.fill(Circle(x + dx, y + dy, 1.1), "#FFFFFF")
+        art.fill(RoundRect(x + 11, y + 11, 24, 16, 1.5), "#FFFDF6")
+        art.fill(Strokes([[(x + 12, y + 12.5), (x + 23, y + 20.5), (x + 34, y + 12.5)]], 1.3), "#C2483F")

@@ -67,6 +67,7 @@ def save_wmv(path, scene, seconds, rate=15):
 def assets():
     save_png(ASSETS / "imgCustom.png", draw_assets.program_picture())
     save_png(ASSETS / "gamelist.png", draw_assets.game_list())
+    save_png(ASSETS / "gamepictures.png", draw_assets.game_pictures())
     icon, small = draw_assets.app_icon(), draw_assets.small_app_icon()
     save(ASSETS / "tarvel.svg", icon.svg("Tarvel").encode())
     for size in (16, 32, 48, 64, 128, 256):

@@ -4,6 +4,8 @@
 #include "document/conditions.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 
 namespace tarvel {
 
@@ -11,6 +13,9 @@ namespace {
 
 // Rows of conditionRows.
 enum Row { none, itemPrev, itemNext, itemEntry, itemSubMenu, itemPassCode, itemNoPassCode };
+
+constexpr double itemsPerSecond = 2; // at a scroll factor of 1
+constexpr double millisecondsPerSecond = 1000;
 
 bool holdsFor(Row row, const ListItem& item) {
     switch (row) {
@@ -55,6 +60,23 @@ ListPlace movedBy(int step, const ListPlace& before, std::size_t items, std::siz
         ++selected;
     }
     return placeWith(selected, before, items, shown);
+}
+
+std::size_t itemsShownBy(const MenuSettings& settings) {
+    return static_cast<std::size_t>(std::max<int>(settings.itemsShown, 1));
+}
+
+double scrolledTo(const MenuSettings& settings, const ListPlace& place, const ListScroll& scroll,
+                  PlayTime at) {
+    const auto target = static_cast<double>(place.first);
+    if (!settings.smoothScroll || at < scroll.since) {
+        return target;
+    }
+    const int factor = std::max(1, std::abs(int{settings.scrollFactor}));
+    const double way =
+        static_cast<double>(at - scroll.since) / millisecondsPerSecond * itemsPerSecond * factor;
+    const double whole = target - scroll.from;
+    return way >= std::abs(whole) ? target : scroll.from + std::copysign(way, whole);
 }
 
 bool conditionHolds(std::string_view condition, std::span<const ListItem> items,

@@ -1,6 +1,9 @@
 // The list of games while a screen plays: which items are in sight, and which conditions hold.
 #pragma once
 
+#include "document/element.h"
+#include "playing/timer_play.h"
+
 #include <array>
 #include <cstddef>
 #include <span>
@@ -46,6 +49,23 @@ struct ListPlace {
 /// One item up (-1) or down (1); the ends stay.
 [[nodiscard]] ListPlace movedBy(int step, const ListPlace& before, std::size_t items,
                                 std::size_t shown);
+
+/// How many items of a menu fit at a time, by its settings; at least one.
+[[nodiscard]] std::size_t itemsShownBy(const MenuSettings& settings);
+
+/// Where the list scrolls from: an item, with parts of it between two, since a time.
+struct ListScroll {
+    double from = 0;
+    PlayTime since = 0;
+
+    bool operator==(const ListScroll&) const = default;
+};
+
+/// The item at the top of a menu at a time, with parts of it while the list scrolls to `place`.
+/// With smooth scrolling it goes evenly, two items a second times the scroll factor, of which only
+/// the size counts; without, and at times before the scrolling began, it is there at once.
+[[nodiscard]] double scrolledTo(const MenuSettings& settings, const ListPlace& place,
+                                const ListScroll& scroll, PlayTime at);
 
 /// Whether the condition of an element holds, by its text as `getcondNum` reads it. "None", an
 /// empty text and an unknown one always hold; in an empty list those of the selected item do not.

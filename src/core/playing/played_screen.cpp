@@ -28,26 +28,13 @@ void recolor(ElementControl& control, const PlayLook& look) {
     control.textColor = played(control.textColor, look);
 }
 
-// About the middle, and then to where it has travelled.
-void moveAndScale(ElementControl& control, const PlayLook& look) {
-    const Place rest = placeOf(control);
-    const auto scale = static_cast<float>(look.scale);
-    Place now = rest;
-    if (hasEnds(control)) {
-        const float middleX = (rest[0] + rest[2]) / 2;
-        const float middleY = (rest[1] + rest[3]) / 2;
-        for (std::size_t i = 0; i < now.size(); ++i) {
-            const float middle = i % 2 == 0 ? middleX : middleY;
-            now.at(i) = middle + (rest.at(i) - middle) * scale;
-            now.at(i) += i % 2 == 0 ? look.right : look.down;
-        }
-    } else {
-        now[2] = rest[2] * scale;
-        now[3] = rest[3] * scale;
-        now[0] = rest[0] + (rest[2] - now[2]) / 2 + look.right;
-        now[1] = rest[1] + (rest[3] - now[3]) / 2 + look.down;
+void travel(ElementControl& control, const PlayLook& look) {
+    Place place = placeOf(control);
+    const std::size_t corners = hasEnds(control) ? place.size() : 2;
+    for (std::size_t i = 0; i < corners; ++i) {
+        place.at(i) += i % 2 == 0 ? look.right : look.down;
     }
-    setPlace(control, now);
+    setPlace(control, place);
 }
 
 // What travels is the rectangle around the ends.
@@ -60,24 +47,79 @@ Place rectangleOf(const ElementControl& control) {
             std::abs(place[2] - place[0]), std::abs(place[3] - place[1])};
 }
 
+bool isClock(const std::string& field) {
+    return field == "Time" || field == "Date" || field == "DateTime";
+}
+
+bool isOfItem(const std::string& field) {
+    return field == "CGTitle" || field == "Name" || field == "CGDescr";
+}
+
+bool glows(const Element& element) {
+    return element.elementKind == ElementKind::Menu && element.menuSettings->glowSelected;
+}
+
+// What the dashboard fills in, in place of the field's name.
+std::string filledIn(const std::string& field, PlayTime time, const PlayChoices& choices) {
+    const ListItem* item = choices.list.selected < sampleItems.size()
+                               ? &sampleItems.at(choices.list.selected)
+                               : nullptr;
+    return playedText(field, isClock(field) ? later(choices.clock, time) : choices.clock, item);
+}
+
+void applyMotions(PlayedElement& now, const std::vector<Motion>& motions, PlayTime time) {
+    ElementControl& control = now.element.elementControl;
+    const PlayLook look = lookAt(motions, rectangleOf(control), time);
+    recolor(control, look);
+    travel(control, look);
+    now.scale = look.scale;
+    now.opacity = look.opacity;
+    if (const auto alpha = look.channels.front()) {
+        constexpr double opaque = 255;
+        now.element.elementAlpha = 100;
+        now.opacity *= *alpha / opaque;
+    }
+}
+
 } // namespace
 
 PlayedScreen::PlayedScreen(const SkinDocument& document, int screen,
                            const ModifierCatalogue& catalogue)
-    : document_(document) {
+    : document_(document)
+    , screen_(screen) {
     for (int row = 0; row < document.rowCount(screen); ++row) {
-        const int id = document.itemData(screen, row);
-        ids_.push_back(id);
-        std::vector<Motion> motions = motionsOf(*document.element(id).elementModifiers, catalogue);
-        for (const Motion& motion : motions) {
-            if (motion.preview == ModifierPreview::still) {
-                still_.push_back({motion.type, document.rowText(screen, row)});
-            }
+        read(row, catalogue);
+    }
+    for (std::size_t i = 0; i < live_.size(); ++i) {
+        places_.emplace(live_[i].id, i);
+    }
+}
+
+void PlayedScreen::read(int row, const ModifierCatalogue& catalogue) {
+    PlayedBy by;
+    by.id = document_.itemData(screen_, row);
+    const Element& element = document_.element(by.id);
+    const auto& timers = element.elementTimers;
+    by.timers = std::any_of(timers.begin(), timers.end(), [](auto value) { return value > 0; });
+    by.condition = getcondNum(element.elementCondition) > 0;
+    const bool isField = element.elementKind == ElementKind::Text && !element.textIsConstant;
+    const std::string& field = element.elementControl.caption;
+    by.clock = isField && isClock(field);
+    const bool isMenu = element.elementKind == ElementKind::Menu;
+    by.item = isMenu || (isField && isOfItem(field));
+    by.motions = motionsOf(*element.elementModifiers, catalogue);
+    by.isMoving = moves(by.motions) || glows(element);
+    for (const Motion& motion : by.motions) {
+        if (motion.preview == ModifierPreview::still) {
+            still_.push_back({motion.type, document_.rowText(screen_, row)});
         }
-        isMoving_ = isMoving_ || moves(motions);
-        if (!motions.empty()) {
-            motions_.emplace(id, std::move(motions));
-        }
+    }
+    if (isMenu) {
+        menuId_ = by.id;
+    }
+    isMoving_ = isMoving_ || by.isMoving;
+    if (by.timers || by.condition || isField || by.item || !by.motions.empty()) {
+        live_.push_back(std::move(by));
     }
 }
 
@@ -87,40 +129,75 @@ bool PlayedScreen::holds(std::string_view condition, const PlayChoices& choices)
         conditionHolds(condition, sampleItems, choices.list, choices.itemsShown));
 }
 
-std::optional<PlayedElement> PlayedScreen::at(int id, PlayTime time,
+std::optional<PlayedElement> PlayedScreen::at(const PlayedBy& live, PlayTime time,
                                               const PlayChoices& choices) const {
-    const Element& rest = document_.element(id);
+    const Element& rest = document_.element(live.id);
     if (!timersShow(rest.elementTimers, time) || !holds(rest.elementCondition, choices)) {
         return std::nullopt;
     }
-    PlayedElement now{.element = rest, .opacity = 1};
-    ElementControl& control = now.element.elementControl;
+    PlayedElement now{.element = rest};
     if (rest.elementKind == ElementKind::Text && !rest.textIsConstant) {
-        const ListItem* item = choices.list.selected < sampleItems.size()
-                                   ? &sampleItems.at(choices.list.selected)
-                                   : nullptr;
-        control.caption = playedText(control.caption, choices.clock, item);
+        std::string& caption = now.element.elementControl.caption;
+        caption = filledIn(caption, time, choices);
     }
-    if (const auto moving = motions_.find(id); moving != motions_.end()) {
-        const PlayLook look = lookAt(moving->second, rectangleOf(control), time);
-        recolor(control, look);
-        moveAndScale(control, look);
-        now.opacity = look.opacity;
-        if (const auto alpha = look.channels.front()) {
-            constexpr double opaque = 255;
-            now.element.elementAlpha = 100;
-            now.opacity *= *alpha / opaque;
-        }
+    if (rest.elementKind == ElementKind::Menu) {
+        now.list = listAt(live.id, time, choices);
+    }
+    if (!live.motions.empty()) {
+        applyMotions(now, live.motions, time);
     }
     return now;
 }
 
+std::optional<PlayedElement> PlayedScreen::at(int id, PlayTime time,
+                                              const PlayChoices& choices) const {
+    const auto found = places_.find(id);
+    if (found == places_.end()) {
+        return time < 0 ? std::nullopt : std::optional(PlayedElement{document_.element(id)});
+    }
+    return at(live_[found->second], time, choices);
+}
+
+// A menu behind the one in front has its own room, and is always where it has to be.
+PlayedList PlayedScreen::listAt(int id, PlayTime time, const PlayChoices& choices) const {
+    constexpr double glowPeriod = 1000; // ms
+    const MenuSettings& settings = *document_.element(id).menuSettings;
+    PlayedList list{.selected = choices.list.selected};
+    if (id == menuId_) {
+        list.first = scrolledTo(settings, choices.list, choices.scroll, time);
+    } else {
+        list.first = static_cast<double>(
+            placeWith(choices.list.selected, {}, sampleItems.size(), itemsShownBy(settings)).first);
+    }
+    list.glow = settings.glowSelected ? swing(0, 1, glowPeriod, time) : 0;
+    return list;
+}
+
 PlayTime PlayedScreen::nextChange(PlayTime time) const {
     PlayTime next = never;
-    for (const int id : ids_) {
-        next = std::min(next, nextTimerChange(document_.element(id).elementTimers, time));
+    for (const PlayedBy& live : live_) {
+        if (live.timers) {
+            next = std::min(next, nextTimerChange(document_.element(live.id).elementTimers, time));
+        }
     }
     return next;
+}
+
+const MenuSettings* PlayedScreen::menu() const {
+    return menuId_ == 0 ? nullptr : &*document_.element(menuId_).menuSettings;
+}
+
+void moveList(PlayChoices& choices, int step, const MenuSettings* menu, PlayTime time) {
+    static const MenuSettings usual;
+    const MenuSettings& settings = menu == nullptr ? usual : *menu;
+    choices.scroll = {.from = scrolledTo(settings, choices.list, choices.scroll, time),
+                      .since = time};
+    choices.list = movedBy(step, choices.list, sampleItems.size(), choices.itemsShown);
+}
+
+void selectItem(PlayChoices& choices, std::size_t item) {
+    choices.list = placeWith(item, choices.list, sampleItems.size(), choices.itemsShown);
+    choices.scroll = {.from = static_cast<double>(choices.list.first)};
 }
 
 } // namespace tarvel

@@ -8,31 +8,54 @@
 #include "playing/sample_texts.h"
 
 #include <array>
-#include <map>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace tarvel {
 
 /// What a screen plays with, beside the time.
 struct PlayChoices {
-    ListPlace list;
-    std::size_t itemsShown = 5; ///< of the list at a time
+    ListPlace list;             ///< of the menu in front
+    std::size_t itemsShown = 5; ///< of that menu at a time
+    ListScroll scroll;
     /// By the rows of conditionRows: whether a condition is to hold whatever the list says; nothing
     /// where the list decides.
     std::array<std::optional<bool>, conditionRows.size()> forced;
-    WallClock clock;
+    WallClock clock; ///< what the clock shows at the time 0
 
     bool operator==(const PlayChoices&) const = default;
 };
 
-/// An element at a moment: its record as it is to be painted, and the opacity of the whole, 0 to 1.
+/// The list of games in a menu at a moment.
+struct PlayedList {
+    std::size_t selected = 0;
+    double first = 0; ///< the item at the top, with parts of it while the list scrolls
+    double glow = 0;  ///< of the selected item, 0 to 1
+
+    bool operator==(const PlayedList&) const = default;
+};
+
+/// An element at a moment: its record as it is to be painted, and what of it no record tells.
 struct PlayedElement {
     Element element;
-    double opacity = 1;
+    double opacity = 1;                            ///< of the whole, 0 to 1
+    double scale = 1;                              ///< about the middle of its place
+    std::optional<PlayedList> list = std::nullopt; ///< of a menu
 
     bool operator==(const PlayedElement&) const = default;
+};
+
+/// What an element's looks depend on while its screen plays.
+struct PlayedBy {
+    int id = 0;
+    bool timers = false;
+    bool condition = false;
+    bool clock = false;    ///< its text goes with the clock
+    bool item = false;     ///< its text, or the list itself, goes with what is selected
+    bool isMoving = false; ///< a modifier, or the glow of the list, changes it at each moment
+    std::vector<Motion> motions;
 };
 
 /// The motions of the elements are read once; the document stays as it is meanwhile, and outlives
@@ -42,8 +65,17 @@ class PlayedScreen {
     /// `screen` 0 to 5.
     PlayedScreen(const SkinDocument& document, int screen, const ModifierCatalogue& catalogue);
 
-    /// The element of an id of the screen at a time; nothing while it is hidden by its timers or
-    /// its condition.
+    [[nodiscard]] const SkinDocument& document() const { return document_; }
+    [[nodiscard]] int screen() const { return screen_; }
+
+    /// The elements that may look otherwise than at rest, by their rows from the back. All others
+    /// look as the document has them, all the time.
+    [[nodiscard]] const std::vector<PlayedBy>& live() const { return live_; }
+
+    /// One of live() at a time; nothing while it is hidden by its timers or its condition.
+    [[nodiscard]] std::optional<PlayedElement> at(const PlayedBy& live, PlayTime time,
+                                                  const PlayChoices& choices) const;
+    /// Any element of the screen, by its id.
     [[nodiscard]] std::optional<PlayedElement> at(int id, PlayTime time,
                                                   const PlayChoices& choices) const;
 
@@ -56,6 +88,9 @@ class PlayedScreen {
     /// Whether an element has a modifier by which it looks otherwise at each moment.
     [[nodiscard]] bool isMoving() const { return isMoving_; }
 
+    /// The menu in front, whose list the conditions go by; nullptr on a screen without one.
+    [[nodiscard]] const MenuSettings* menu() const;
+
     /// Elements whose modifiers are not shown, by their rows from the back: the type, and the text
     /// of the row.
     struct Still {
@@ -67,11 +102,22 @@ class PlayedScreen {
     [[nodiscard]] const std::vector<Still>& still() const { return still_; }
 
   private:
+    void read(int row, const ModifierCatalogue& catalogue);
+    [[nodiscard]] PlayedList listAt(int id, PlayTime time, const PlayChoices& choices) const;
+
     const SkinDocument& document_;
-    std::vector<int> ids_;
-    std::map<int, std::vector<Motion>> motions_; // of the elements that have modifiers, by id
+    int screen_;
+    int menuId_ = 0; // 0 for none
+    std::vector<PlayedBy> live_;
+    std::unordered_map<int, std::size_t> places_; // in live_, by id
     bool isMoving_ = false;
     std::vector<Still> still_;
 };
+
+/// Chooses another item of the screen's list at a time: `step` -1 up, 1 down. The list scrolls
+/// there from where it stands.
+void moveList(PlayChoices& choices, int step, const MenuSettings* menu, PlayTime time);
+/// Chooses an item; the list is there at once.
+void selectItem(PlayChoices& choices, std::size_t item);
 
 } // namespace tarvel

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdio>
 
 namespace tarvel {
@@ -81,6 +82,24 @@ std::string dateText(const WallClock& clock) {
 }
 
 } // namespace
+
+WallClock later(const WallClock& clock, PlayTime time) {
+    using namespace std::chrono;
+    constexpr PlayTime longest = PlayTime{10'000} * 365 * 24 * 3600 * 1000;
+    const sys_days day = year(clock.year) / month(static_cast<unsigned>(clock.month)) /
+                         std::chrono::day(static_cast<unsigned>(clock.day));
+    const auto now = day + hours(clock.hour) + minutes(clock.minute) + seconds(clock.second) +
+                     floor<seconds>(milliseconds(std::clamp(time, -longest, longest)));
+    const sys_days today = floor<days>(now);
+    const year_month_day date(today);
+    const hh_mm_ss within(now - today);
+    return {.year = static_cast<int>(date.year()),
+            .month = static_cast<int>(static_cast<unsigned>(date.month())),
+            .day = static_cast<int>(static_cast<unsigned>(date.day())),
+            .hour = static_cast<int>(within.hours().count()),
+            .minute = static_cast<int>(within.minutes().count()),
+            .second = static_cast<int>(within.seconds().count())};
+}
 
 std::string playedText(std::string_view field, const WallClock& clock, const ListItem* item) {
     if (field == "Time") {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "playing/item_list_play.h"
+#include "playing/timer_play.h"
 
 #include <string>
 #include <string_view>
@@ -19,6 +20,10 @@ struct WallClock {
 
     bool operator==(const WallClock&) const = default;
 };
+
+/// What the clock shows some time later, or earlier for a time below 0; held at ten thousand years
+/// either way.
+[[nodiscard]] WallClock later(const WallClock& clock, PlayTime time);
 
 /// The text of a field of the dashboard, by its name with letter case: "Time", "Date" and
 /// "DateTime" by the clock, those of an item by the selected one, the others a sample of what

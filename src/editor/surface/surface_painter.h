@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/skin_document.h"
+#include "playing/played_screen.h"
 #include "surface/text_cache.h"
 
 #include <QImage>
@@ -13,6 +14,7 @@
 namespace tarvel {
 
 class PictureCache;
+class PlayedFrame;
 class VideoFrames;
 
 /// Which part of a screen is painted, and on what. The rows of the screen's list count from 0 at
@@ -23,12 +25,16 @@ struct SurfaceView {
     /// Takes the place of the black ground and the background picture, stretched over the screen;
     /// not owned. nullptr for none.
     const QImage* ground = nullptr;
+    /// The elements as they look while the screen plays; not owned. nullptr: as they are at rest.
+    const PlayedFrame* played = nullptr;
     bool crisp = false; ///< enlarged pictures show their own pixels and are not smoothed
 };
 
 /// Everything the element may cover, in skin pixels, with a margin for edges between pixels; empty
 /// for an element that shows nothing because its size is zero or negative.
 [[nodiscard]] QRectF elementBounds(const Element& element);
+/// The same for an element while it plays.
+[[nodiscard]] QRectF elementBounds(const PlayedElement& played);
 
 /// Paints from the document alone and changes nothing in it. Keeps laid out texts from one call to
 /// the next, so one painter serves one surface. Needs a QGuiApplication.

@@ -15,6 +15,11 @@ QColor withOpacity(ColorNumber color, int percent) {
     return result;
 }
 
+SurfacePass SurfacePass::everywhere() const {
+    constexpr QRectF everything(-1e6, -1e6, 2e6, 2e6); // more than nearSurface() leaves
+    return {painter_, pictures_, texts_, frames_, everything, crisp_};
+}
+
 const LaidOutText& SurfacePass::useText(int id, const ElementControl& control) {
     const LaidOutText& entry = texts_.laidOut(id, control);
     if (entry.font != font_) {

@@ -17,6 +17,7 @@ namespace tarvel {
 
 class PictureCache;
 struct Picture;
+struct PlayedList;
 class VideoFrames;
 
 /// The whole surface, in skin pixels.
@@ -49,6 +50,10 @@ class SurfacePass {
         , right_(dirty.right() + grid_.margin())
         , bottom_(dirty.bottom() + grid_.margin()) {}
 
+    /// A pass over the same pixels as these are now, that paints whatever lies anywhere: for what
+    /// the painter will be scaled for, which does not show where it lies at rest.
+    [[nodiscard]] SurfacePass everywhere() const;
+
     /// Whether anything of a rectangle has to be painted.
     [[nodiscard]] bool isDirty(const ElementControl& control) const {
         const double left = control.left;
@@ -66,6 +71,9 @@ class SurfacePass {
     [[nodiscard]] QPainter& painter() const { return painter_; }
     [[nodiscard]] const PixelGrid& grid() const { return grid_; }
     [[nodiscard]] const VideoFrames* frames() const { return frames_; }
+    /// The list of the menu that is painted next while it plays; nullptr for a picture of one.
+    [[nodiscard]] const PlayedList* playedList() const { return playedList_; }
+    void setPlayedList(const PlayedList* list) { playedList_ = list; }
     /// The part of a rectangle that can be seen, on the pixels of the device.
     [[nodiscard]] QRectF targetOf(const QRectF& rect) const {
         return grid_.snapped(nearSurface(rect));
@@ -94,6 +102,7 @@ class SurfacePass {
     PictureCache& pictures_;
     TextCache& texts_;
     const VideoFrames* frames_;
+    const PlayedList* playedList_ = nullptr;
     bool crisp_; // enlarged pictures show their pixels
     PixelGrid grid_;
     double left_; // what is dirty, with the margin of edges

@@ -107,5 +107,43 @@ TEST(SampleItems, HaveEveryKindAndMoreThanFit) {
     EXPECT_GT(sampleItems.size(), shownAtFirst);
 }
 
+TEST(ScrolledTo, GoesEvenlyByTheFactor) {
+    struct Case {
+        std::int16_t factor;
+        double from;
+        std::size_t first;
+        PlayTime at;
+        double expected;
+    };
+    constexpr std::array cases = {
+        Case{1, 0, 1, 250, 0.5},    Case{1, 0, 1, 500, 1},
+        Case{1, 0, 1, 501, 1},      Case{3, 0, 1, 100, 0.6},
+        Case{3, 4, 1, 250, 2.5},    Case{3, 4, 1, 500, 1},
+        Case{-3, 0, 1, 100, 0.6},   Case{0, 0, 1, 250, 0.5},
+        Case{32767, 0, 4, 1, 4},    Case{-32768, 0, 4, 1, 4},
+        Case{1, 0, 1, 0, 0},        Case{1, 0, 1, -1, 1},
+        Case{1, 2, 2, 7, 2},        Case{1, 0, 1, PlayTime{1} << 50, 1},
+        Case{1, 1.5, 1, 125, 1.25},
+    };
+    for (const Case& each : cases) {
+        MenuSettings settings;
+        settings.scrollFactor = each.factor;
+        EXPECT_DOUBLE_EQ(scrolledTo(settings, {.first = each.first}, {each.from, 0}, each.at),
+                         each.expected)
+            << each.factor << " at " << each.at;
+        settings.smoothScroll = false;
+        EXPECT_EQ(scrolledTo(settings, {.first = each.first}, {each.from, 0}, each.at),
+                  static_cast<double>(each.first));
+    }
+}
+
+TEST(ItemsShownBy, IsAtLeastOne) {
+    MenuSettings settings;
+    for (const auto& [set, shown] : {std::pair{5, 5}, {1, 1}, {0, 1}, {-3, 1}, {32767, 32767}}) {
+        settings.itemsShown = static_cast<std::int16_t>(set);
+        EXPECT_EQ(itemsShownBy(settings), static_cast<std::size_t>(shown));
+    }
+}
+
 } // namespace
 } // namespace tarvel

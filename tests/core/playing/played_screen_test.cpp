@@ -13,7 +13,8 @@ constexpr int menuScreen = 1;
 ModifierCatalogue catalogue() {
     return ModifierCatalogue(
         parseXml("<modifiers><types><Tint>Color</Tint><Fade preview='opacity'>Range</Fade>"
-                 "<Pulse preview='scale'>Range</Pulse><Wobble/></types></modifiers>"));
+                 "<Pulse preview='scale'>Range</Pulse><Slide preview='move'>Bounds</Slide>"
+                 "<Wobble/></types></modifiers>"));
 }
 
 Element box() {
@@ -113,17 +114,68 @@ TEST(PlayedScreen, ColorsByTheChannels) {
     EXPECT_TRUE(played.screen().isMoving());
 }
 
-TEST(PlayedScreen, ScalesAboutTheMiddle) {
-    const std::string pulse = "<Modifier Type='Pulse'><Range X='200' Y='200'/></Modifier>";
-    const Played played(withModifier(box(), pulse));
-    EXPECT_EQ(placeOf(played.at(0)->element.elementControl), (Place{80, 40, 80, 40}));
-    EXPECT_FALSE(played.screen().isMoving()); // it is larger all the time
+TEST(PlayedScreen, TellsTheScaleAndLeavesThePlace) {
+    const Played played(
+        withModifier(box(), "<Modifier Type='Pulse'><Range X='50' Y='150'/></Modifier>"));
+    EXPECT_EQ(played.at(0)->scale, 0.5);
+    EXPECT_EQ(played.at(1000)->scale, 1.5);
+    EXPECT_EQ(placeOf(played.at(0)->element.elementControl), (Place{100, 50, 40, 20}));
+    EXPECT_TRUE(played.screen().isMoving());
+    const Played larger(
+        withModifier(box(), "<Modifier Type='Pulse'><Range X='200' Y='200'/></Modifier>"));
+    EXPECT_EQ(larger.at(0)->scale, 2);
+    EXPECT_FALSE(larger.screen().isMoving()); // it is larger all the time
+}
+
+TEST(PlayedScreen, CarriesBothEndsOfALine) {
     Element line = box();
     line.elementKind = ElementKind::Line;
     line.elementControl.kind = ControlKind::lin;
     setPlace(line.elementControl, {10, 20, 30, 60});
-    EXPECT_EQ(placeOf(Played(withModifier(line, pulse)).at(0)->element.elementControl),
-              (Place{0, 0, 40, 80}));
+    const std::string slide = "<Modifier Type='Slide'><Bounds L='0' T='20' R='640' B='60'/>"
+                              "</Modifier>";
+    EXPECT_EQ(placeOf(Played(withModifier(line, slide)).at(1000)->element.elementControl),
+              (Place{70, 20, 90, 60}));
+    EXPECT_EQ(placeOf(Played(withModifier(box(), slide)).at(1000)->element.elementControl),
+              (Place{160, 20, 40, 20}));
+}
+
+TEST(PlayedScreen, RunsTheClock) {
+    Element text = box();
+    text.elementKind = ElementKind::Text;
+    text.elementControl.kind = ControlKind::txt;
+    text.elementControl.caption = "Time";
+    PlayChoices choices;
+    choices.clock = {.hour = 23, .minute = 59, .second = 58};
+    const Played played(text);
+    EXPECT_EQ(played.at(999, choices)->element.elementControl.caption, "23:59:58");
+    EXPECT_EQ(played.at(2000, choices)->element.elementControl.caption, "00:00:00");
+}
+
+TEST(PlayedScreen, TellsOfTheListInAMenu) {
+    Element menu = box();
+    menu.elementKind = ElementKind::Menu;
+    menu.elementControl.kind = ControlKind::qor;
+    MenuSettings settings;
+    settings.itemsShown = 2;
+    settings.scrollFactor = 1; // two items a second
+    settings.glowSelected = true;
+    menu.menuSettings = SharedValue(settings);
+    const Played played(menu);
+    const PlayedScreen screen = played.screen();
+    ASSERT_NE(screen.menu(), nullptr);
+    EXPECT_TRUE(screen.isMoving()); // it glows
+    PlayChoices choices;
+    choices.itemsShown = itemsShownBy(*screen.menu());
+    moveList(choices, 1, screen.menu(), 0);
+    EXPECT_EQ(screen.at(played.id, 0, choices)->list, (PlayedList{.selected = 1, .first = 0, .glow = 0}));
+    moveList(choices, 1, screen.menu(), 100);
+    EXPECT_EQ(screen.at(played.id, 100, choices)->list->first, 0);
+    EXPECT_EQ(screen.at(played.id, 350, choices)->list, (PlayedList{2, 0.5, 0.7}));
+    EXPECT_EQ(screen.at(played.id, 600, choices)->list->first, 1);
+    EXPECT_EQ(screen.at(played.id, 50, choices)->list->first, 1); // gone back to before it began
+    selectItem(choices, 8);
+    EXPECT_EQ(screen.at(played.id, 0, choices)->list, (PlayedList{.selected = 8, .first = 7, .glow = 0}));
 }
 
 TEST(PlayedScreen, SaysWhatStaysStill) {

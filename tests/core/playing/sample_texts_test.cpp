@@ -42,5 +42,26 @@ TEST(PlayedText, OfNoFieldIsItself) {
     EXPECT_EQ(playedText("", clock, nullptr), "");
 }
 
+TEST(Later, GoesOnByTheCalendar) {
+    struct Case {
+        WallClock from;
+        PlayTime time;
+        WallClock expected;
+    };
+    constexpr PlayTime day = 24 * 3600 * 1000;
+    const std::vector<Case> cases = {
+        {{2026, 11, 21, 20, 15, 0}, 999, {2026, 11, 21, 20, 15, 0}},
+        {{2026, 11, 21, 20, 15, 0}, 61'000, {2026, 11, 21, 20, 16, 1}},
+        {{2026, 12, 31, 23, 59, 59}, 1000, {2027, 1, 1, 0, 0, 0}},
+        {{2028, 2, 28, 12, 0, 0}, day, {2028, 2, 29, 12, 0, 0}},
+        {{2026, 3, 1, 0, 0, 0}, -1, {2026, 2, 28, 23, 59, 59}},
+        {{2000, 1, 1, 0, 0, 0}, PlayTime{1} << 31, {2000, 1, 25, 20, 31, 23}},
+    };
+    for (const Case& each : cases) {
+        EXPECT_EQ(later(each.from, each.time), each.expected) << each.time;
+    }
+    EXPECT_EQ(later({}, never), later({}, never - 1)); // held
+}
+
 } // namespace
 } // namespace tarvel
