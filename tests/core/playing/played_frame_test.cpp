@@ -128,12 +128,12 @@ TEST_F(FrameOfAll, KnowsWhenToLookAgain) {
     EXPECT_EQ(frame.nextChange(), 500);
     showAt(frame, 1500);
     EXPECT_FALSE(frame.isMoving()); // what moved is hidden
-    showAt(frame, 2700);
-    EXPECT_EQ(frame.nextChange(), 3000); // the clock: the blinking one is off until it is gone
+    showAt(frame, 2850);
+    EXPECT_EQ(frame.nextChange(), 3000); // the clock
     document.delItem(document.rowOf(screenOfTests, clock));
     const PlayedScreen without(document, screenOfTests, catalogue());
     PlayedFrame rest(without, choices);
-    showAt(rest, 2700);
+    showAt(rest, 2850);
     EXPECT_EQ(rest.nextChange(), never);
 }
 

@@ -168,14 +168,16 @@ TEST(PlayedScreen, TellsOfTheListInAMenu) {
     PlayChoices choices;
     choices.itemsShown = itemsShownBy(*screen.menu());
     moveList(choices, 1, screen.menu(), 0);
-    EXPECT_EQ(screen.at(played.id, 0, choices)->list, (PlayedList{.selected = 1, .first = 0, .glow = 0}));
+    EXPECT_EQ(screen.at(played.id, 0, choices)->list,
+              (PlayedList{.selected = 1, .first = 0, .glow = 0}));
     moveList(choices, 1, screen.menu(), 100);
     EXPECT_EQ(screen.at(played.id, 100, choices)->list->first, 0);
     EXPECT_EQ(screen.at(played.id, 350, choices)->list, (PlayedList{2, 0.5, 0.7}));
     EXPECT_EQ(screen.at(played.id, 600, choices)->list->first, 1);
     EXPECT_EQ(screen.at(played.id, 50, choices)->list->first, 1); // gone back to before it began
     selectItem(choices, 8);
-    EXPECT_EQ(screen.at(played.id, 0, choices)->list, (PlayedList{.selected = 8, .first = 7, .glow = 0}));
+    EXPECT_EQ(screen.at(played.id, 0, choices)->list,
+              (PlayedList{.selected = 8, .first = 7, .glow = 0}));
 }
 
 TEST(PlayedScreen, SaysWhatStaysStill) {
