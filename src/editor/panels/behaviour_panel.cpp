@@ -5,11 +5,9 @@
 #include "editing/step_names.h"
 #include "widgets/content_scroll.h"
 #include "widgets/control_names.h"
-#include "widgets/style/heading.h"
 
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -18,23 +16,9 @@
 
 namespace tarvel {
 
-namespace {
-
-constexpr qreal cornerRadius = 6;
-constexpr int margin = 14;
-constexpr int spacing = 10;
-
-QColor between(const QColor& a, const QColor& b, float share) {
-    const auto mixed = [share](float from, float to) { return from + (to - from) * share; };
-    return QColor::fromRgbF(mixed(a.redF(), b.redF()), mixed(a.greenF(), b.greenF()),
-                            mixed(a.blueF(), b.blueF()));
-}
-
-} // namespace
-
 BehaviourPanel::BehaviourPanel(SkinDocument& document, std::string_view step, const QString& name,
                                const QString& heading, QWidget* parent)
-    : QFrame(parent)
+    : SideCard(parent)
     , document_(document)
     , step_(step)
     , column_(new QVBoxLayout(this)) {
@@ -47,9 +31,7 @@ BehaviourPanel::BehaviourPanel(SkinDocument& document, std::string_view step, co
     rows_->setContentsMargins(0, 0, 0, 0);
     rows_->setSpacing(spacing);
     column_->addWidget(new ContentScroll(content, ContentScroll::Ways::both), 1);
-    auto* title = new QLabel(heading);
-    title->setFont(headingFont(title->font()));
-    rows_->addWidget(title);
+    rows_->addWidget(headingOf(heading));
 }
 
 void BehaviourPanel::addOk(const QString& name, const QString& deed) {
@@ -119,16 +101,6 @@ void BehaviourPanel::storeNow() {
 void BehaviourPanel::takeBack() {
     auto before = before_.begin();
     document_.editElements(elementIds_, [&](Element& element) { element = *before++; });
-}
-
-void BehaviourPanel::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor window = palette().color(QPalette::Window);
-    painter.setBrush(window);
-    painter.setPen(between(window, palette().color(QPalette::WindowText), 0.45F));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
-                            cornerRadius);
 }
 
 void BehaviourPanel::keyPressEvent(QKeyEvent* event) {

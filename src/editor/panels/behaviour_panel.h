@@ -3,13 +3,12 @@
 #pragma once
 
 #include "document/skin_document.h"
+#include "panels/side_card.h"
 
-#include <QFrame>
 #include <QString>
 
 #include <string_view>
 
-class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
@@ -18,7 +17,7 @@ namespace tarvel {
 /// A panel that lies over the disabled window while it is open. It is hidden until open(), and
 /// closes through its OK button only, or Enter; Escape does nothing. The document is not owned and
 /// outlives the panel.
-class BehaviourPanel : public QFrame {
+class BehaviourPanel : public SideCard {
     Q_OBJECT
 
   public:
@@ -58,7 +57,6 @@ class BehaviourPanel : public QFrame {
     /// The control that has the focus after opening.
     void setFirstControl(QWidget* control) { firstControl_ = control; }
 
-    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

@@ -4,6 +4,7 @@
 #include "document/element_kinds.h"
 #include "editing/snapping.h"
 #include "editing/zoom.h"
+#include "playing/played_frame.h"
 #include "surface/picture_cache.h"
 #include "widgets/accessible_roles.h"
 #include "widgets/control_names.h"
@@ -71,7 +72,7 @@ Pic::Pic(PictureCache& pictures, QWidget* parent)
     picBox_ = makePicBox(this);
     painter_.setVideoFrames(&videos_);
     connect(&videos_, &VideoStage::frameChanged, this,
-            [this](int elementId) { repaintRect(damage_.placeOf(elementId)); });
+            [this](int elementId) { repaintRect(placeOf(elementId)); });
     connect(&videos_, &VideoStage::placeFreed, this, &Pic::catchUpLater);
 }
 
@@ -153,7 +154,7 @@ QImage Pic::flatPicture(int endRow) {
     image.setDevicePixelRatio(devicePixelRatioF());
     image.fill(Qt::black);
     if (document_ != nullptr) {
-        SurfaceView flat = view();
+        SurfaceView flat = restingView();
         flat.endRow = endRow;
         QPainter painter(&image);
         painter.setTransform(mapping_.toWidget(), true);
@@ -161,6 +162,40 @@ QImage Pic::flatPicture(int endRow) {
                        flat);
     }
     return image;
+}
+
+void Pic::showPlayed(const PlayedFrame* frame) {
+    if (frame != nullptr && played_ == nullptr) {
+        hideOverlays();
+    } else if (frame == nullptr) {
+        for (const auto& overlay : std::exchange(overlays_, {})) {
+            if (overlay) {
+                overlay->show();
+            }
+        }
+    }
+    played_ = frame;
+    videos_.setPlaying(frame != nullptr);
+    videos_.showAnew();
+    update();
+    catchUpLater();
+}
+
+void Pic::hideOverlays() {
+    for (auto* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (!child->isHidden() && child != picBox_) {
+            overlays_.emplace_back(child);
+            child->hide();
+        }
+    }
+}
+
+void Pic::playedChanged(const PlayedElement* before, const PlayedElement* now) {
+    for (const PlayedElement* played : {before, now}) {
+        if (played != nullptr) {
+            repaintRect(tarvel::elementBounds(*played));
+        }
+    }
 }
 
 void Pic::stopAllVids() {
@@ -198,8 +233,7 @@ void Pic::paintEvent(QPaintEvent* event) {
 void Pic::paintRegion(QPainter& painter, const QRegion& region) {
     painter.setTransform(mapping_.toWidget(), true);
     const auto paint = [&](const QRect& part) {
-        painter_.paint(painter, *document_, document_->currentLayout(), mapping_.toSkin(part),
-                       view());
+        painter_.paint(painter, *document_, shownScreen(), mapping_.toSkin(part), view());
     };
     const bool asOne = region.rectCount() > largestCount || lieTogether(region);
     if (asOne) {
@@ -318,12 +352,36 @@ void Pic::catchUp() {
     settingsChanged();
     static const SkinDocument nothing;
     const SkinDocument& document = document_ == nullptr ? nothing : *document_;
-    const int screen = document.currentLayout();
-    repaintDamage(damage_.rowsChanged(document, screen));
-    videos_.show(document, isVisible() ? screen : VideoStage::noScreen);
+    repaintDamage(damage_.rowsChanged(document, document.currentLayout()));
+    videos_.show(document, isVisible() ? shownScreen() : VideoStage::noScreen);
+}
+
+int Pic::shownScreen() const {
+    if (played_ != nullptr) {
+        return played_->screen().screen();
+    }
+    return document_ == nullptr ? 0 : document_->currentLayout();
+}
+
+QRectF Pic::placeOf(int elementId) const {
+    if (played_ == nullptr) {
+        return damage_.placeOf(elementId);
+    }
+    const PlayedFrame::Look look = played_->lookOf(elementId);
+    if (look.isAtRest) {
+        return tarvel::elementBounds(document_->element(elementId));
+    }
+    return look.played == nullptr ? QRectF() : tarvel::elementBounds(*look.played);
 }
 
 SurfaceView Pic::view() const {
+    if (played_ == nullptr) {
+        return restingView();
+    }
+    return {.played = played_, .crisp = mapping_.scale() * percent >= crispZoom};
+}
+
+SurfaceView Pic::restingView() const {
     return {.firstRow = firstRow_,
             .ground = flatGround_.isNull() ? nullptr : &flatGround_,
             .crisp = mapping_.scale() * percent >= crispZoom};

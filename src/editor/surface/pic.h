@@ -8,13 +8,16 @@
 #include "surface/view_mapping.h"
 
 #include <QImage>
+#include <QPointer>
 #include <QWidget>
 
 #include <string>
+#include <vector>
 
 namespace tarvel {
 
 class PictureCache;
+class PlayedFrame;
 
 /// mapping() tells which widget pixels are which skin pixels; on finer displays everything is drawn
 /// at their resolution.
@@ -53,9 +56,17 @@ class Pic : public QWidget, private DocumentObserver {
     /// flat ground, with the rows before `endRow`.
     [[nodiscard]] QImage flatPicture(int endRow);
 
-    /// Stops the videos of the current screen.
+    /// Shows a screen as it plays, of the document that is set, in place of the current one at
+    /// rest, and none of what lies over the surface: marks, guides. The frame is not owned and
+    /// stays until the next call; nullptr ends it. Videos begin anew with each frame shown.
+    void showPlayed(const PlayedFrame* frame);
+    /// An element of the frame looks otherwise now; nullptr while it is hidden.
+    void playedChanged(const PlayedElement* before, const PlayedElement* now);
+
+    /// Stops the videos of the shown screen.
     void stopAllVids();
     [[nodiscard]] const VideoStage& videos() const { return videos_; }
+    [[nodiscard]] VideoStage& videos() { return videos_; }
 
     /// The cover of the whole surface, "picBox"; hidden unless something covers the surface.
     [[nodiscard]] QWidget& picBox() { return *picBox_; }
@@ -87,6 +98,10 @@ class Pic : public QWidget, private DocumentObserver {
     void catchUpLater();
     void catchUp();
     [[nodiscard]] SurfaceView view() const;
+    [[nodiscard]] SurfaceView restingView() const;
+    [[nodiscard]] int shownScreen() const;
+    [[nodiscard]] QRectF placeOf(int elementId) const;
+    void hideOverlays();
     void paintRegion(QPainter& painter, const QRegion& region);
     void paintPixelGrid(QPainter& painter, const QRect& part) const;
     void paintSafeArea(QPainter& painter) const;
@@ -102,6 +117,8 @@ class Pic : public QWidget, private DocumentObserver {
     QImage flatGround_;
     int firstRow_ = 0;
     QWidget* picBox_;
+    const PlayedFrame* played_ = nullptr;
+    std::vector<QPointer<QWidget>> overlays_; // hidden while a screen plays
     bool catchingUp_ = false;
     bool showsSafeArea_ = false;
 };

@@ -97,7 +97,8 @@ void VideoStage::show(const SkinDocument& document, int screen) {
         startAfresh();
     }
     for (auto& [id, seat] : seats_) {
-        if (seat.player != nullptr && screenOf(document, id) != screen) {
+        seat.onShown = screenOf(document, id) == screen;
+        if (seat.player != nullptr && !seat.onShown) {
             seat.player->pause();
         }
     }
@@ -113,11 +114,75 @@ void VideoStage::show(const SkinDocument& document, int screen) {
 }
 
 void VideoStage::stopAllVids(const SkinDocument& document) {
+    const int screen = shown_ == noScreen ? document.currentLayout() : shown_;
     for (auto& [id, seat] : seats_) {
-        if (seat.player != nullptr && screenOf(document, id) == document.currentLayout()) {
+        if (seat.player != nullptr && screenOf(document, id) == screen) {
             seat.player->pause();
             seat.stopped = true;
         }
+    }
+}
+
+void VideoStage::setPlaying(bool playing) {
+    if (playing == playing_) {
+        return;
+    }
+    playing_ = playing;
+    held_ = false;
+    rate_ = 1;
+    for (auto& [id, seat] : seats_) {
+        if (playing) {
+            seat.wasStopped = seat.stopped;
+            continue;
+        }
+        seat.stopped = seat.wasStopped;
+        if (seat.player != nullptr) {
+            seat.player->setPlaybackRate(rate_);
+            if (seat.stopped) {
+                seat.player->pause();
+            }
+        }
+    }
+}
+
+void VideoStage::setHeld(bool held) {
+    if (!playing_ || held == held_) {
+        return;
+    }
+    held_ = held;
+    for (auto& [id, seat] : seats_) {
+        if (seat.player != nullptr && seat.onShown && !seat.stopped) {
+            startOrHold(*seat.player);
+        }
+    }
+}
+
+void VideoStage::setRate(double rate) {
+    if (!playing_ || rate == rate_) {
+        return;
+    }
+    rate_ = rate;
+    for (auto& [id, seat] : seats_) {
+        if (seat.player != nullptr) {
+            seat.player->setPlaybackRate(rate);
+        }
+    }
+}
+
+void VideoStage::goTo(std::int64_t time) {
+    for (auto& [id, seat] : seats_) {
+        const bool canGo = seat.player != nullptr && seat.onShown && seat.player->duration() > 0;
+        if (canGo && !seat.stopped) {
+            seat.player->setPosition(time % seat.player->duration());
+        }
+    }
+}
+
+void VideoStage::startOrHold(QMediaPlayer& player) const {
+    if (held_) {
+        player.pause();
+    } else {
+        player.play();
     }
 }
 
@@ -155,11 +220,16 @@ void VideoStage::dropOutdated(const SkinDocument& document) {
     }
 }
 
-// Stopped videos will play from their beginning, and failed ones be tried again.
+// Stopped videos will play from their beginning, while a screen plays all of them will, and failed
+// ones be tried again. Those that were stopped before a screen played stay so after it.
 void VideoStage::startAfresh() {
     std::erase_if(seats_, [](const auto& seat) { return !seat.second.problem.isEmpty(); });
     for (auto& [id, seat] : seats_) {
-        if (std::exchange(seat.stopped, false) && seat.player != nullptr) {
+        const bool stays = !playing_ && std::exchange(seat.wasStopped, false);
+        if (stays) {
+            continue;
+        }
+        if ((std::exchange(seat.stopped, false) || playing_) && seat.player != nullptr) {
             seat.player->setPosition(0);
         }
     }
@@ -167,10 +237,11 @@ void VideoStage::startAfresh() {
 
 void VideoStage::play(int elementId, const SkinDocument& document) {
     Seat& seat = seats_[elementId];
+    seat.onShown = true;
     seat.file = document.element(elementId).elementControl.file;
     if (seat.player != nullptr) {
         if (!seat.stopped) {
-            seat.player->play();
+            startOrHold(*seat.player);
         }
         return;
     }
@@ -224,7 +295,8 @@ void VideoStage::open(int elementId, Seat& seat) {
             [this, elementId, path] { fail(elementId, problemOfContent(path)); });
     watch(elementId, player, path);
     player->setSource(QUrl::fromLocalFile(QString::fromStdString(path.string())));
-    player->play();
+    player->setPlaybackRate(rate_);
+    player->play(); // also while time is held: a first frame is wanted
 }
 
 // Some broken files keep a player loading for ever, with neither a frame nor an error.
@@ -263,6 +335,9 @@ void VideoStage::takeFrame(int elementId, const QVideoFrame& frame) {
     QImage image = frame.toImage();
     if (!image.isNull()) {
         found->second.frame = std::move(image);
+        if (held_ && found->second.player != nullptr) {
+            found->second.player->pause(); // it was made for this frame
+        }
         emit frameChanged(elementId);
     }
 }

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <cstdint>
 #include <filesystem>
 #include <map>
 #include <string>
@@ -38,9 +39,22 @@ class VideoStage : public QObject, public VideoFrames {
     /// The same for the screen that is shown already, at the next show().
     void showAnew() { shown_ = noScreen; }
 
-    /// Stops the videos of the document's current screen. They keep their last frame, and stay
-    /// stopped until the screen is shown anew or their file changes.
+    /// Stops the videos of the shown screen; of the document's current one when none is shown. They
+    /// keep their last frame, and stay stopped until the screen is shown anew or their file
+    /// changes.
     void stopAllVids(const SkinDocument& document);
+
+    /// While screens play, each screen that is shown anew begins its videos from their start, and
+    /// time may be held, sped up and gone through. Afterwards the videos that were stopped before
+    /// are so again.
+    void setPlaying(bool playing);
+    /// Lets the time of the shown screen stand still.
+    void setHeld(bool held);
+    /// How quick it is, 1 as usual.
+    void setRate(double rate);
+    /// Goes to a time, in milliseconds since the screen was shown; videos that are shorter have
+    /// begun anew by then.
+    void goTo(std::int64_t time);
 
     [[nodiscard]] bool isPlaying(int elementId) const;
 
@@ -62,7 +76,9 @@ class VideoStage : public QObject, public VideoFrames {
         QMediaPlayer* player = nullptr; ///< child of the stage; nullptr with a problem
         QImage frame;
         QString problem;
+        bool onShown = false; ///< its element is on the shown screen
         bool stopped = false;
+        bool wasStopped = false; ///< before screens played
     };
     using Seats = std::map<int, Seat>;
 
@@ -74,11 +90,15 @@ class VideoStage : public QObject, public VideoFrames {
     void watch(int elementId, QMediaPlayer* player, const std::filesystem::path& path);
     void fail(int elementId, const QString& problem);
     void takeFrame(int elementId, const QVideoFrame& frame);
+    void startOrHold(QMediaPlayer& player) const;
     void retire(QMediaPlayer* player);
     Seats::iterator drop(Seats::iterator seat);
 
     Seats seats_;
     int shown_ = noScreen;
+    bool playing_ = false;
+    bool held_ = false;
+    double rate_ = 1;
 };
 
 } // namespace tarvel

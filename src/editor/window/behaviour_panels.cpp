@@ -7,14 +7,13 @@
 #include "window/window_gate.h"
 
 #include <QEvent>
-#include <QStyle>
 
 #include <algorithm>
 
 namespace tarvel {
 
 BehaviourPanels::BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate,
-                                 Room room, QWidget& ground,
+                                 SideRoom room, QWidget& ground,
                                  const std::filesystem::path& programFolder)
     : QObject(&ground)
     , gate_(gate)
@@ -61,22 +60,7 @@ std::function<void()> BehaviourPanels::storeChanged() {
 }
 
 void BehaviourPanels::place(BehaviourPanel& panel) {
-    constexpr int gap = 6;
-    const QRect side(room_.side.mapTo(&ground_, QPoint(0, 0)), room_.side.size());
-    const auto topOf = [&](const QWidget& widget) {
-        return widget.mapTo(&ground_, QPoint(0, 0)).y();
-    };
-    const int bottom = topOf(room_.floor) - gap;
-    const int roof = std::max(side.top(), topOf(room_.roof)); // which may be scrolled out of sight
-    // A panel that needs more than its room reaches over what is beside it.
-    QSize wanted = panel.sizeHint();
-    if (wanted.height() > bottom) { // its scroll bar must not cover the texts
-        wanted.rwidth() += panel.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    }
-    const QSize size =
-        wanted.expandedTo({side.width(), bottom - roof}).boundedTo({side.right() + 1, bottom});
-    panel.setGeometry(side.right() + 1 - size.width(), bottom - size.height(), size.width(),
-                      size.height());
+    panel.setGeometry(placeOver(room_, ground_, panel));
 }
 
 void BehaviourPanels::panelClosed() {

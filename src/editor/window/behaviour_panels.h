@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/skin_document.h"
+#include "window/side_room.h"
 
 #include <QObject>
 #include <QPointer>
@@ -26,17 +27,9 @@ class BehaviourPanels : public QObject {
   public:
     static constexpr std::size_t count = 3;
 
-    /// The part of the window that an open panel covers: `side` from the top of `roof` down to
-    /// `floor`, which stays free.
-    struct Room {
-        QWidget& side;
-        QWidget& roof;
-        QWidget& floor;
-    };
-
     /// The panels are children of `ground`, which holds the room. The modifier catalogue is looked
     /// for in `programFolder`.
-    BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, Room room,
+    BehaviourPanels(SkinDocument& document, Prompts& prompts, WindowGate& gate, SideRoom room,
                     QWidget& ground, const std::filesystem::path& programFolder);
 
     /// Opens panel 0 modifiers, 1 timers or 2 condition for elements, the last of which
@@ -61,7 +54,7 @@ class BehaviourPanels : public QObject {
     void panelClosed();
 
     WindowGate& gate_;
-    Room room_;
+    SideRoom room_;
     QWidget& ground_;
     std::array<BehaviourPanel*, count> panels_{};
     QPointer<QWidget> focusBefore_; // gets the focus back from the open panel

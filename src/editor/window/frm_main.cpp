@@ -22,6 +22,7 @@
 #include "window/check_window.h"
 #include "window/clipboard_commands.h"
 #include "window/main_menus.h"
+#include "window/play_commands.h"
 #include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
 #include "window/selection_views.h"
@@ -71,6 +72,7 @@ FrmMain::FrmMain(Prompts& prompts, const std::filesystem::path& programFolder,
 }
 
 FrmMain::~FrmMain() {
+    playing_->end();
     fraPos_->disconnect(this);  // a field that loses the focus with the widgets enters its text
     pic_->setDocument(nullptr); // the document goes before the widgets do
 }
@@ -142,10 +144,15 @@ void FrmMain::check() {
     frmCheck_->activateWindow();
 }
 
+void FrmMain::playBy(PlayClock clock) {
+    playing_->playBy(std::move(clock));
+}
+
 void FrmMain::showFinding(const Finding& finding) {
     if (!finding.screen || !finding.elementId) {
         return;
     }
+    playing_->end();
     if (gate_->isClosed()) { // the open panel is one of the selected element
         statusBar()->showMessage(tr("Close the open panel first."));
         return;
@@ -231,6 +238,7 @@ bool FrmMain::Form_Unload() {
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {
+    playing_->end();
     event->setAccepted(Form_Unload());
     if (!event->isAccepted()) {
         return;

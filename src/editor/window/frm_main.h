@@ -32,6 +32,8 @@ class MainMenus;
 class PanelSlide;
 class Pic;
 class PictureWatch;
+class PlayCommands;
+class PlayPanel;
 class PositionPanel;
 class Prompts;
 class PropertyPanel;
@@ -45,12 +47,15 @@ class SnapChoice;
 class SkinStatus;
 class StyleChoice;
 class SurfaceRoom;
+class TimePanel;
 class ToolChoice;
 class WindowGate;
 class WindowKeys;
 class WorkHistory;
 class ZoomChoice;
 struct Finding;
+struct PlayClock;
+struct SideRoom;
 
 /// Owns the document and what is selected in it. Asks the user through `prompts`, which outlives
 /// the window, as `remembered` does.
@@ -89,6 +94,8 @@ class FrmMain : public QMainWindow {
     /// folder, and starts a run for each further one. Work that was brought back stays alone: then
     /// the first folder, too, has a run of its own, unless the work is of that folder.
     void begin(const QStringList& folders);
+    /// Where playing takes its time from, from its next start on.
+    void playBy(PlayClock clock);
     /// Keeps the work as it is now: the program is about to end.
     void keepWorkNow();
 
@@ -113,6 +120,8 @@ class FrmMain : public QMainWindow {
     void buildHistory();
     void buildStatus();
     void watchPictures();
+    void buildPlaying(const SideRoom& side, QWidget& ground,
+                      const std::filesystem::path& programFolder);
     void buildKeyboard();
     void slideIn();
     void popupMenu(QPoint globalPosition);
@@ -140,9 +149,12 @@ class FrmMain : public QMainWindow {
     Pic* pic_ = nullptr;
     SurfaceRoom* surface_ = nullptr; // the room around Pic
     QToolButton* cmdZoom_ = nullptr;
+    QToolButton* cmdPlay_ = nullptr;
     QLabel* lblPos_ = nullptr;
     QWidget* fraNote_ = nullptr;
     CreatePanel* fraCreate_ = nullptr;
+    PlayPanel* fraPlay_ = nullptr;
+    TimePanel* fraTime_ = nullptr;
     LayoutPanel* fraLayout_ = nullptr;
     ElementsPanel* fraElements_ = nullptr;
     PositionPanel* fraPos_ = nullptr;
@@ -169,6 +181,7 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<SkinDialogs> dialogs_;
     std::unique_ptr<PictureWatch> watch_;
     std::unique_ptr<RecoveryKeeper> keeper_;
+    std::unique_ptr<PlayCommands> playing_;
     std::function<bool(const QString&)> startRun_;
     bool slidIn_ = false;
 };

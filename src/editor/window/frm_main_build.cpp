@@ -5,8 +5,10 @@
 #include "panels/create_panel.h"
 #include "panels/elements_panel.h"
 #include "panels/layout_panel.h"
+#include "panels/play_panel.h"
 #include "panels/position_panel.h"
 #include "panels/property_panel.h"
+#include "panels/time_panel.h"
 #include "skinfile/version.h"
 #include "surface/hover_mark.h"
 #include "surface/locked_ground.h"
@@ -37,6 +39,7 @@
 #include "window/help_windows.h"
 #include "window/main_menus.h"
 #include "window/menu_icons.h"
+#include "window/play_commands.h"
 #include "window/recent_menu.h"
 #include "window/recovery_keeper.h"
 #include "window/selection_views.h"
@@ -110,16 +113,16 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     dialogs_ = std::make_unique<SkinDialogs>(document_, prompts_, pictures_, this);
 
     auto* centre = new QWidget;
-    auto* room = new QVBoxLayout(centre);
+    auto* content = new QVBoxLayout(centre);
     auto* columns = new WindowColumns(remembered_);
-    room->addWidget(columns);
+    content->addWidget(columns);
     QWidget* left = buildLeftSide();
     QWidget* right = buildRightSide();
     columns->setColumns(left, right, surface_);
     setCentralWidget(centre);
-    behaviourPanels_ = new BehaviourPanels(document_, prompts_, *gate_,
-                                           {.side = *right, .roof = *fraPos_, .floor = *cmdStop_},
-                                           *centre, programFolder);
+    const SideRoom room{.side = *right, .roof = *fraPos_, .floor = *cmdStop_};
+    behaviourPanels_ =
+        new BehaviourPanels(document_, prompts_, *gate_, room, *centre, programFolder);
     buildReactions();
     buildHistory();
     buildStatus();
@@ -127,6 +130,7 @@ void FrmMain::build(const std::filesystem::path& programFolder) {
     connectMenus();
     buildEditCommands();
     watchPictures();
+    buildPlaying(room, *centre, programFolder);
     buildKeyboard();
     setMenuIcons(*this);
     setControlTips(*this);
@@ -141,7 +145,7 @@ SurfaceRoom* FrmMain::buildSurface() {
     return room;
 }
 
-// Where the pointer is, and how large the screen.
+// Where the pointer is, how large the screen, and what lets it play.
 QWidget* FrmMain::buildReadout() {
     auto* readout = new QWidget;
     auto* row = new QHBoxLayout(readout);
@@ -154,7 +158,15 @@ QWidget* FrmMain::buildReadout() {
     cmdZoom_->setPopupMode(QToolButton::InstantPopup);
     cmdZoom_->setAutoRaise(true);
     cmdZoom_->setFocusPolicy(Qt::NoFocus); // its entries are in the menu "Options", too
+    cmdPlay_ = named(new QToolButton, QStringLiteral("cmdPlay"), tr("Play"));
+    cmdPlay_->setText(tr("Play"));
+    cmdPlay_->setIcon(icon(IconName::play));
+    cmdPlay_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    cmdPlay_->setToolTip(tr("Play this screen: what its elements do in time (F5)"));
+    cmdPlay_->setAutoRaise(true);
+    cmdPlay_->setFocusPolicy(Qt::NoFocus); // it is in the menu "Skin", too
     row->addWidget(lblPos_, 1);
+    row->addWidget(cmdPlay_);
     row->addWidget(cmdZoom_);
     return readout;
 }
@@ -166,6 +178,7 @@ QWidget* FrmMain::buildLeftSide() {
     surface_ = sliding(buildSurface());
 
     QWidget* readout = buildReadout();
+    fraPlay_ = new PlayPanel;
     fraCreate_ = sliding(new CreatePanel);
     auto* note = new QLabel(QLatin1String(noteText));
     note->setObjectName(QStringLiteral("fraNote"));
@@ -174,6 +187,7 @@ QWidget* FrmMain::buildLeftSide() {
 
     column->addWidget(surface_, 1);
     column->addWidget(readout);
+    column->addWidget(fraPlay_);
     column->addWidget(fraCreate_);
     column->addWidget(fraNote_);
     return side;
@@ -384,6 +398,33 @@ void FrmMain::buildEditCommands() {
             [this, hoverMark](int elementId) { hoverMark->mark(document_, elementId); });
 }
 
+void FrmMain::buildPlaying(const SideRoom& side, QWidget& ground,
+                           const std::filesystem::path& programFolder) {
+    fraTime_ = new TimePanel(&ground);
+    playing_ = std::make_unique<PlayCommands>(PlayCommands::Parts{
+        .window = *this,
+        .document = document_,
+        .surface = *pic_,
+        .room = *surface_,
+        .strip = *fraPlay_,
+        .time = *fraTime_,
+        .side = side,
+        .ground = ground,
+        .gate = *gate_,
+        .play = *menus_->mnuPlay,
+        .playSkin = *menus_->mnuPlaySkin,
+        .button = *cmdPlay_,
+        .covered = {fraCreate_, fraNote_},
+        .usable = {cmdStop_},
+        .endWork =
+            [this] {
+                slide_->finish();
+                tools_->endWork();
+            },
+        .catalogue =
+            [programFolder] { return ModifierCatalogue::read(catalogueFile(programFolder)); }});
+}
+
 // Help, and the ways around the window without a pointer. Letters come last: they need every
 // caption.
 void FrmMain::buildKeyboard() {
@@ -398,8 +439,9 @@ void FrmMain::buildKeyboard() {
         return tools_->isBusy() ? ElementWalk::Hand::drawing : ElementWalk::Hand::free;
     });
     FocusRound::Part panel = behaviourPanels_->panels();
-    panel.insert(panel.end(), {fraPos_, behaviours_, properties_, properties_->commands()});
-    new FocusRound(*this, {{pic_}, {fraElements_, fraLayout_}, panel, {fraCreate_}});
+    panel.insert(panel.end(),
+                 {fraTime_, fraPos_, behaviours_, properties_, properties_->commands()});
+    new FocusRound(*this, {{pic_}, {fraElements_, fraLayout_}, panel, {fraCreate_, fraPlay_}});
     giveWindowMnemonics(*this);
     new MnemonicKeeper(this);
 }

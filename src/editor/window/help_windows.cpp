@@ -40,7 +40,8 @@ QString chapterFor(const QWidget* widget) {
 const std::vector<QPair<QString, QString>>& HelpWindows::chapters() {
     static const std::vector<QPair<QString, QString>> table = {
         {"fraModifier(0)", "modifiers"}, {"fraModifier(1)", "timers"},
-        {"fraModifier(2)", "condition"}, {"frmDelays", "delays"},
+        {"fraModifier(2)", "condition"}, {"fraPlay", "playing"},
+        {"fraTime", "playing"},          {"frmDelays", "delays"},
         {"frmInfo", "skin-info"},        {"frmColors", "system-colors"},
         {"frmMusic", "audio-settings"},  {"frmResources", "resource-manager"},
         {"frmInstructions", "saving"},   {"frmCheck", "checking"},

@@ -24,6 +24,8 @@ struct MainMenus::Table {
         Entry{"mnuSkin", "mnuSaveAgain", "Save Again", &MainMenus::mnuSaveAgain},
         Entry{"mnuSkin", "mnuRecent", "Open Recent", &MainMenus::mnuRecent},
         Entry{"mnuSkin", "mnuCheck", "Check", &MainMenus::mnuCheck},
+        Entry{"mnuSkin", "mnuPlay", "Play", &MainMenus::mnuPlay},
+        Entry{"mnuSkin", "mnuPlaySkin", "Play Skin", &MainMenus::mnuPlaySkin},
         Entry{"mnuConfig", "mnuDelays", "Delays", &MainMenus::mnuDelays},
         Entry{"mnuConfig", "mnuInfo", "Skin Info", &MainMenus::mnuInfo},
         Entry{"mnuConfig", "mnuColors", "System Colors", &MainMenus::mnuColors},
@@ -106,7 +108,7 @@ MainMenus::MainMenus(QMainWindow& window)
     Q_ASSERT(mnuSave != nullptr && mnuLoad != nullptr && mnuCover != nullptr &&
              mnuLocked != nullptr && mnuUndo != nullptr && mnuRedo != nullptr &&
              mnuNewWindow != nullptr && mnuSaveAgain != nullptr && mnuRecent != nullptr &&
-             mnuCheck != nullptr);
+             mnuCheck != nullptr && mnuPlay != nullptr && mnuPlaySkin != nullptr);
     mnuRecent->setMenu(new QMenu(&window));
     mnuCover->setCheckable(true);
     mnuLocked->setCheckable(true);
@@ -126,6 +128,8 @@ void MainMenus::setKeys() {
     mnuDuplicate->setShortcut(Qt::CTRL | Qt::Key_D);
     mnuSelectAll->setShortcut(Qt::CTRL | Qt::Key_A);
     mnuGuide->setShortcut(Qt::Key_F1);
+    mnuPlay->setShortcut(Qt::Key_F5);
+    mnuPlaySkin->setShortcut(Qt::SHIFT | Qt::Key_F5);
 }
 
 void MainMenus::fill(QMainWindow& window, QMenu& menu) {

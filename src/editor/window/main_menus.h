@@ -24,6 +24,8 @@ class MainMenus {
     QAction* mnuSaveAgain = nullptr;
     QAction* mnuRecent = nullptr; ///< holds a menu, which is empty
     QAction* mnuCheck = nullptr;
+    QAction* mnuPlay = nullptr;
+    QAction* mnuPlaySkin = nullptr;
     QAction* mnuDelays = nullptr;
     QAction* mnuInfo = nullptr;
     QAction* mnuColors = nullptr;

@@ -23,6 +23,7 @@ constexpr std::array table = {
     EntryIcon{"mnuSave", IconName::save},
     EntryIcon{"mnuLoad", IconName::open},
     EntryIcon{"mnuCheck", IconName::warning},
+    EntryIcon{"mnuPlay", IconName::play},
     EntryIcon{"mnuInfo", IconName::note},
     EntryIcon{"mnuAudio", IconName::play},
     EntryIcon{"mnuResource", IconName::image},

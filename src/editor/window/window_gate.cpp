@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace tarvel {
 
 namespace {
@@ -23,12 +25,15 @@ WindowGate::WindowGate(QMainWindow& window)
     : QObject(&window)
     , window_(window) {}
 
-void WindowGate::disablex(const QWidget& control) {
+void WindowGate::disablex(const std::vector<const QWidget*>& controls) {
     enableAll();
     closed_ = true;
     for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
         const bool related =
-            widget == &control || control.isAncestorOf(widget) || widget->isAncestorOf(&control);
+            std::any_of(controls.begin(), controls.end(), [widget](const QWidget* control) {
+                return widget == control || control->isAncestorOf(widget) ||
+                       widget->isAncestorOf(control);
+            });
         // Those that were disabled for a reason of their own stay so afterwards.
         if (!related && !holdsUsable(*widget) && widget->isEnabled()) {
             disabled_.emplace_back(widget);

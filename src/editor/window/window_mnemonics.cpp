@@ -63,7 +63,7 @@ void giveWindowMnemonics(QMainWindow& window) {
     }
     // A panel covers the window, but for one button.
     const QList<QAbstractButton*> stop = {window.findChild<QAbstractButton*>("cmdStop")};
-    for (const char* panel : {"fraModifier(0)", "fraModifier(1)", "fraModifier(2)"}) {
+    for (const char* panel : {"fraModifier(0)", "fraModifier(1)", "fraModifier(2)", "fraPlay"}) {
         const auto* holder = window.findChild<QWidget*>(QLatin1String(panel));
         giveMnemonics(stop + holder->findChildren<QAbstractButton*>());
     }

@@ -1,0 +1,150 @@
+// Filtering the application's events for a screen that plays.
+#include "window/play_input.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QSizeGrip>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace tarvel {
+
+namespace {
+
+constexpr int tenthsPerSecond = 10;
+
+bool holds(const QWidget& holder, const QWidget& widget) {
+    return &holder == &widget || holder.isAncestorOf(&widget);
+}
+
+bool anyHolds(const std::vector<QWidget*>& holders, const QWidget& widget) {
+    return std::any_of(holders.begin(), holders.end(),
+                       [&](const QWidget* holder) { return holds(*holder, widget); });
+}
+
+// What the window or the desktop does with a key stays as it is.
+bool isOthers(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_F1:
+    case Qt::Key_F6:
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+        return true;
+    default:
+        return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) !=
+               Qt::NoModifier;
+    }
+}
+
+} // namespace
+
+PlayInput::PlayInput(const Parts& parts)
+    : parts_(parts) {
+    QApplication::instance()->installEventFilter(this);
+}
+
+PlayInput::~PlayInput() {
+    QApplication::instance()->removeEventFilter(this);
+}
+
+bool PlayInput::eventFilter(QObject* watched, QEvent* event) {
+    if (!active_) {
+        return false;
+    }
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr || widget->window() != &parts_.window) {
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        if (key(static_cast<const QKeyEvent&>(*event), false)) {
+            event->accept();
+            return true;
+        }
+        return false;
+    case QEvent::KeyPress:
+        return key(static_cast<const QKeyEvent&>(*event), true);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return press(*widget, event->type());
+    case QEvent::ContextMenu:
+        return holds(parts_.room, *widget);
+    default:
+        return false;
+    }
+}
+
+bool PlayInput::key(const QKeyEvent& event, bool pressed) {
+    if (isOthers(event)) {
+        return false;
+    }
+    if (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F5) {
+        if (pressed && !event.isAutoRepeat()) {
+            emit endWanted();
+        }
+        return true;
+    }
+    const QWidget* focus = parts_.window.focusWidget();
+    const bool isControls =
+        focus != nullptr && anyHolds(parts_.strips, *focus) && !holds(parts_.home, *focus);
+    return !isControls && playKey(event, pressed);
+}
+
+bool PlayInput::playKey(const QKeyEvent& event, bool pressed) {
+    if (!pressed) {
+        return true;
+    }
+    const int tenths = (event.modifiers() & Qt::ShiftModifier) != 0 ? tenthsPerSecond : 1;
+    switch (event.key()) {
+    case Qt::Key_Space:
+        if (!event.isAutoRepeat()) {
+            emit holdWanted();
+        }
+        break;
+    case Qt::Key_Left:
+        emit stepWanted(-tenths);
+        break;
+    case Qt::Key_Right:
+        emit stepWanted(tenths);
+        break;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        emit speedWanted(1);
+        break;
+    case Qt::Key_Minus:
+        emit speedWanted(-1);
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        emit keyPressed();
+        emit itemWanted(event.key() == Qt::Key_Up ? -1 : 1);
+        break;
+    default:
+        emit keyPressed();
+        break;
+    }
+    return true;
+}
+
+// True for a press that is to do nothing else.
+bool PlayInput::press(const QWidget& widget, QEvent::Type type) {
+    const bool isUsable = anyHolds(parts_.strips, widget) || anyHolds(parts_.usable, widget) ||
+                          qobject_cast<const QSizeGrip*>(&widget) != nullptr;
+    if (isUsable || &widget == &parts_.window) {
+        return false; // the window itself is told again of what nobody took
+    }
+    if (!holds(parts_.room, widget) && type == QEvent::MouseButtonPress) {
+        emit endWanted();
+    }
+    return true;
+}
+
+} // namespace tarvel

@@ -1,0 +1,172 @@
+// Lets time pass by the clock, and makes the frame of the moment.
+#include "window/play_session.h"
+
+#include <QDateTime>
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvel {
+
+PlayClock machineClock() {
+    QElapsedTimer timer;
+    timer.start();
+    return {.elapsed = [timer] { return PlayTime{timer.elapsed()}; },
+            .wall =
+                [] {
+                    const QDateTime now = QDateTime::currentDateTime();
+                    return WallClock{.year = now.date().year(),
+                                     .month = now.date().month(),
+                                     .day = now.date().day(),
+                                     .hour = now.time().hour(),
+                                     .minute = now.time().minute(),
+                                     .second = now.time().second()};
+                }};
+}
+
+PlaySession::PlaySession(const SkinDocument& document, PlayClock clock)
+    : document_(document)
+    , clock_(std::move(clock)) {
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    connect(&timer_, &QTimer::timeout, this, &PlaySession::tick);
+}
+
+void PlaySession::start(const SkinRun& run, ModifierCatalogue catalogue) {
+    run_ = run;
+    catalogue_ = std::move(catalogue);
+    pace_ = {};
+    choices_ = {};
+    isHeld_ = false;
+    isSuspended_ = false;
+    seen_ = clock_.elapsed();
+    beginScreen();
+}
+
+void PlaySession::end() {
+    timer_.stop();
+    frame_.reset();
+    screen_.reset();
+}
+
+// The list stays where it is from screen to screen, as far as it fits there.
+void PlaySession::beginScreen() {
+    auto screen = std::make_unique<PlayedScreen>(document_, run_.screen(), catalogue_);
+    const MenuSettings* menu = screen->menu();
+    choices_.itemsShown = menu == nullptr ? PlayChoices{}.itemsShown : itemsShownBy(*menu);
+    selectItem(choices_, choices_.list.selected);
+    choices_.clock = later(clock_.wall(), -run_.at());
+    frame_ = std::make_unique<PlayedFrame>(*screen, choices_);
+    frame_->show(run_.at(), choices_, [](const auto*, const auto*) {});
+    screen_ = std::move(screen);
+    emit screenChanged();
+    emit changed();
+    scheduleNext();
+}
+
+void PlaySession::tick() {
+    takePassed();
+    show();
+}
+
+void PlaySession::takePassed() {
+    const PlayTime now = clock_.elapsed();
+    const PlayTime passed = std::max<PlayTime>(0, now - std::exchange(seen_, now));
+    if (!isHeld_ && !isSuspended_) {
+        run_.pass(pace_.passed(passed));
+    }
+}
+
+void PlaySession::show() {
+    if (run_.screen() != screen_->screen()) {
+        beginScreen();
+        return;
+    }
+    frame_->show(run_.at(), choices_,
+                 [this](const PlayedElement* before, const PlayedElement* now) {
+                     emit elementChanged(before, now);
+                 });
+    emit changed();
+    scheduleNext();
+}
+
+// Milliseconds on the clock.
+PlayTime PlaySession::untilNext() const {
+    constexpr PlayTime wholes = 4;
+    if (frame_->isMoving()) {
+        return framePause;
+    }
+    PlayTime next = frame_->nextChange();
+    if (const auto remaining = run_.remaining()) {
+        next = std::min(next, run_.at() + *remaining);
+    }
+    if (next == never) {
+        return lookPause;
+    }
+    const PlayTime pause = std::min<PlayTime>(next - run_.at(), wholes * lookPause);
+    return std::clamp<PlayTime>(pause * wholes / pace_.quarters(), 1, lookPause);
+}
+
+void PlaySession::scheduleNext() {
+    if (isHeld_ || isSuspended_) {
+        timer_.stop();
+    } else {
+        timer_.start(static_cast<int>(untilNext()));
+    }
+}
+
+void PlaySession::toggleHold() {
+    takePassed();
+    isHeld_ = !isHeld_;
+    show();
+}
+
+void PlaySession::suspend(bool suspended) {
+    if (!isPlaying()) {
+        return; // what was dragged may let go at the end
+    }
+    takePassed();
+    isSuspended_ = suspended;
+    show();
+}
+
+void PlaySession::step(PlayTime time) {
+    takePassed();
+    run_.pass(time);
+    show();
+    emit timeSet();
+}
+
+void PlaySession::goTo(PlayTime time) {
+    takePassed();
+    run_.goTo(time);
+    show();
+    emit timeSet();
+}
+
+void PlaySession::setSpeed(int quarters) {
+    takePassed();
+    pace_.setQuarters(quarters);
+    show();
+}
+
+void PlaySession::moveItem(int step) {
+    takePassed();
+    moveList(choices_, step, screen_->menu(), run_.at());
+    show();
+}
+
+void PlaySession::force(int condition, std::optional<bool> holds) {
+    takePassed();
+    choices_.forced.at(static_cast<std::size_t>(condition)) = holds;
+    show();
+}
+
+void PlaySession::key() {
+    takePassed();
+    run_.key();
+    show();
+}
+
+} // namespace tarvel
