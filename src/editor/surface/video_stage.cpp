@@ -114,7 +114,7 @@ void VideoStage::show(const SkinDocument& document, int screen) {
 }
 
 void VideoStage::stopAllVids(const SkinDocument& document) {
-    const int screen = shown_ == noScreen ? document.currentLayout() : shown_;
+    const int screen = playing_ && shown_ != noScreen ? shown_ : document.currentLayout();
     for (auto& [id, seat] : seats_) {
         if (seat.player != nullptr && screenOf(document, id) == screen) {
             seat.player->pause();

@@ -39,9 +39,8 @@ class VideoStage : public QObject, public VideoFrames {
     /// The same for the screen that is shown already, at the next show().
     void showAnew() { shown_ = noScreen; }
 
-    /// Stops the videos of the shown screen; of the document's current one when none is shown. They
-    /// keep their last frame, and stay stopped until the screen is shown anew or their file
-    /// changes.
+    /// Stops the videos of the document's current screen, or of the one that plays. They keep their
+    /// last frame, and stay stopped until the screen is shown anew or their file changes.
     void stopAllVids(const SkinDocument& document);
 
     /// While screens play, each screen that is shown anew begins its videos from their start, and

@@ -158,7 +158,7 @@ QWidget* FrmMain::buildReadout() {
     cmdZoom_->setPopupMode(QToolButton::InstantPopup);
     cmdZoom_->setAutoRaise(true);
     cmdZoom_->setFocusPolicy(Qt::NoFocus); // its entries are in the menu "Options", too
-    cmdPlay_ = named(new QToolButton, QStringLiteral("cmdPlay"), tr("Play"));
+    cmdPlay_ = named(new QToolButton, QStringLiteral("cmdPlayScreen"), tr("Play"));
     cmdPlay_->setText(tr("Play"));
     cmdPlay_->setIcon(icon(IconName::play));
     cmdPlay_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

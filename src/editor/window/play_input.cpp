@@ -56,12 +56,12 @@ PlayInput::~PlayInput() {
 }
 
 bool PlayInput::eventFilter(QObject* watched, QEvent* event) {
-    if (!active_) {
-        return false;
-    }
-    auto* widget = qobject_cast<QWidget*>(watched);
+    auto* widget = active_ || endedByPress_ ? qobject_cast<QWidget*>(watched) : nullptr;
     if (widget == nullptr || widget->window() != &parts_.window) {
         return false;
+    }
+    if (!active_) {
+        return afterEnd(*event);
     }
     switch (event->type()) {
     case QEvent::ShortcutOverride:
@@ -74,9 +74,29 @@ bool PlayInput::eventFilter(QObject* watched, QEvent* event) {
         return key(static_cast<const QKeyEvent&>(*event), true);
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return press(*widget, event->type());
+        return mouse(static_cast<const QMouseEvent&>(*event));
     case QEvent::ContextMenu:
-        return holds(parts_.room, *widget);
+        return !anyHolds(parts_.strips, *widget);
+    default:
+        return false;
+    }
+}
+
+// A press that ended the playing does nothing else, and neither does what follows from it.
+bool PlayInput::afterEnd(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+        endedByPress_ = false; // the button came up elsewhere
+        return false;
+    case QEvent::MouseButtonRelease:
+        // Some platforms ask for a menu only now.
+        QMetaObject::invokeMethod(
+            this, [this] { endedByPress_ = false; }, Qt::QueuedConnection);
+        return true;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::ContextMenu:
+        return true;
     default:
         return false;
     }
@@ -134,14 +154,19 @@ bool PlayInput::playKey(const QKeyEvent& event, bool pressed) {
     return true;
 }
 
-// True for a press that is to do nothing else.
-bool PlayInput::press(const QWidget& widget, QEvent::Type type) {
-    const bool isUsable = anyHolds(parts_.strips, widget) || anyHolds(parts_.usable, widget) ||
-                          qobject_cast<const QSizeGrip*>(&widget) != nullptr;
-    if (isUsable || &widget == &parts_.window) {
-        return false; // the window itself is told again of what nobody took
+// True for a press that is to do nothing else. It counts where the pointer is: what nobody takes is
+// told to one widget after the other.
+bool PlayInput::mouse(const QMouseEvent& event) {
+    const QWidget& window = parts_.window;
+    const QPoint point = window.mapFromGlobal(event.globalPosition().toPoint());
+    const QWidget* child = window.childAt(point);
+    const QWidget& at = child == nullptr ? window : *child;
+    if (anyHolds(parts_.strips, at) || anyHolds(parts_.usable, at) ||
+        qobject_cast<const QSizeGrip*>(&at) != nullptr) {
+        return false;
     }
-    if (!holds(parts_.room, widget) && type == QEvent::MouseButtonPress) {
+    if (!holds(parts_.room, at) && event.type() == QEvent::MouseButtonPress) {
+        endedByPress_ = true;
         emit endWanted();
     }
     return true;

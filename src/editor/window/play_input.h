@@ -53,10 +53,12 @@ class PlayInput : public QObject {
   private:
     bool key(const QKeyEvent& event, bool pressed);
     bool playKey(const QKeyEvent& event, bool pressed);
-    bool press(const QWidget& widget, QEvent::Type type);
+    bool mouse(const QMouseEvent& event);
+    bool afterEnd(const QEvent& event);
 
     Parts parts_;
     bool active_ = false;
+    bool endedByPress_ = false; // and the button is still down
 };
 
 } // namespace tarvel

@@ -22,12 +22,13 @@ struct Letter {
 // Chosen by hand: the menu bar has S, C, B, O, E, A and H, and there are hardly as many others as
 // buttons. A letter stands twice where the buttons are never seen together.
 constexpr std::array letters = {
-    Letter{"optBox", 'x'},          Letter{"optLine", 'L'},        Letter{"optImg", 'I'},
-    Letter{"optText", 'T'},         Letter{"optQor", 'Q'},         Letter{"cmdModifier(0)", 'M'},
-    Letter{"cmdModifier(1)", 'r'},  Letter{"cmdModifier(2)", 'd'}, Letter{"cmdApply", 'p'},
-    Letter{"cmdStop", 'V'},         Letter{"cmdClearL", 'n'},      Letter{"cmdClearF", 'f'},
-    Letter{"cmdFont", 'F'},         Letter{"cmdAddRes", 'u'},      Letter{"chkThumbVis", 'u'},
-    Letter{"chkSmoothScroll", 'n'}, Letter{"chkSelGlow", 'G'},     Letter{"chkShowDesc", 'w'}};
+    Letter{"optBox", 'x'},         Letter{"optLine", 'L'},         Letter{"optImg", 'I'},
+    Letter{"optText", 'T'},        Letter{"optQor", 'Q'},          Letter{"cmdModifier(0)", 'M'},
+    Letter{"cmdModifier(1)", 'r'}, Letter{"cmdModifier(2)", 'd'},  Letter{"cmdApply", 'p'},
+    Letter{"cmdStop", 'V'},        Letter{"cmdPlayScreen", 'y'},         Letter{"cmdClearL", 'n'},
+    Letter{"cmdClearF", 'f'},      Letter{"cmdFont", 'F'},         Letter{"cmdAddRes", 'u'},
+    Letter{"chkThumbVis", 'u'},    Letter{"chkSmoothScroll", 'n'}, Letter{"chkSelGlow", 'G'},
+    Letter{"chkShowDesc", 'w'}};
 
 // The first one of that letter in the caption, which has it in this letter case.
 void giveLetter(QAbstractButton& button, char letter) {

@@ -120,11 +120,11 @@ void MnemonicsWindowTest::recentFolders() {
 void MnemonicsWindowTest::mainWindow_data() {
     QTest::addColumn<QString>("tool");
     QTest::addColumn<int>("buttons"); // with those that are always there
-    QTest::newRow("box") << "optBox" << 12;
-    QTest::newRow("line") << "optLine" << 11;
-    QTest::newRow("image") << "optImg" << 11;
-    QTest::newRow("text") << "optText" << 11;
-    QTest::newRow("menu") << "optQor" << 14;
+    QTest::newRow("box") << "optBox" << 13;
+    QTest::newRow("line") << "optLine" << 12;
+    QTest::newRow("image") << "optImg" << 12;
+    QTest::newRow("text") << "optText" << 12;
+    QTest::newRow("menu") << "optQor" << 15;
 }
 
 void MnemonicsWindowTest::mainWindow() {

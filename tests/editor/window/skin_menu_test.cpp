@@ -113,7 +113,8 @@ void SkinMenuTest::entriesInTheirOrder() {
     }
     QCOMPARE(entries,
              QStringList({"Save\tCtrl+Shift+S", "Load\tCtrl+O", "View XML (for testing only)\t",
-                          "New Window\tCtrl+N", "Save Again\tCtrl+S", "Open Recent\t", "Check\t"}));
+                          "New Window\tCtrl+N", "Save Again\tCtrl+S", "Open Recent\t", "Check\t",
+                          "Play\tF5", "Play Skin\tShift+F5"}));
 }
 
 void SkinMenuTest::saveAgainSavesToTheFolderOfTheLastSave() {
