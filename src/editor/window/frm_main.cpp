@@ -46,6 +46,8 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include <utility>
+
 namespace tarvel {
 
 namespace {
@@ -276,8 +278,7 @@ void FrmMain::keepWorkNow() {
 
 void FrmMain::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
-    if (!slidIn_) {
-        slidIn_ = true;
+    if (!std::exchange(wasShown_, true)) {
         // Once the window has its size, and with it the panels their places.
         QTimer::singleShot(0, this, &FrmMain::slideIn);
         pic_->setFocus(Qt::OtherFocusReason);

@@ -183,7 +183,8 @@ class FrmMain : public QMainWindow {
     std::unique_ptr<RecoveryKeeper> keeper_;
     std::unique_ptr<PlayCommands> playing_;
     std::function<bool(const QString&)> startRun_;
-    bool slidIn_ = false;
+    bool wasShown_ = false;
+    bool hasSlidIn_ = false;
 };
 
 } // namespace tarvel

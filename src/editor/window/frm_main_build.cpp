@@ -69,6 +69,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 namespace tarvel {
 
@@ -418,6 +419,7 @@ void FrmMain::buildPlaying(const SideRoom& side, QWidget& ground,
         .usable = {cmdStop_},
         .endWork =
             [this] {
+                slideIn();
                 slide_->finish();
                 tools_->endWork();
             },
@@ -455,6 +457,9 @@ void FrmMain::watchPictures() {
 }
 
 void FrmMain::slideIn() {
+    if (std::exchange(hasSlidIn_, true)) {
+        return;
+    }
     for (QWidget* panel : std::initializer_list<QWidget*>{surface_, fraNote_, fraCreate_}) {
         slide_->movetoX(panel, true);
     }
