@@ -74,6 +74,19 @@ void OpenFile::write(const char* data, std::size_t size) const {
     }
 }
 
+void OpenFile::writeAt(std::uint64_t place, const char* data, std::size_t size) const {
+    while (size > 0) {
+        const auto written = uninterrupted(
+            [=, this] { return ::pwrite(number(), data, size, static_cast<off_t>(place)); });
+        if (written < 0) {
+            fail();
+        }
+        place += static_cast<std::uint64_t>(written);
+        data += written;
+        size -= static_cast<std::size_t>(written);
+    }
+}
+
 std::size_t OpenFile::read(char* data, std::size_t size) const {
     const auto got = uninterrupted([=, this] { return ::read(number(), data, size); });
     if (got < 0) {

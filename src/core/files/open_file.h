@@ -65,6 +65,8 @@ class OpenFile {
     [[noreturn]] void fail() const;
 
     void write(const char* data, std::size_t size) const;
+    /// Over what stands at a place, in bytes from the beginning; write() goes on where it was.
+    void writeAt(std::uint64_t place, const char* data, std::size_t size) const;
     /// 0 at the end of the file.
     std::size_t read(char* data, std::size_t size) const;
     /// The same from a place of its own, in bytes from the beginning.
