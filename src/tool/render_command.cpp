@@ -1,23 +1,25 @@
-// Paints one screen to a PNG file for `render`, by the painting code of the editor's surface.
+// Carries out `render`: reads the skin, and writes its screens as a picture or an animation.
 #include "document/layout_screens.h"
+#include "document/modifier_catalogue.h"
 #include "files/host_files.h"
+#include "files/replacement.h"
 #include "skinfile/skin_reader.h"
 #include "surface/picture_cache.h"
-#include "surface/surface_painter.h"
-#include "surface/video_stage.h"
 #include "text/text_case.h"
+#include "tool/animation_file.h"
+#include "tool/render_options.h"
+#include "tool/screen_picture.h"
+#include "tool/screen_sheet.h"
 #include "tool/skin_commands.h"
 
 #include <QBuffer>
-#include <QDeadlineTimer>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QTimer>
 
 #include <cerrno>
 #include <cstdio>
+#include <functional>
 #include <stdexcept>
 #include <string_view>
 
@@ -25,27 +27,13 @@ namespace tarvel::tool {
 
 namespace {
 
-// Lets the videos of the screen come to their first frame, or to a word why there is none.
-void awaitVideos(const VideoStage& stage, const SkinDocument& document) {
-    constexpr int longestMs = 5000;
-    const QDeadlineTimer deadline(longestMs);
-    QTimer wake; // so that the wait ends even when no event comes
-    wake.start(50);
-    while (!stage.isSettled(document) && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-}
+/// What is drawn at a time.
+using Drawing = std::function<QImage(PlayTime)>;
 
-QImage screenImage(const SkinDocument& document, int screen) {
-    PictureCache pictures;
-    VideoStage videos;
-    videos.show(document, screen);
-    awaitVideos(videos, document);
-    SurfacePainter painter(pictures);
-    painter.setVideoFrames(&videos);
+QImage screenImage(ScreenPicture& screen, PlayTime time) {
     QImage image(skinWidth, skinHeight, QImage::Format_RGB32);
-    QPainter target(&image);
-    painter.paint(target, document, screen, QRectF(0, 0, skinWidth, skinHeight));
+    QPainter painter(&image);
+    screen.paint(painter, time);
     return image;
 }
 
@@ -56,15 +44,54 @@ std::string pngBytes(const QImage& image) {
     return buffer.data().toStdString();
 }
 
-// Replaces a picture, through links to it, but never a device or a pipe.
-void writePicture(std::filesystem::path file, std::string_view bytes) {
-    if (std::filesystem::exists(file)) {
-        file = std::filesystem::canonical(file);
-        if (!std::filesystem::is_regular_file(file)) {
-            throw FileError(std::filesystem::is_directory(file) ? EISDIR : EINVAL, file);
-        }
+// A picture is replaced through links to it, but never a device or a pipe.
+std::filesystem::path placeOf(const std::filesystem::path& file) {
+    if (!std::filesystem::exists(file)) {
+        return file;
     }
-    writeFile(file, bytes);
+    auto place = std::filesystem::canonical(file);
+    if (!std::filesystem::is_regular_file(place)) {
+        throw FileError(std::filesystem::is_directory(place) ? EISDIR : EINVAL, place);
+    }
+    return place;
+}
+
+void writeAnimation(const RenderOptions& options, const Drawing& drawing) {
+    Replacement replacement(placeOf(options.out));
+    const Moments& moments = options.moments;
+    QImage frame = drawing(moments.at(0));
+    const auto animation = options.format == PictureFormat::gif
+                               ? gifAnimation(replacement.file(), frame.size())
+                               : webpAnimation(replacement.file(), frame.size());
+    for (std::size_t i = 0; i < moments.count; ++i) {
+        animation->add(i == 0 ? frame : drawing(moments.at(i)), moments.until(i));
+    }
+    animation->finish();
+    replacement.takePlace();
+}
+
+void write(const RenderOptions& options, const Drawing& drawing) {
+    if (options.format == PictureFormat::png) {
+        const std::string bytes = pngBytes(drawing(options.moments.at(0)));
+        writeFile(placeOf(options.out), bytes);
+    } else {
+        writeAnimation(options, drawing);
+    }
+}
+
+void draw(const SkinDocument& document, const RenderOptions& options, int screen) {
+    ModifierCatalogue catalogue;
+    if (options.isPlayed) {
+        catalogue = ModifierCatalogue::read(catalogueFile(programFolder()));
+    }
+    PictureCache pictures;
+    if (options.screen) {
+        ScreenPicture picture(document, screen, pictures, catalogue, options);
+        write(options, [&](PlayTime time) { return screenImage(picture, time); });
+    } else {
+        ScreenSheet sheet(document, pictures, catalogue, options);
+        write(options, [&](PlayTime time) { return sheet.at(time); });
+    }
 }
 
 // What Qt and its plugins note about the machine is not for those who read a command's errors.
@@ -74,23 +101,8 @@ void passOnlyFatal(QtMsgType type, const QMessageLogContext& /*context*/, const 
     }
 }
 
-} // namespace
-
-ExitCode render(const std::filesystem::path& folder, const std::string& screen,
-                const std::filesystem::path& png, Output output) {
-    const int number = getLayoutNum(lowerCased(screen));
-    if (!equalsIgnoringCase(layoutScreens[static_cast<std::size_t>(number)].caption, screen)) {
-        complain(output, "there is no screen \"" + screen + "\"");
-        return unreadable;
-    }
-    SkinDocument document;
-    try {
-        readSkin(document, folder);
-    } catch (const SkinReadError& error) {
-        complain(output, error.what());
-        return unreadable;
-    }
-    document.setCurrentLayout(number);
+ExitCode drawInApplication(const SkinDocument& document, const RenderOptions& options, int screen,
+                           Output output) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen"); // a picture needs no display
     }
@@ -100,12 +112,32 @@ ExitCode render(const std::filesystem::path& folder, const std::string& screen,
     char* argv = name.data();
     const QGuiApplication application(argc, &argv);
     try {
-        writePicture(png, pngBytes(screenImage(document, number)));
+        draw(document, options, screen);
     } catch (const std::runtime_error& error) {
         complain(output, error.what());
         return findings;
     }
     return done;
+}
+
+} // namespace
+
+ExitCode render(const RenderOptions& options, Output output) {
+    const std::string screen = options.screen.value_or(std::string(layoutScreens.front().caption));
+    const int number = getLayoutNum(lowerCased(screen));
+    if (!equalsIgnoringCase(layoutScreens.at(static_cast<std::size_t>(number)).caption, screen)) {
+        complain(output, "there is no screen \"" + screen + "\"");
+        return unreadable;
+    }
+    SkinDocument document;
+    try {
+        readSkin(document, options.folder);
+    } catch (const SkinReadError& error) {
+        complain(output, error.what());
+        return unreadable;
+    }
+    document.setCurrentLayout(number);
+    return drawInApplication(document, options, number, output);
 }
 
 } // namespace tarvel::tool

@@ -8,6 +8,8 @@
 
 namespace tarvel::tool {
 
+struct RenderOptions;
+
 /// Exit codes of all commands.
 enum ExitCode : int {
     done = 0,
@@ -30,10 +32,10 @@ ExitCode resave(const std::filesystem::path& in, const std::filesystem::path& ou
 /// Prints one line for each finding.
 ExitCode check(const std::filesystem::path& folder, Output output);
 
-/// Draws one screen, named in any letter case, as the editor's surface shows it, videos by their
-/// first frame. Makes a QGuiApplication of its own, so it runs once in a process.
-ExitCode render(const std::filesystem::path& folder, const std::string& screen,
-                const std::filesystem::path& png, Output output);
+/// Draws screens as the editor's surface shows them, at rest or while they play, as a picture or an
+/// animation. A screen is named in any letter case. Nothing is written unless all of it can be.
+/// Makes a QGuiApplication of its own, so it runs once in a process.
+ExitCode render(const RenderOptions& options, Output output);
 
 /// Runs what the arguments (without the program's name) ask for.
 ExitCode run(const std::vector<std::string>& arguments, Output output);

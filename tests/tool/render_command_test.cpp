@@ -1,9 +1,9 @@
 // render, run as a program: it makes an application object of its own.
 #include "files/host_files.h"
+#include "support/render_program.h"
 #include "support/temporary_folder.h"
 
 #include <QImage>
-#include <QProcess>
 #include <gtest/gtest.h>
 
 #include <set>
@@ -18,36 +18,6 @@ namespace fs = std::filesystem;
 
 const fs::path examples = TARVEL_EXAMPLES_DIR;
 
-struct Result {
-    int code = -1;
-    std::string err;
-};
-
-Result render(const fs::path& skin, const std::string& screen, const fs::path& png) {
-    QProcess program;
-    program.start(QStringLiteral(TARVEL_SKIN_PROGRAM),
-                  {QStringLiteral("render"), QString::fromStdString(skin.string()),
-                   QString::fromStdString(screen), QString::fromStdString(png.string())});
-    if (!program.waitForFinished(60'000) || program.exitStatus() != QProcess::NormalExit) {
-        ADD_FAILURE() << program.errorString().toStdString();
-        return {};
-    }
-    EXPECT_EQ(program.readAllStandardOutput().toStdString(), "");
-    return {program.exitCode(), program.readAllStandardError().toStdString()};
-}
-
-QImage imageOf(const fs::path& png) {
-    return QImage(QString::fromStdString(png.string()), "PNG");
-}
-
-QImage renderedImage(const fs::path& skin, const std::string& screen) {
-    const TemporaryFolder folder;
-    const Result result = render(skin, screen, folder / "out.png");
-    EXPECT_EQ(result.code, 0) << screen;
-    EXPECT_EQ(result.err, "") << screen;
-    return imageOf(folder / "out.png").convertToFormat(QImage::Format_RGB32);
-}
-
 std::set<QRgb> colorsOf(const QImage& image) {
     std::set<QRgb> colors;
     for (int y = 0; y < image.height(); ++y) {
@@ -58,18 +28,8 @@ std::set<QRgb> colorsOf(const QImage& image) {
     return colors;
 }
 
-fs::path skinOf(const TemporaryFolder& folder, const std::string& body) {
-    folder.file("skin/QOR_Skin.xml", "<Skin name='Nova'>" + body + "</Skin>");
-    return folder / "skin";
-}
-
 constexpr auto red = "<Layout Screen='Load'><LayoutElement Type='Box'><Color>0xFFFF0000</Color>"
                      "<Pos L='100' T='50' W='200' H='100'/></LayoutElement></Layout>";
-
-void expectFailure(const Result& result, int code, const std::string& line) {
-    EXPECT_EQ(result.code, code);
-    EXPECT_EQ(result.err, "tarvel-skin: " + line + '\n');
-}
 
 } // namespace
 
@@ -162,7 +122,7 @@ TEST(Render, ToWhereNothingCanBeWritten) {
     EXPECT_EQ(readFile(file), "kept");
     const fs::path inPlace = folder.folder("out.png");
     expectFailure(render(skin, "Load", inPlace), 1, "Is a directory: " + inPlace.string());
-    const fs::path pipe = folder / "pipe";
+    const fs::path pipe = folder / "pipe.png";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
     expectFailure(render(skin, "Load", pipe), 1, "Invalid argument: " + pipe.string());
     EXPECT_TRUE(fs::is_fifo(pipe));
@@ -175,7 +135,7 @@ TEST(Render, IntoAFolderWithoutWritePermissionKeepsTheOlderPicture) {
     const TemporaryFolder folder;
     const fs::path png = folder.file("out/out.png", "kept");
     fs::permissions(folder / "out", fs::perms::owner_read | fs::perms::owner_exec);
-    const Result result = render(skinOf(folder, red), "Load", png);
+    const Rendered result = render(skinOf(folder, red), "Load", png);
     fs::permissions(folder / "out", fs::perms::owner_all);
     expectFailure(result, 1, "Permission denied: " + png.string());
     EXPECT_EQ(readFile(png), "kept");

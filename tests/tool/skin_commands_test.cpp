@@ -22,7 +22,7 @@ const fs::path handmade = fs::path(TARVEL_EXAMPLES_DIR) / "handmade";
 
 constexpr auto usage = "usage: tarvel-skin resave IN OUT\n"
                        "       tarvel-skin check FOLDER\n"
-                       "       tarvel-skin render FOLDER SCREEN OUT.png\n"
+                       "       tarvel-skin render FOLDER SCREEN|--all OUT [OPTION]...\n"
                        "       tarvel-skin --help | --version\n";
 
 struct Result {
@@ -65,8 +65,10 @@ TEST(SkinCommands, HelpGivesTheUsageTheScreensAndTheExitCodes) {
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.err, "");
     EXPECT_TRUE(result.out.starts_with(usage));
-    for (const auto* part : {"resave  ", "check   ", "render  ", "Title", "Menu", "Load", "Saver",
-                             "JukeBox", "FileManager", "Exit codes: 0 "}) {
+    for (const auto* part :
+         {"resave  ", "check   ", "render  ", "Title", "Menu", "Load", "Saver", "JukeBox",
+          "FileManager", "Exit codes: 0 ", "--all ", "--at ", "--from ", "--to ", "--fps ",
+          "--select ", "--condition ", "20:15:00 on 15 March 2026"}) {
         EXPECT_NE(result.out.find(part), std::string::npos) << part;
     }
 }
@@ -92,7 +94,10 @@ TEST(SkinCommands, WrongArgumentsGiveTheUsageAndExitCodeTwo) {
         {"resave", aurora.string()},
         {"resave", aurora.string(), "out", "more"},
         {"render", aurora.string(), "Menu"},
-        {"render", aurora.string(), "Menu", "out.png", "more"}};
+        {"render", aurora.string(), "Menu", "out.png", "more"},
+        {"render", "--all", aurora.string()},
+        {"render", "--all", aurora.string(), "Menu", "out.png", "more"},
+        {"render", aurora.string(), "Menu", "--at", "1"}};
     for (const auto& arguments : wrong) {
         const Result result = runWith(arguments);
         EXPECT_EQ(result.code, 2) << testing::PrintToString(arguments);
