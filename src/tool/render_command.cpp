@@ -56,8 +56,16 @@ std::filesystem::path placeOf(const std::filesystem::path& file) {
     return place;
 }
 
+// An animation takes long enough to be broken off: what that left goes with the next one.
+void removeBrokenOff(const std::filesystem::path& place) {
+    const auto folder = place.parent_path();
+    removeLeftovers(folder.empty() ? "." : folder);
+}
+
 void writeAnimation(const RenderOptions& options, const Drawing& drawing) {
-    Replacement replacement(placeOf(options.out));
+    const std::filesystem::path place = placeOf(options.out);
+    removeBrokenOff(place);
+    Replacement replacement(place);
     const Moments& moments = options.moments;
     QImage frame = drawing(moments.at(0));
     const auto animation = options.format == PictureFormat::gif

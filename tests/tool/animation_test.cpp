@@ -279,6 +279,14 @@ TEST(RenderAnimation, ReplacesTheOlderFileOnlyWhenItIsWhole) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "kept"), fs::directory_iterator{}), 1);
 }
 
+TEST(RenderAnimation, TakesAwayWhatOneThatWasBrokenOffHasLeft) {
+    const TemporaryFolder folder;
+    folder.file(".tarvel-123-1", "half");
+    EXPECT_EQ(render(examples / "aurora", "Title", folder / "a.webp", {"--to", "0.1"}).code, 0);
+    EXPECT_FALSE(fs::exists(folder / ".tarvel-123-1"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator{}), 1);
+}
+
 TEST(RenderAnimation, ToWhereNothingCanBeWritten) {
     const TemporaryFolder folder;
     for (const Format& format : {webp, gif}) {
