@@ -68,7 +68,11 @@ QRectF elementBounds(const Element& element) {
 
 QRectF elementBounds(const PlayedElement& played) {
     const QRectF bounds = elementBounds(played.element);
-    return played.scale == 1 || bounds.isEmpty() ? bounds : scaling(played).mapRect(bounds);
+    if (played.scale == 1 || bounds.isEmpty()) {
+        return bounds;
+    }
+    constexpr double smoothing = 2; // which no scale makes narrower
+    return scaling(played).mapRect(bounds).adjusted(-smoothing, -smoothing, smoothing, smoothing);
 }
 
 SurfacePainter::SurfacePainter(PictureCache& pictures)

@@ -140,8 +140,9 @@ void PlayedPaintingTest::everyKindScales() {
     Played larger(
         {withModifier(element, "<Modifier Type='Pulse'><Range X='200' Y='200'/></Modifier>")});
     const QRect after = shownPart(larger.at(0));
-    QVERIFY(after.width() > before.width() * 1.8 && after.width() < before.width() * 2.2);
-    QVERIFY(after.height() > before.height() * 1.8 && after.height() < before.height() * 2.2);
+    constexpr int smoothing = 4; // pixels at the edges
+    QVERIFY(std::abs(after.width() - 2 * before.width()) <= smoothing);
+    QVERIFY(std::abs(after.height() - 2 * before.height()) <= smoothing);
 }
 
 void PlayedPaintingTest::travels() {
@@ -280,7 +281,8 @@ void PlayedPaintingTest::listsOfAnySizeArePainted() {
             paintPlayedList(painter, QRectF({0, 0}, size), settings,
                             {.selected = 8, .first = 3.5, .glow = 0.5});
             painter.end();
-            QVERIFY(QRectF({0, 0}, size).toAlignedRect().contains(shownPart(image)));
+            const QRect part = shownPart(image);
+            QVERIFY(part.isEmpty() || QRectF({0, 0}, size).toAlignedRect().contains(part));
         }
     }
 }
