@@ -23,15 +23,26 @@ struct Speed {
 constexpr std::array speeds = {Speed{1, "1/4"}, Speed{2, "1/2"}, Speed{4, "1"}, Speed{8, "2"},
                                Speed{16, "4"}};
 
+// Six stand in a row beside a screen of its own size: without the room that others have at their
+// sides.
+class ConditionButton : public QToolButton {
+  public:
+    [[nodiscard]] QSize sizeHint() const override {
+        constexpr int sides = 6;
+        return QToolButton::sizeHint() - QSize(sides, 0);
+    }
+};
+
 // Mouse users keep the keys for the screen that plays; Tab still comes here.
 template <class Control> Control* withoutClickFocus(Control* control) {
     control->setFocusPolicy(Qt::TabFocus);
     return control;
 }
 
-QToolButton* button(const char* name, const QString& caption, const QString& accessible,
-                    const QString& tip) {
-    auto* made = withoutClickFocus(named(new QToolButton, QLatin1String(name), accessible));
+template <class Button = QToolButton>
+Button* button(const QString& name, const QString& caption, const QString& accessible,
+               const QString& tip) {
+    auto* made = withoutClickFocus(named(new Button, name, accessible));
     made->setText(caption);
     made->setToolTip(tip);
     return made;
@@ -71,16 +82,17 @@ QWidget* PlayPanel::makeTransport() {
     auto* row = new QWidget;
     auto* layout = new WrapLayout(WrapLayout::Fill::none, row);
     layout->setContentsMargins(0, 0, 0, 0);
-    cmdHold_ = button("cmdHold", tr("Hold"), tr("Hold the time"), tr("Hold the time (Space)"));
+    cmdHold_ = button(QStringLiteral("cmdHold"), tr("Hold"), tr("Hold the time"),
+                      tr("Hold the time (Space)"));
     cmdHold_->setCheckable(true);
     cmdHold_->setIcon(icon(IconName::hold));
     cmdHold_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(cmdHold_, &QToolButton::clicked, this, [this] { emit holdClicked(); });
-    auto* back = button("cmdStepBack", {}, tr("Back by a tenth of a second"),
+    auto* back = button(QStringLiteral("cmdStepBack"), {}, tr("Back by a tenth of a second"),
                         tr("Back by a tenth of a second (Left; with Shift a second)"));
     back->setIcon(icon(IconName::stepBack));
     connect(back, &QToolButton::clicked, this, [this] { emit stepped(-1); });
-    auto* on = button("cmdStepOn", {}, tr("On by a tenth of a second"),
+    auto* on = button(QStringLiteral("cmdStepOn"), {}, tr("On by a tenth of a second"),
                       tr("On by a tenth of a second (Right; with Shift a second)"));
     on->setIcon(icon(IconName::stepOn));
     connect(on, &QToolButton::clicked, this, [this] { emit stepped(1); });
@@ -93,14 +105,17 @@ QWidget* PlayPanel::makeTransport() {
     cboSpeed_->setToolTip(tr("How quick the time is (Plus and Minus)"));
     connect(cboSpeed_, &QComboBox::activated, this,
             [this] { emit speedChosen(cboSpeed_->currentData().toInt()); });
-    auto* end = button("cmdEndPlay", tr("End"), tr("End playing"), tr("End playing (Escape, F5)"));
+    auto* end = button(QStringLiteral("cmdEndPlay"), tr("End"), tr("End playing"),
+                       tr("End playing (Escape, F5)"));
     end->setIcon(icon(IconName::stop));
     end->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(end, &QToolButton::clicked, this, &PlayPanel::endClicked);
-    lblTime_ = named(new TickLabel(QStringLiteral("000:00.0 min")), QStringLiteral("lblTime"),
-                     tr("Time of the screen"));
-    lblRun_ = named(new TickLabel(tr("Menu: saver in 000:00.0 min")), QStringLiteral("lblRun"),
-                    tr("The screen that plays"));
+    lblTime_ = new TickLabel(QStringLiteral("000:00.0 min"));
+    lblTime_->setObjectName(QStringLiteral("lblTime"));
+    lblTime_->setAccessibleDescription(tr("Time of the screen")); // its text is its name
+    lblRun_ = new TickLabel(tr("Menu: saver in 000:00.0 min"));
+    lblRun_->setObjectName(QStringLiteral("lblRun"));
+    lblRun_->setAccessibleDescription(tr("The screen that plays"));
     layout->addTogether({cmdHold_, back, on});
     layout->addTogether({caption, cboSpeed_});
     layout->addWidget(end);
@@ -113,7 +128,7 @@ QWidget* PlayPanel::makeConditions() {
     auto* row = new QWidget;
     auto* layout = new WrapLayout(WrapLayout::Fill::none, row);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(2); // six in a row beside a screen of its own size
+    layout->setSpacing(2);
     for (int i = 1; i < static_cast<int>(conditionRows.size()); ++i) {
         layout->addWidget(makeCondition(i));
     }
@@ -124,14 +139,13 @@ QToolButton* PlayPanel::makeCondition(int row) {
     const auto index = static_cast<std::size_t>(row);
     const ConditionRow& condition = conditionRows.at(index);
     const QString name = qtText(condition.text).trimmed();
-    QToolButton* made =
-        button("", name, name,
-               tr("%1.\nA click forces it on, another one off, and a third leaves it to the list.")
-                   .arg(qtText(condition.description)));
-    made->setObjectName(QStringLiteral("cmdCondition(%1)").arg(row));
+    auto* made = button<ConditionButton>(
+        QStringLiteral("cmdCondition(%1)").arg(row), name, name,
+        tr("%1.\nA click forces it on, another one off, and a third leaves it to the list.")
+            .arg(qtText(condition.description)));
     made->setCheckable(true);
     made->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    made->setAutoRaise(true); // six stand in a row
+    made->setAutoRaise(true);
     connect(made, &QToolButton::clicked, this, [this, index, row] {
         showCondition(index); // which a click has turned over
         emit conditionClicked(row);

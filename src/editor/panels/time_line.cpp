@@ -22,6 +22,7 @@ constexpr PlayTime second = 1000;
 constexpr PlayTime numbered = 5 * second;
 constexpr int mostLabelWidth = 130;
 constexpr int labelShare = 4; // labels take at most this part of the width
+constexpr int leastWidth = 160;
 constexpr int gap = 6;
 constexpr int barInset = 3; // above and below a bar
 constexpr int rowsAtMost = 12;
@@ -93,11 +94,11 @@ QRect TimeLine::rowRect(int row) const {
 
 QSize TimeLine::sizeHint() const {
     const int rows = std::clamp(count_, rowsAtLeast, rowsAtMost);
-    return {360, rulerHeight() + rows * rowHeight() + 2 * frameWidth() + 2};
+    return {leastWidth, rulerHeight() + rows * rowHeight() + 2 * frameWidth() + 2};
 }
 
 QSize TimeLine::minimumSizeHint() const {
-    return {160, rulerHeight() + rowsAtLeast * rowHeight() + 2 * frameWidth() + 2};
+    return {leastWidth, rulerHeight() + rowsAtLeast * rowHeight() + 2 * frameWidth() + 2};
 }
 
 void TimeLine::showRange() {

@@ -1,42 +1,28 @@
-// Draws the text where it stands.
+// A fixed size keeps a label from asking for another one.
 #include "widgets/tick_label.h"
 
 #include <QEvent>
 #include <QFontMetrics>
-#include <QPainter>
 
 namespace tarvel {
 
 TickLabel::TickLabel(const QString& sample, QWidget* parent)
-    : QWidget(parent)
+    : QLabel(parent)
     , sample_(sample) {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setTextFormat(Qt::PlainText);
+    takeSize();
 }
 
-void TickLabel::setText(const QString& text) {
-    if (text != text_) {
-        text_ = text;
-        update();
-    }
-}
-
-QSize TickLabel::sizeHint() const {
+void TickLabel::takeSize() {
     const QFontMetrics metrics(font());
-    return {metrics.horizontalAdvance(sample_) + 2, metrics.height()};
-}
-
-void TickLabel::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
-    const QString fitting = fontMetrics().elidedText(text_, Qt::ElideRight, width());
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, fitting);
+    setFixedSize(metrics.horizontalAdvance(sample_) + 2, metrics.height());
 }
 
 void TickLabel::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        updateGeometry();
+        takeSize();
     }
-    QWidget::changeEvent(event);
+    QLabel::changeEvent(event);
 }
 
 } // namespace tarvel

@@ -1,9 +1,9 @@
 // Nothing in the main window is cut, overlaps or lies outside, at all sizes and fonts.
-#include "support/behaviour_editor.h"
-#include "support/editor.h"
 #include "support/layout_support.h"
 #include "support/menu_support.h"
+#include "support/play_editor.h"
 #include "support/ui_test.h"
+#include "text/xml_parse.h"
 
 #include <QApplication>
 #include <QScrollArea>
@@ -65,7 +65,11 @@ void LayoutTest::nothingIsCutOrOverprinted() {
     QFETCH(const QSize, display);
     QFETCH(const int, points);
     const FontOf font(points);
-    BehaviourEditor editor(1);
+    PlayEditor editor;
+    editor.add(boxAt(20, 20, 100, 50));
+    Element wobbling = boxAt(20, 20, 100, 50);
+    wobbling.elementModifiers = SharedValue(parseXml("<Modifier Type='Wobble'/>"));
+    editor.add(wobbling);
     QMainWindow& window = editor.window;
     const QSize room = clientOf(display);
     window.resize(room);
@@ -97,6 +101,10 @@ void LayoutTest::nothingIsCutOrOverprinted() {
         QVERIFY2(across->maximum() == 0, qPrintable(QString("panel %1").arg(panel)));
         editor.ok(panel);
     }
+    QVERIFY(editor.play());
+    QVERIFY(!editor.find<QWidget>("lblNotShown")->isHidden());
+    isRight = look("playing") && isRight;
+    editor.playKey(Qt::Key_Escape);
     QVERIFY(isRight);
     // The panels end where the column does, those beside each other as one.
     const auto* screens = editor.find<QWidget>("fraLayout");

@@ -1,6 +1,7 @@
 // Every menu, dialog and panel: a letter for each entry and each button, and none twice.
 #include "dialogs/frm_instructions.h"
 #include "support/behaviour_editor.h"
+#include "support/play_editor.h"
 #include "support/ui_test.h"
 #include "widgets/copy_progress.h"
 #include "widgets/mnemonics.h"
@@ -77,6 +78,7 @@ class MnemonicsWindowTest : public QObject {
     void mainWindow_data();
     void mainWindow();
     void panels();
+    void playing();
     void dialogs_data();
     void dialogs();
     void furtherWindows();
@@ -154,6 +156,19 @@ void MnemonicsWindowTest::panels() {
         QCOMPARE(wrongLetters(captions).join(u'\n'), QString());
         editor.ok(index);
     }
+}
+
+void MnemonicsWindowTest::playing() {
+    PlayEditor editor;
+    QVERIFY(editor.play());
+    QStringList captions = {editor.at<QPushButton>("cmdStop").text()};
+    for (const auto* button : editor.strip().findChildren<QAbstractButton*>()) {
+        if (!button->text().isEmpty()) { // those with an icon alone have their keys
+            captions << button->text();
+        }
+    }
+    QCOMPARE(captions.size(), 9);
+    QCOMPARE(wrongLetters(captions).join(u'\n'), QString());
 }
 
 void MnemonicsWindowTest::dialogs_data() {
