@@ -172,7 +172,7 @@ def _aurora_settings(skin):
         ("MadeUsing", "Tarvel 5.0"),
     )
     skin.group("Music", ("PlayGlobal", "On"), ("PlayRandom", "Off"))
-    skin.group("Delays", ("Title", 3000), ("Load", 1500), ("Saver", 300000))
+    skin.group("Delays", ("Title", 3000), ("Load", 1500), ("Saver", 20000))
     skin.group(
         "MessageBox",
         ("BoxColor", "0xFF0A2340"),
@@ -225,9 +225,10 @@ def _panel(skin, left, top, width, height, heading):
 
 def _aurora_title(skin):
     skin.image("bground", 0, 0, 640, 480)
-    skin.image("BigTitle", 110, 62, 420, 130, modifier=("Fade", "Picture", reach(0, 100)))
+    skin.image("BigTitle", 110, 62, 420, 130, modifier=("Fade", "Picture", reach(40, 100)))
     skin.across(170, 200, 470, 200, RULE)
-    skin.box(170, 212, 300, 184, PANEL, EDGE, 55, modifier=("Slide", "Position", bounds(170, 480, 470, 664)))
+    night = channels((False, 0, 255, 1000), (False, 0, 255, 1000), (True, 20, 70, 4000), (True, 40, 110, 6000))
+    skin.box(170, 212, 300, 184, PANEL, EDGE, 55, modifier=("Tint", None, *night))
     skin.menu(180, 220, 280, 168, 3, ITEMS, timers=(800,))
     skin.box(254, 420, 132, 26, "0E3A55", TEAL, 75, timers=(1500, 900, 450))
     skin.text("Press START to begin", 267, 426, 116, 14, BRIGHT, timers=(1500, 900, 450))
@@ -237,7 +238,7 @@ def _aurora_title(skin):
 def _aurora_menu(skin):
     skin.background()
     skin.box(28, 24, 584, 56, PANEL, EDGE, 68)
-    glow = channels((False, 0, 255, 1000), (True, 120, 255, 2400), (True, 200, 255, 1800), (False, 0, 255, 1000))
+    glow = channels((True, 140, 255, 2400), (True, 120, 255, 2400), (True, 200, 255, 1800), (False, 0, 255, 1000))
     skin.image("Logo", 40, 30, 236, 44, modifier=("Glow", "Picture", *glow))
     skin.text("CurrentSubMenu", 300, 45, 150, 14, MILD, source=True)
     skin.across(468, 34, 468, 70, RULE)
@@ -262,12 +263,12 @@ def _aurora_menu(skin):
     skin.text("CGDescr", 476, 254, 124, 28, MILD, source=True)
     skin.across(476, 290, 600, 290, RULE)
     skin.image("GameIcon", 474, 298, 44, 44)
-    skin.text("Ready to play", 528, 304, 76, 14, TEAL)
+    skin.text("Disc tray", 528, 304, 76, 14, TEAL)
     skin.text("TrayState", 528, 321, 76, 14, MILD, source=True)
     skin.across(476, 350, 600, 350, RULE)
     skin.text("CurrentSong", 476, 357, 124, 14, BRIGHT, source=True)
     skin.box(476, 378, 124, 8, "0E3550", EDGE, 80)
-    skin.box(477, 379, 78, 6, TEAL, opacity=85, modifier=("Pulse", "Width", reach(20, 78)))
+    skin.box(477, 379, 52, 6, TEAL, opacity=85, modifier=("Slide", "Position", bounds(477, 379, 599, 385)))
 
     skin.box(28, 412, 584, 40, PANEL, EDGE, 68)
     for left, icon, source in ((42, "Disk", "DriveEFree"), (166, "Chip", "TempCPU"), (282, "Network", "IP")):
@@ -293,37 +294,76 @@ def _aurora_load(skin):
 def _aurora_saver(skin):
     skin.box(0, 0, 640, 480, "02060F")
     skin.image("Lights", 160, 90, 320, 240, modifier=("Wander", "Position", bounds(32, 24, 608, 456)))
-    skin.box(159, 89, 322, 242, border=RULE)
+    skin.box(159, 89, 322, 242, border=RULE, modifier=("Slide", "Position", bounds(31, 23, 609, 457)))
     skin.across(160, 346, 480, 346, RULE)
     skin.text("Time", 160, 354, 100, 14, BRIGHT, source=True)
     skin.text("Date", 380, 354, 100, 14, MILD, source=True)
-    skin.text("Good night", 292, 354, 70, 14, TEAL, 70, timers=(60000, 5000, 5000, 600000))
+    skin.text("Good night", 292, 354, 70, 14, TEAL, 70, timers=(4000, 3000, 2000, 60000))
 
 
 def _aurora_jukebox(skin):
+    """Everything that plays is on this screen."""
     skin.image("bground", 0, 0, 640, 480)
-    _panel(skin, 28, 60, 264, 340, "NOW PLAYING")
-    skin.image("Record", 44, 104, 96, 96)
-    skin.box(43, 103, 98, 98, border=TEAL)
-    skin.text("CurrentSong", 156, 110, 124, 14, BRIGHT, source=True)
-    skin.text("CurrentSoundtrack", 156, 130, 124, 14, MILD, source=True)
-    skin.text("Side A", 156, 184, 124, 14, GOLD)
-    skin.across(44, 214, 276, 214, RULE)
-    bars = (34, 58, 46, 90, 120, 104, 76, 132, 112, 88, 60, 96, 70, 48, 30, 18)
-    for i, height in enumerate(bars):
-        color = ("5A7BFF", "3FA0E8", "2FC5D8", "7CFFB8")[i % 16 // 4]
-        pulse = ("Pulse", "Height", reach(8, height))
-        skin.box(46 + i * 15, 376 - height, 10, height, color, opacity=75, timers=(i * 40,), modifier=pulse)
-    skin.across(44, 378, 276, 378, RULE)
+    skin.box(28, 24, 584, 44, PANEL, EDGE, 68)
+    shine = channels((True, 130, 255, 1600), (True, 60, 255, 2400), (False, 0, 255, 1000), (False, 0, 255, 1000))
+    skin.text("J U K E B O X", 44, 39, 96, 14, TEAL, modifier=("Glow", "Letters", *shine))
+    skin.text("CurrentSoundtrack", 160, 39, 150, 14, MILD, source=True)
+    skin.across(446, 32, 446, 60, RULE)
+    skin.image("Clock", 460, 38, 16, 16)
+    skin.text("DateTime", 486, 39, 120, 14, BRIGHT, source=True)
+    _jukebox_record(skin)
+    _jukebox_list(skin)
 
-    _panel(skin, 304, 60, 308, 340, "SOUNDTRACKS")
-    skin.menu(314, 94, 288, 173, 5, ITEMS, description=False)
-    skin.across(316, 276, 600, 276, RULE)
-    skin.image("Violet", 316, 286, 136, 102)
-    skin.box(315, 285, 138, 104, border=EDGE)
-    skin.text("Songs of the long night, for piano & wind", 466, 290, 134, 42, MILD)
-    skin.image("Up", 470, 372, 18, 12, condition="ItemPrev")
-    skin.image("Down", 498, 372, 18, 12, condition="ItemNext ")
+    skin.box(28, 408, 584, 40, PANEL, EDGE, 68)
+    skin.image("Lock", 42, 418, 20, 20, condition="ItemPassCode")
+    skin.text("Passcode needed", 68, 421, 110, 14, GOLD, condition="ItemPassCode")
+    skin.text("Open to all", 196, 421, 80, 14, MILD, condition="ItemNoPassCode")
+    skin.text("Opens a folder", 288, 421, 96, 14, MILD, condition="ItemSubMenu")
+    skin.text("Press A to play", 396, 421, 96, 14, TEAL, condition="ItemEntry", timers=(0, 1200, 400))
+    skin.across(510, 416, 510, 440, RULE)
+    skin.image("Chip", 524, 420, 16, 16)
+    skin.text("TempCPU", 548, 421, 60, 14, BRIGHT, source=True)
+
+
+def _jukebox_record(skin):
+    """Timers of every sort, and modifiers of each."""
+    _panel(skin, 28, 80, 284, 316, "NOW PLAYING")
+    skin.box(286, 89, 10, 10, TEAL, opacity=90, timers=(1500, 600, 400))
+    skin.image("Record", 44, 120, 96, 96, modifier=("Wobble", None))
+    rim = channels((False, 0, 255, 1000), (False, 0, 255, 1000), (True, 110, 240, 2400), (True, 110, 255, 1700))
+    skin.box(43, 119, 98, 98, border=TEAL, modifier=("Tint", "Border", *rim))
+    skin.text("CurrentSong", 156, 120, 140, 14, BRIGHT, source=True)
+    skin.text("Needle down …", 156, 140, 140, 14, MILD, timers=(0, 0, 0, 1500))
+    skin.text("Playing", 156, 160, 140, 14, TEAL, timers=(1500,))
+    skin.text("Side A", 156, 180, 140, 14, GOLD, modifier=("Fade", "Letters", reach(35, 100)))
+    skin.text("Turn the record over", 156, 200, 140, 14, GOLD, timers=(9000, 800, 400, 12000))
+    skin.across(44, 230, 296, 230, RULE)
+    bars = (22, 38, 30, 62, 84, 70, 52, 90, 78, 60, 42, 68, 50, 34, 22, 14)
+    for i, height in enumerate(bars):
+        color = ("5A7BFF", "3FA0E8", "2FC5D8", "7CFFB8")[i // 4]
+        pulse = ("Pulse", "Height", reach(*((45, 100), (100, 60), (75, 100), (100, 40))[i % 4]))
+        skin.box(45 + i * 16, 282 - height // 2, 10, height, color, opacity=75, timers=(i * 250,), modifier=pulse)
+    skin.across(44, 334, 296, 334, RULE)
+    skin.box(44, 346, 252, 8, "0E3550", EDGE, 80)
+    skin.box(45, 347, 40, 6, TEAL, opacity=85, modifier=("Slide", "Position", bounds(45, 347, 295, 353)))
+    skin.text("Time", 44, 368, 60, 14, BRIGHT, source=True)
+    skin.text("Date", 236, 368, 60, 14, MILD, source=True)
+
+
+def _jukebox_list(skin):
+    """A list with glow and smooth scrolling, what goes with it, and a video."""
+    _panel(skin, 324, 80, 288, 316, "SOUNDTRACKS")
+    skin.image("Up", 556, 88, 18, 12, condition="ItemPrev")
+    skin.image("Down", 584, 88, 18, 12, condition="ItemNext ")
+    skin.menu(334, 112, 268, 160, 5, ITEMS, description=False)
+    skin.across(336, 280, 600, 280, RULE)
+    skin.image("Lights", 336, 291, 124, 93)
+    skin.box(335, 290, 126, 95, border=TEAL)
+    skin.text("CGTitle", 474, 293, 128, 14, BRIGHT, source=True)
+    skin.text("CGDescr", 474, 311, 128, 14, MILD, source=True)
+    line = channels((False, 0, 255, 1000), (True, 20, 127, 3000), (True, 80, 240, 3000), (False, 0, 255, 1000))
+    skin.across(474, 334, 600, 334, RULE, modifier=("Tint", None, *line))
+    skin.image("Violet", 474, 342, 126, 44, modifier=("Fade", "Picture", reach(30, 100)))
 
 
 def _aurora_files(skin):

@@ -240,7 +240,7 @@ TEST(Check, OfTheExampleAsTarvelWritesItASaveChangesTheBackground) {
     const Result result = runWith({"check", aurora.string()});
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(result.err, "");
-    EXPECT_EQ(linesOf(result.out), (Lines{"A save changes QOR_Skin.xml from line 165 on"}));
+    EXPECT_EQ(linesOf(result.out), (Lines{"A save changes QOR_Skin.xml from line 168 on"}));
 }
 
 TEST(Check, TheExampleMadeByHand) {
