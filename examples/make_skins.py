@@ -72,20 +72,20 @@ class SkinText:
         self.tag("Color", f"0xFF{color}")
         self._end(None, **tail)
 
-    def menu(self, left, top, width, height, items, colors, glow=True, description=True, **tail):
-        """Colours: selected title and description, other titles and descriptions."""
+    def menu(self, left, top, width, height, items, colors, about="Right", description=True, **tail):
+        """Colours: selected title and description, other titles and descriptions; about: where these stand."""
         self.line('<LayoutElement Type="Menu" Source="QOR">')
         self.line('<Thumbnails Align="Left">True</Thumbnails>')
         self.group('Primary Source="Title"', ("OffsetY", 0), ("JustifyX", "Left"))
-        self.group('Secondary Source="Descr"', ("OffsetY", 0), ("JustifyX", "Right"))
-        for name, first, (title, about) in (
-            ("Selection", [("DoGlow", glow)], colors[:2]),
+        self.group('Secondary Source="Descr"', ("OffsetY", 0), ("JustifyX", about))
+        for name, first, (title, descr) in (
+            ("Selection", [("DoGlow", True)], colors[:2]),
             ("UnSelItem", [], colors[2:]),
         ):
             self.line(f"<{name}>")
             for value in [*first, ("TextColor", f"0xFF{title}")]:
                 self.tag(*value)
-            self.group("Secondary", ("TextColor", f"0xFF{about}"))
+            self.group("Secondary", ("TextColor", f"0xFF{descr}"))
             self.line(f"</{name}>")
         for value in (("NumItems", items), ("SelPos", 0), ("ScrollFactor", 3)):
             self.tag(*value)
@@ -229,7 +229,7 @@ def _aurora_title(skin):
     skin.across(170, 200, 470, 200, RULE)
     night = channels((False, 0, 255, 1000), (False, 0, 255, 1000), (True, 20, 70, 4000), (True, 40, 110, 6000))
     skin.box(170, 212, 300, 184, PANEL, EDGE, 55, modifier=("Tint", None, *night))
-    skin.menu(180, 220, 280, 168, 3, ITEMS, timers=(800,))
+    skin.menu(180, 220, 280, 168, 3, ITEMS, about="Left", timers=(800,))
     skin.box(254, 420, 132, 26, "0E3A55", TEAL, 75, timers=(1500, 900, 450))
     skin.text("Press START to begin", 267, 426, 116, 14, BRIGHT, timers=(1500, 900, 450))
     skin.text("QORVersion", 560, 448, 70, 14, MILD, 80, source=True)
@@ -249,7 +249,7 @@ def _aurora_menu(skin):
     _panel(skin, 28, 92, 424, 308, "GAMES & APPLICATIONS")
     skin.image("Up", 396, 100, 18, 12, condition="ItemPrev")
     skin.image("Down", 424, 100, 18, 12, condition="ItemNext ")
-    skin.menu(40, 126, 400, 240, 5, ITEMS)
+    skin.menu(40, 126, 400, 240, 5, ITEMS, about="Left")
     skin.across(40, 372, 440, 372, RULE)
     skin.image("Lock", 40, 376, 20, 20, condition="ItemPassCode")
     skin.text("Passcode needed", 66, 379, 120, 14, GOLD, condition="ItemPassCode")
