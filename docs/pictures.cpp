@@ -1,6 +1,7 @@
 // Makes the pictures of the documents: the windows of the editor with an example open, each in
 // light and dark.
 #include "dialogs/frm_instructions.h"
+#include "document/layout_screens.h"
 #include "panels/behaviour_panel.h"
 #include "surface/surface_room.h"
 #include "widgets/qt_prompts.h"
@@ -8,18 +9,22 @@
 #include "widgets/shown_path.h"
 #include "widgets/style/palettes.h"
 #include "window/frm_main.h"
+#include "window/play_session.h"
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 #include <cstdio>
 #include <initializer_list>
@@ -51,6 +56,9 @@ class Studio {
         : out_(out)
         , skin_(wish.skin) {
         window_.resize(wish.size.isEmpty() ? window_.sizeHint() : wish.size);
+        window_.playBy(
+            {.elapsed = [this] { return played_; },
+             .wall = [] { return WallClock{.year = 2026, .month = 12, .day = 24, .hour = 20}; }});
         window_.show();
         wait(800); // the panels slide in
         take(QStringLiteral("start"), window_);
@@ -61,6 +69,7 @@ class Studio {
     void takeAll() {
         select({{rowOf("Menu"), rowOf("Menu")}});
         take("main-window", window_);
+        takePlaying();
         takeSelections();
         takePanels();
         takeDialogs();
@@ -262,6 +271,54 @@ class Studio {
         entry("mnuSafeArea").trigger();
     }
 
+    void press(int key) {
+        QWidget* focus = window_.focusWidget();
+        QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(focus == nullptr ? &window_ : focus, &down);
+        wait(150); // whatever looks at the time does so
+    }
+
+    // Goes to an item of the list, and on to a time in milliseconds.
+    void playTo(int item, PlayTime time) {
+        for (int i = 0; i < item; ++i) {
+            press(Qt::Key_Down);
+        }
+        played_ += time;
+        wait(300);
+    }
+
+    void takePlaying() {
+        constexpr PlayTime moment = 3600;
+        constexpr int lockedItem = 7;
+        entry("mnuPlay").trigger();
+        playTo(lockedItem, moment);
+        take(QStringLiteral("playing"), window_);
+        press(Qt::Key_Escape);
+
+        constexpr PlayTime allTimers = 9050;
+        constexpr int itemAmidOthers = 6;
+        constexpr int jukeBoxScreen = 4;
+        constexpr int firstWithTimers = 11;
+        window_.document().setCurrentLayout(jukeBoxScreen);
+        wait(900);
+        entry("mnuPlay").trigger();
+        at<QToolButton>("cmdCondition(4)").click();
+        QScrollBar& rows = *at<QAbstractScrollArea>("timeLine").verticalScrollBar();
+        rows.setValue(firstWithTimers * rows.singleStep());
+        playTo(itemAmidOthers, allTimers);
+        take(QStringLiteral("playing-timers"), window_);
+        press(Qt::Key_F5);
+
+        constexpr PlayTime inTitle = 2600;
+        entry("mnuPlaySkin").trigger();
+        playTo(0, inTitle);
+        take(QStringLiteral("play-skin"), window_);
+        press(Qt::Key_Escape);
+        window_.document().setCurrentLayout(menuScreen);
+        wait(900);
+    }
+
+    PlayTime played_ = 0; // what the clock of playing shows
     QDir out_;
     QString skin_; // its folder
     QTemporaryDir folder_;

@@ -22,7 +22,9 @@ std::vector<KeyGroup> keysOfTheWindow() {
              {{"Ctrl+N", "New Window", "mnuNewWindow"},
               {"Ctrl+O", "Load a skin in addition to what is open", "mnuLoad"},
               {"Ctrl+S", "Save Again into the same folder", "mnuSaveAgain"},
-              {"Ctrl+Shift+S", "Save into a folder to be chosen", "mnuSave"}}},
+              {"Ctrl+Shift+S", "Save into a folder to be chosen", "mnuSave"},
+              {"F5", "Play the screen that is shown", "mnuPlay"},
+              {"Shift+F5", "Play Skin from its start", "mnuPlaySkin"}}},
             {"Edit",
              {{"Ctrl+Z", "Undo", "mnuUndo"},
               {"Ctrl+Shift+Z or Ctrl+Y", "Redo", "mnuRedo"},
@@ -41,6 +43,19 @@ std::vector<KeyGroup> keysOfTheWindow() {
                {}}}}};
 }
 
+KeyGroup keysOfPlaying() {
+    return {"While a screen plays",
+            {{"Escape or F5", "ends it", {}},
+             {"Space", "holds the time, or lets it go on", {}},
+             {"Left and Right", "a tenth of a second back and on", {}},
+             {"Shift+Left and Shift+Right", "a second back and on", {}},
+             {"Up and Down", "the item before and the next one in the list of games", {}},
+             {"+ or =", "twice as quick", {}},
+             {"-", "half as quick", {}},
+             {"Tab", "the controls of the strip below the screen", {}},
+             {"Any other key", "is one of the console: puts the saver off, or ends it", {}}}};
+}
+
 std::vector<KeyGroup> keysOfItsParts() {
     return {{"Surface",
              {{"Enter", "with a tool chosen: an element in the middle of the screen", {}},
@@ -56,6 +71,7 @@ std::vector<KeyGroup> keysOfItsParts() {
             {"Tools",
              {{"Space", "chooses a tool, or lets it go", {}},
               {"Shift+Space", "keeps a tool for several elements", {}}}},
+            keysOfPlaying(),
             {"Lists",
              {{"Up and Down", "the row before and the next one", {}},
               {"Home and End", "the first and the last row", {}},
