@@ -59,6 +59,13 @@ bool glows(const Element& element) {
     return element.elementKind == ElementKind::Menu && element.menuSettings->glowSelected;
 }
 
+// Pictures, videos and lists have no colour of their own to swing.
+bool showsNothing(const Motion& motion, ElementKind kind) {
+    const bool isColorless = kind == ElementKind::Image || kind == ElementKind::Menu;
+    return isColorless && motion.preview == ModifierPreview::color &&
+           !motion.channels.front().Enable;
+}
+
 // What the dashboard fills in, in place of the field's name.
 std::string filledIn(const std::string& field, PlayTime time, const PlayChoices& choices) {
     const ListItem* item = choices.list.selected < sampleItems.size()
@@ -110,7 +117,7 @@ void PlayedScreen::read(int row, const ModifierCatalogue& catalogue) {
     by.motions = motionsOf(*element.elementModifiers, catalogue);
     by.isMoving = moves(by.motions) || glows(element);
     for (const Motion& motion : by.motions) {
-        if (motion.preview == ModifierPreview::still) {
+        if (motion.preview == ModifierPreview::still || showsNothing(motion, element.elementKind)) {
             still_.push_back({motion.type, document_.rowText(screen_, row)});
         }
     }

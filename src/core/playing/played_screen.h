@@ -91,7 +91,7 @@ class PlayedScreen {
     /// The menu in front, whose list the conditions go by; nullptr on a screen without one.
     [[nodiscard]] const MenuSettings* menu() const;
 
-    /// Elements whose modifiers are not shown, by their rows from the back: the type, and the text
+    /// Elements whose modifiers show nothing, by their rows from the back: the type, and the text
     /// of the row.
     struct Still {
         std::string type;

@@ -3,6 +3,7 @@
 
 #include "widgets/control_names.h"
 #include "widgets/drop_down.h"
+#include "widgets/elided_label.h"
 #include "widgets/icons.h"
 #include "widgets/qt_text.h"
 #include "widgets/tick_label.h"
@@ -70,11 +71,9 @@ PlayPanel::PlayPanel(QWidget* parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(makeTransport());
     column->addWidget(makeConditions());
-    lblNotShown_ = new QLabel;
+    // Its line stays free for it: the screen is not to jump from one to the next.
+    lblNotShown_ = new ElidedLabel(Qt::ElideRight);
     lblNotShown_->setObjectName(QStringLiteral("lblNotShown"));
-    lblNotShown_->setWordWrap(true);
-    lblNotShown_->setTextFormat(Qt::PlainText);
-    lblNotShown_->hide();
     column->addWidget(lblNotShown_);
 }
 
@@ -191,8 +190,7 @@ void PlayPanel::setConditions(const Conditions& conditions) {
 
 void PlayPanel::setNotShown(const QString& text, const QString& all) {
     lblNotShown_->setText(text);
-    lblNotShown_->setToolTip(all);
-    lblNotShown_->setVisible(!text.isEmpty());
+    lblNotShown_->setToolTip(plainToolTip(all));
 }
 
 } // namespace tarvel

@@ -10,15 +10,15 @@
 #include <optional>
 
 class QComboBox;
-class QLabel;
 class QToolButton;
 
 namespace tarvel {
 
+class ElidedLabel;
 class TickLabel;
 
-/// Shows what it is told, and tells what the user wants. What the conditions are is shown by ticks
-/// and crosses; one that is forced is pressed in.
+/// Shows what it is told, and tells what the user wants. A condition that holds has a
+/// filled mark, one that does not a hollow one, and one that is forced is pressed in.
 class PlayPanel : public QWidget {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ class PlayPanel : public QWidget {
 
     TickLabel* lblTime_ = nullptr;
     TickLabel* lblRun_ = nullptr;
-    QLabel* lblNotShown_ = nullptr;
+    ElidedLabel* lblNotShown_ = nullptr;
     QToolButton* cmdHold_ = nullptr;
     QComboBox* cboSpeed_ = nullptr;
     std::array<QToolButton*, conditionRows.size()> cmdCondition_{}; // the first is none

@@ -20,8 +20,8 @@ namespace {
 
 constexpr PlayTime second = 1000;
 constexpr PlayTime numbered = 5 * second;
-constexpr int mostLabelWidth = 130;
-constexpr int labelShare = 4; // labels take at most this part of the width
+constexpr int mostLabelWidth = 200;
+constexpr int labelShare = 3; // labels take at most this part of the width
 constexpr int leastWidth = 160;
 constexpr int gap = 6;
 constexpr int barInset = 3; // above and below a bar

@@ -1,6 +1,7 @@
 // Rows of the same height, each with its picture, its title and its description.
 #include "surface/played_list_painting.h"
 
+#include "text/text_case.h"
 #include "text/value_encodings.h"
 #include "widgets/qt_text.h"
 #include "widgets/skin_fonts.h"
@@ -47,10 +48,10 @@ QColor colorOf(const std::string& number) {
 }
 
 Qt::Alignment alignmentOf(const std::string& word) {
-    if (word == "right") {
+    if (equalsIgnoringCase(word, "right")) {
         return Qt::AlignRight;
     }
-    return word == "center" ? Qt::AlignHCenter : Qt::AlignLeft;
+    return equalsIgnoringCase(word, "center") ? Qt::AlignHCenter : Qt::AlignLeft;
 }
 
 void paintLine(QPainter& painter, const QRectF& place, std::string_view text, double pixels,

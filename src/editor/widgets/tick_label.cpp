@@ -2,7 +2,6 @@
 #include "widgets/tick_label.h"
 
 #include <QEvent>
-#include <QFontMetrics>
 
 namespace tarvel {
 
@@ -14,8 +13,9 @@ TickLabel::TickLabel(const QString& sample, QWidget* parent)
 }
 
 void TickLabel::takeSize() {
-    const QFontMetrics metrics(font());
-    setFixedSize(metrics.horizontalAdvance(sample_) + 2, metrics.height());
+    QLabel sample(sample_);
+    sample.setFont(font());
+    setFixedSize(sample.sizeHint());
 }
 
 void TickLabel::changeEvent(QEvent* event) {

@@ -25,7 +25,7 @@ constexpr std::array letters = {
     Letter{"optBox", 'x'},         Letter{"optLine", 'L'},         Letter{"optImg", 'I'},
     Letter{"optText", 'T'},        Letter{"optQor", 'Q'},          Letter{"cmdModifier(0)", 'M'},
     Letter{"cmdModifier(1)", 'r'}, Letter{"cmdModifier(2)", 'd'},  Letter{"cmdApply", 'p'},
-    Letter{"cmdStop", 'V'},        Letter{"cmdPlayScreen", 'y'},         Letter{"cmdClearL", 'n'},
+    Letter{"cmdStop", 'V'},        Letter{"cmdPlayScreen", 'y'},   Letter{"cmdClearL", 'n'},
     Letter{"cmdClearF", 'f'},      Letter{"cmdFont", 'F'},         Letter{"cmdAddRes", 'u'},
     Letter{"chkThumbVis", 'u'},    Letter{"chkSmoothScroll", 'n'}, Letter{"chkSelGlow", 'G'},
     Letter{"chkShowDesc", 'w'}};

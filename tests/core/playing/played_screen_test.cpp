@@ -189,6 +189,25 @@ TEST(PlayedScreen, SaysWhatStaysStill) {
     EXPECT_EQ(wobbling.at(300)->element.elementControl, box().elementControl);
 }
 
+TEST(PlayedScreen, SaysWhereColorsHaveNothingToColor) {
+    const auto tint = [](bool alpha) {
+        return std::string("<Modifier Type='Tint'><Alpha Enable='") + (alpha ? "True" : "False") +
+               "' Min='0' Max='9' Period='9'/><Red Enable='True' Min='0' Max='255' "
+               "Period='1000'/><Green/><Blue/></Modifier>";
+    };
+    using enum ElementKind;
+    for (const ElementKind kind : {Box, Line, Image, Text, Menu}) {
+        for (const bool alpha : {false, true}) {
+            Element element = box();
+            element.elementKind = kind;
+            const bool shows = alpha || (kind != Image && kind != Menu);
+            const Played played(withModifier(element, tint(alpha)));
+            EXPECT_EQ(played.screen().still().empty(), shows)
+                << static_cast<int>(kind) << (alpha ? " with" : " without");
+        }
+    }
+}
+
 TEST(PlayedScreen, LeavesTheDocumentAsItIs) {
     const Played played(
         withModifier(box(), "<Modifier Type='Fade'><Range X='0' Y='100'/></Modifier>"));

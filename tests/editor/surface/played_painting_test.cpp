@@ -239,7 +239,7 @@ void PlayedPaintingTest::listsFollowTheirSettings() {
     } else if (setting == "showDescription") {
         changed.showDescription = false;
     } else if (setting == "titleAlignment") {
-        changed.titleAlignment = "right";
+        changed.titleAlignment = "Right"; // in any letter case
     } else if (setting == "titleCentered") {
         changed.titleAlignment = "center";
     } else if (setting == "descriptionAlignment") {
