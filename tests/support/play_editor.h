@@ -63,7 +63,8 @@ class PlayEditor : public BehaviourEditor {
     /// Its colour at a skin pixel.
     QColor colorAt(int x, int y) {
         const QPointF point = at<Pic>("Pic").mapping().toWidget(QPointF(x + 0.5, y + 0.5));
-        return picture().pixelColor(point.toPoint());
+        const QImage image = picture();
+        return image.pixelColor((point * image.devicePixelRatio()).toPoint());
     }
     bool shows(int x, int y) { return colorAt(x, y) != QColor(Qt::black); }
 

@@ -109,7 +109,9 @@ void PlayingTest::framesAreThoseOfTheMoment() {
     const auto expected = [&](PlayTime time) {
         PlayedFrame frame(screen, choices);
         frame.show(time, choices, [](const auto*, const auto*) {});
-        QImage image(editor.pic()->size(), QImage::Format_RGB32);
+        const double ratio = editor.pic()->devicePixelRatioF();
+        QImage image(editor.pic()->size() * ratio, QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
         image.fill(Qt::black);
         QPainter target(&image);
         target.setTransform(editor.at<Pic>("Pic").mapping().toWidget());
@@ -474,8 +476,9 @@ void PlayingTest::theTimeLineShowsTheTimers() {
     const auto bars = [&](int row) {
         QString marks; // in the middle of each five seconds
         for (PlayTime time = 2500; time < TimeLine::length; time += 5000) {
+            const QPoint place(line.placeOf(time), line.rowRect(row).center().y());
             const QColor color =
-                image.pixelColor(QPoint(line.placeOf(time), line.rowRect(row).center().y()));
+                image.pixelColor((QPointF(place) * image.devicePixelRatio()).toPoint());
             marks += color == line.palette().color(QPalette::Highlight) ? 'x' : '.';
         }
         return marks;
