@@ -22,7 +22,7 @@ namespace tarvel {
 namespace {
 
 // More separate rectangles than this are painted as their common one.
-constexpr int largestCount = 8;
+constexpr std::size_t largestCount = 8;
 // So are those that fill at least one part in so many of it: what lies between them costs less
 // than another pass over all elements.
 constexpr int fewestParts = 2;
@@ -193,9 +193,27 @@ void Pic::hideOverlays() {
 void Pic::playedChanged(const PlayedElement* before, const PlayedElement* now) {
     for (const PlayedElement* played : {before, now}) {
         if (played != nullptr) {
-            repaintRect(tarvel::elementBounds(*played));
+            repaintOnce(pixelsOf(tarvel::elementBounds(*played)));
         }
     }
+}
+
+// A frame may change every element, and to add each of a thousand places to those that wait for
+// their painting takes longer than to paint them.
+void Pic::repaintOnce(const QRect& pixels) {
+    const auto holdsIt = [&](const QRect& place) { return place.contains(pixels); };
+    if (pixels.isEmpty() || std::any_of(waiting_.begin(), waiting_.end(), holdsIt)) {
+        return;
+    }
+    waiting_.push_back(pixels);
+    if (waiting_.size() > largestCount) {
+        QRect common;
+        for (const QRect& place : std::exchange(waiting_, {})) {
+            common |= place;
+        }
+        waiting_.push_back(common);
+    }
+    update(waiting_.back());
 }
 
 void Pic::stopAllVids() {
@@ -213,6 +231,7 @@ QSize Pic::sizeHint() const {
 }
 
 void Pic::paintEvent(QPaintEvent* event) {
+    waiting_.clear();
     QPainter painter(this);
     if (document_ == nullptr) {
         painter.fillRect(event->rect(), Qt::black);
@@ -235,7 +254,7 @@ void Pic::paintRegion(QPainter& painter, const QRegion& region) {
     const auto paint = [&](const QRect& part) {
         painter_.paint(painter, *document_, shownScreen(), mapping_.toSkin(part), view());
     };
-    const bool asOne = region.rectCount() > largestCount || lieTogether(region);
+    const bool asOne = std::cmp_greater(region.rectCount(), largestCount) || lieTogether(region);
     if (asOne) {
         paint(region.boundingRect());
     } else {
@@ -330,13 +349,17 @@ void Pic::repaintDamage(const Damage& damage) {
 }
 
 void Pic::repaintRect(const QRectF& rect) {
+    update(pixelsOf(rect));
+}
+
+QRect Pic::pixelsOf(const QRectF& rect) const {
     const QRectF visible = rect & QRectF(0, 0, skinWidth, skinHeight);
-    if (!visible.isEmpty()) {
-        // Edges between pixels of the window are drawn on the nearest ones.
-        const int margin = mapping_.scale() < 1 ? 1 : 0;
-        update(
-            mapping_.toWidget(visible).toAlignedRect().adjusted(-margin, -margin, margin, margin));
+    if (visible.isEmpty()) {
+        return {};
     }
+    // Edges between pixels of the window are drawn on the nearest ones.
+    const int margin = mapping_.scale() < 1 ? 1 : 0;
+    return mapping_.toWidget(visible).toAlignedRect().adjusted(-margin, -margin, margin, margin);
 }
 
 // Changes of rows come in runs, as when a skin is loaded; looking at all rows once after the run

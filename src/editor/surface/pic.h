@@ -95,6 +95,9 @@ class Pic : public QWidget, private DocumentObserver {
     void settingsChanged();
     void repaintDamage(const Damage& damage);
     void repaintRect(const QRectF& rect);
+    void repaintOnce(const QRect& pixels);
+    /// Of the widget; empty for what is outside of the screen.
+    [[nodiscard]] QRect pixelsOf(const QRectF& rect) const;
     void catchUpLater();
     void catchUp();
     [[nodiscard]] SurfaceView view() const;
@@ -118,6 +121,7 @@ class Pic : public QWidget, private DocumentObserver {
     int firstRow_ = 0;
     QWidget* picBox_;
     const PlayedFrame* played_ = nullptr;
+    std::vector<QRect> waiting_; // what has changed since the last painting while a screen plays
     std::vector<QPointer<QWidget>> overlays_; // hidden while a screen plays
     bool catchingUp_ = false;
     bool showsSafeArea_ = false;

@@ -1,0 +1,109 @@
+// The frames of a playing screen: what they repaint of many changes.
+#include "support/play_editor.h"
+#include "support/ui_test.h"
+
+#include <QPaintEvent>
+
+#include <utility>
+#include <vector>
+
+using namespace tarvel;
+using namespace tarvel::test;
+
+namespace {
+
+// What of a widget is painted.
+class PaintWatch : public QObject {
+  public:
+    explicit PaintWatch(QWidget& watched) { watched.installEventFilter(this); }
+    QRegion take() { return std::exchange(painted_, {}); }
+    [[nodiscard]] const QRegion& painted() const { return painted_; }
+
+  protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            painted_ += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+
+  private:
+    QRegion painted_;
+};
+
+constexpr PlayTime half = 500;
+
+Element blinkingBox(const QRect& place) {
+    Element box = boxAt(static_cast<float>(place.x()), static_cast<float>(place.y()),
+                        static_cast<float>(place.width()), static_cast<float>(place.height()), 100);
+    box.elementTimers = {0, half, half, 0};
+    return box;
+}
+
+QRegion onWidget(PlayEditor& editor, const std::vector<QRect>& places, int margin) {
+    QRegion region;
+    for (const QRect& place : places) {
+        const QRect grown = place.adjusted(-margin, -margin, margin, margin);
+        region += editor.at<Pic>("Pic").mapping().toWidget(QRectF(grown)).toAlignedRect();
+    }
+    return region;
+}
+
+} // namespace
+
+class PlayingFramesTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void everyChangeIsPainted_data();
+    void everyChangeIsPainted();
+    void fewPlacesStayApart();
+};
+
+void PlayingFramesTest::everyChangeIsPainted_data() {
+    QTest::addColumn<int>("count");
+    for (const int count : {1, 7, 8, 9, 10, 17, 60, 300}) {
+        QTest::newRow(qPrintable(QString::number(count))) << count;
+    }
+}
+
+void PlayingFramesTest::everyChangeIsPainted() {
+    QFETCH(int, count);
+    PlayEditor editor;
+    std::vector<QRect> places;
+    for (int number = 0; number < count; ++number) {
+        places.emplace_back(number * 97 % 620, number * 61 % 460, 12, 12);
+        editor.add(blinkingBox(places.back()));
+    }
+    QVERIFY(editor.play());
+    QTest::qWait(50);
+    PaintWatch watch(editor.at<Pic>("Pic"));
+    // As often as a frame could take an earlier one's repaint for its own.
+    for (int change = 0; change < 4; ++change) {
+        QVERIFY(editor.pass(half));
+        const QRegion missing = onWidget(editor, places, 0);
+        QTRY_VERIFY((missing - watch.painted()).isEmpty());
+        (void)watch.take();
+    }
+}
+
+void PlayingFramesTest::fewPlacesStayApart() {
+    PlayEditor editor;
+    const std::vector<QRect> places = {
+        {10, 10, 20, 20}, {600, 10, 20, 20}, {10, 440, 20, 20}, {600, 440, 20, 20}};
+    for (const QRect& place : places) {
+        editor.add(blinkingBox(place));
+        editor.add(blinkingBox(place.adjusted(2, 2, -2, -2))); // what holds it is repainted anyway
+        editor.add(blinkingBox(place.adjusted(4, 4, -4, -4)));
+    }
+    QVERIFY(editor.play());
+    QTest::qWait(50);
+    PaintWatch watch(editor.at<Pic>("Pic"));
+    QVERIFY(editor.pass(half));
+    QTRY_VERIFY((onWidget(editor, places, 0) - watch.painted()).isEmpty());
+    QVERIFY((watch.painted() - onWidget(editor, places, 3)).isEmpty());
+}
+
+TARVEL_UI_TEST(PlayingFramesTest)
+
+#include "playing_frames_test.moc"
