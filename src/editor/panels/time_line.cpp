@@ -38,6 +38,11 @@ TimeLine::TimeLine(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Base);
+    measure();
+}
+
+void TimeLine::measure() {
+    endWidth_ = fontMetrics().horizontalAdvance(QStringLiteral("30 s"));
 }
 
 void TimeLine::setRows(int count, std::function<Row(int)> row) {
@@ -52,16 +57,16 @@ void TimeLine::setRows(int count, std::function<Row(int)> row) {
 }
 
 void TimeLine::setTime(PlayTime time) {
-    if (time == time_) {
-        return;
-    }
-    const auto repaint = [&] {
-        viewport()->update(placeOf(time_) - halfTimeLine, 0, 2 * halfTimeLine + 1,
-                           viewport()->height());
-    };
-    repaint();
+    const int before = placeOf(time_);
+    const bool wasBeyond = time_ > length;
     time_ = time;
-    repaint();
+    const int now = placeOf(time_);
+    if (now == before && wasBeyond == (time_ > length)) {
+        return; // by far most times, as it moves by some pixels a second
+    }
+    for (const int place : {before, now}) {
+        viewport()->update(place - halfTimeLine, 0, 2 * halfTimeLine + 1, viewport()->height());
+    }
 }
 
 int TimeLine::rowHeight() const {
@@ -77,8 +82,7 @@ int TimeLine::labelWidth() const {
 }
 
 int TimeLine::barWidth() const {
-    const int last = fontMetrics().horizontalAdvance(QStringLiteral("30 s"));
-    return std::max(1, viewport()->width() - labelWidth() - 2 * gap - last / 2);
+    return std::max(1, viewport()->width() - labelWidth() - 2 * gap - endWidth_ / 2);
 }
 
 int TimeLine::placeOf(PlayTime time) const {
@@ -116,7 +120,7 @@ void TimeLine::paintEvent(QPaintEvent* event) {
     const int last = std::min(count_ - 1, bottom < 0 ? -1 : bottom / rowHeight());
     painter.setClipRect(event->rect() & viewport()->rect().adjusted(0, rulerHeight(), 0, 0));
     for (int row = top / rowHeight(); row <= last; ++row) {
-        paintRow(painter, row);
+        paintRow(painter, row, event->rect());
     }
     painter.setClipRect(event->rect());
     paintRuler(painter, event->rect());
@@ -142,13 +146,15 @@ void TimeLine::paintRuler(QPainter& painter, const QRect& dirty) const {
     }
 }
 
-void TimeLine::paintRow(QPainter& painter, int row) const {
+void TimeLine::paintRow(QPainter& painter, int row, const QRect& dirty) const {
     const QRect place = rowRect(row);
     const Row shown = row_(row);
     const QRect label(gap, place.top(), labelWidth() - gap, place.height());
-    painter.setPen(palette().color(QPalette::Text));
-    painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(shown.label, Qt::ElideRight, label.width()));
+    if (label.intersects(dirty)) {
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(label, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         fontMetrics().elidedText(shown.label, Qt::ElideRight, label.width()));
+    }
     const PlayTime smallest = std::max<PlayTime>(1, length / barWidth());
     const QRect track(placeOf(0), place.top() + barInset, barWidth() + 1,
                       place.height() - 2 * barInset);
@@ -194,6 +200,7 @@ void TimeLine::resizeEvent(QResizeEvent* event) {
 void TimeLine::changeEvent(QEvent* event) {
     QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        measure();
         updateGeometry();
         showRange();
     }

@@ -57,11 +57,12 @@ class TimeLine : public QAbstractScrollArea {
     void scrollContentsBy(int dx, int dy) override;
 
   private:
+    void measure();
     void showRange();
     void chooseAt(int x);
     void endDrag();
     void paintRuler(QPainter& painter, const QRect& dirty) const;
-    void paintRow(QPainter& painter, int row) const;
+    void paintRow(QPainter& painter, int row, const QRect& dirty) const;
     void paintTime(QPainter& painter) const;
     [[nodiscard]] int rowHeight() const;
     [[nodiscard]] int rulerHeight() const;
@@ -71,6 +72,7 @@ class TimeLine : public QAbstractScrollArea {
     int count_ = 0;
     std::function<Row(int)> row_;
     PlayTime time_ = 0;
+    int endWidth_ = 0; // of the text at the end of the ruler
     bool isDragging_ = false;
 };
 

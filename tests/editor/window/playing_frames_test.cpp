@@ -58,6 +58,7 @@ class PlayingFramesTest : public QObject {
     void everyChangeIsPainted_data();
     void everyChangeIsPainted();
     void fewPlacesStayApart();
+    void theTimeLineIsPaintedWhenItsLineMoves();
 };
 
 void PlayingFramesTest::everyChangeIsPainted_data() {
@@ -102,6 +103,37 @@ void PlayingFramesTest::fewPlacesStayApart() {
     QVERIFY(editor.pass(half));
     QTRY_VERIFY((onWidget(editor, places, 0) - watch.painted()).isEmpty());
     QVERIFY((watch.painted() - onWidget(editor, places, 3)).isEmpty());
+}
+
+void PlayingFramesTest::theTimeLineIsPaintedWhenItsLineMoves() {
+    PlayEditor editor;
+    editor.add(blinkingBox({10, 10, 20, 20}));
+    QVERIFY(editor.play());
+    TimeLine& line = editor.timeLine();
+    QVERIFY(editor.pass(line.length - 1000));
+    QTest::qWait(50);
+    PaintWatch watch(*line.viewport());
+    const int before = line.placeOf(line.time());
+    PlayTime within = 0;
+    while (line.placeOf(line.time() + within + 1) == before) {
+        ++within;
+    }
+    QVERIFY(within > 0);
+    QVERIFY(editor.pass(within));
+    QTest::qWait(50);
+    QVERIFY(watch.take().isEmpty());
+
+    QVERIFY(editor.pass(1));
+    const int now = line.placeOf(line.time());
+    QVERIFY(now != before);
+    const QRegion both = QRegion(before, 30, 1, 10) | QRegion(now, 30, 1, 10);
+    QTRY_VERIFY((both - watch.painted()).isEmpty());
+
+    QVERIFY(editor.pass(line.length - line.time()));
+    QTRY_VERIFY(watch.painted().contains(QPoint(line.placeOf(line.length), 30)));
+    (void)watch.take();
+    QVERIFY(editor.pass(1)); // an arrow now, at the same place
+    QTRY_VERIFY(watch.painted().contains(QPoint(line.placeOf(line.length), 30)));
 }
 
 TARVEL_UI_TEST(PlayingFramesTest)
