@@ -2,7 +2,6 @@
 #include "window/play_session.h"
 
 #include <QDateTime>
-#include <QElapsedTimer>
 
 #include <algorithm>
 #include <utility>
@@ -41,6 +40,8 @@ void PlaySession::start(const SkinRun& run, ModifierCatalogue catalogue) {
     isHeld_ = false;
     isSuspended_ = false;
     seen_ = clock_.elapsed();
+    sinceStart_.start();
+    due_ = 0;
     beginScreen();
 }
 
@@ -91,11 +92,19 @@ void PlaySession::show() {
     scheduleNext();
 }
 
+// Until the next frame, counted from the moment at which this one was due: what it took to make it
+// belongs to the pause. One that is late leaves some time for what else there is to do.
+PlayTime PlaySession::frameStep() const {
+    constexpr PlayTime shortestPause = 4;
+    return std::clamp<PlayTime>(due_ + framePause - sinceStart_.elapsed(), shortestPause,
+                                framePause);
+}
+
 // Milliseconds on the clock.
 PlayTime PlaySession::untilNext() const {
     constexpr PlayTime wholes = 4;
     if (frame_->isMoving()) {
-        return framePause;
+        return frameStep();
     }
     PlayTime next = frame_->nextChange();
     if (const auto remaining = run_.remaining()) {
@@ -112,7 +121,9 @@ void PlaySession::scheduleNext() {
     if (isHeld_ || isSuspended_) {
         timer_.stop();
     } else {
-        timer_.start(static_cast<int>(untilNext()));
+        const PlayTime pause = untilNext();
+        due_ = sinceStart_.elapsed() + pause;
+        timer_.start(static_cast<int>(pause));
     }
 }
 

@@ -4,6 +4,7 @@
 #include "playing/played_frame.h"
 #include "playing/skin_run.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -81,6 +82,7 @@ class PlaySession : public QObject {
     void beginScreen();
     void scheduleNext();
     [[nodiscard]] PlayTime untilNext() const;
+    [[nodiscard]] PlayTime frameStep() const;
 
     const SkinDocument& document_;
     PlayClock clock_;
@@ -90,7 +92,9 @@ class PlaySession : public QObject {
     PlayChoices choices_;
     std::unique_ptr<PlayedScreen> screen_;
     std::unique_ptr<PlayedFrame> frame_;
-    PlayTime seen_ = 0; // on the clock
+    PlayTime seen_ = 0;        // on the clock
+    QElapsedTimer sinceStart_; // of the machine, whatever clock it plays by
+    PlayTime due_ = 0;         // when the next look is to come, since then
     bool isHeld_ = false;
     bool isSuspended_ = false;
     QTimer timer_;

@@ -1,9 +1,14 @@
-// The frames of a playing screen: what they repaint of many changes.
+// The frames of a playing screen: what they repaint of many changes, and how they follow each
+// other.
 #include "support/play_editor.h"
 #include "support/ui_test.h"
+#include "text/xml_parse.h"
 
+#include <QElapsedTimer>
 #include <QPaintEvent>
+#include <QThread>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -11,6 +16,8 @@ using namespace tarvel;
 using namespace tarvel::test;
 
 namespace {
+
+constexpr int mainScreen = 1;
 
 // What of a widget is painted.
 class PaintWatch : public QObject {
@@ -59,6 +66,7 @@ class PlayingFramesTest : public QObject {
     void everyChangeIsPainted();
     void fewPlacesStayApart();
     void theTimeLineIsPaintedWhenItsLineMoves();
+    void aFrameComesInTimeAfterALongOne();
 };
 
 void PlayingFramesTest::everyChangeIsPainted_data() {
@@ -134,6 +142,34 @@ void PlayingFramesTest::theTimeLineIsPaintedWhenItsLineMoves() {
     (void)watch.take();
     QVERIFY(editor.pass(1)); // an arrow now, at the same place
     QTRY_VERIFY(watch.painted().contains(QPoint(line.placeOf(line.length), 30)));
+}
+
+// What a frame takes is a part of the pause before the next one.
+void PlayingFramesTest::aFrameComesInTimeAfterALongOne() {
+    constexpr int frameTakes = 8;
+    constexpr std::size_t frames = 40;
+    SkinDocument document;
+    document.setCurrentLayout(mainScreen);
+    Element box = boxAt(10, 10, 20, 20);
+    box.elementModifiers = SharedValue(
+        parseXml("<Modifier Type='Tint'><Alpha Enable='True' Min='0' Max='255' Period='30000'/>"
+                 "</Modifier>"));
+    document.addElement(std::move(box));
+    PlaySession session(document, machineClock());
+    QElapsedTimer timer;
+    timer.start();
+    std::vector<qint64> pauses;
+    connect(&session, &PlaySession::changed, this, [&] {
+        pauses.push_back(timer.restart());
+        QThread::msleep(frameTakes);
+    });
+    session.start(SkinRun::ofScreen(mainScreen),
+                  ModifierCatalogue(parseXml("<m><types><Tint>Color</Tint></types></m>")));
+    QTRY_VERIFY(pauses.size() >= frames);
+    session.end();
+    // Other work on the machine may delay some, but not all.
+    std::sort(pauses.begin(), pauses.end());
+    QVERIFY(pauses.at(frames / 4) < PlaySession::framePause + frameTakes - 2);
 }
 
 TARVEL_UI_TEST(PlayingFramesTest)
