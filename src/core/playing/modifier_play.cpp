@@ -55,7 +55,7 @@ Motion motionOf(XmlNode modifier, const ModifierCatalogue& catalogue) {
     case ModifierPreview::move: {
         const XmlNode bounds = partOf(modifier, "Bounds");
         for (std::size_t i = 0; i < sides.size(); ++i) {
-            motion.bounds.at(i) = static_cast<float>(numberIn(bounds, sides[i]));
+            motion.bounds.at(i) = toSingle(numberIn(bounds, sides[i]));
         }
         break;
     }
@@ -74,14 +74,14 @@ bool swings(const ColorChannel& channel) {
 float travelled(float at, float size, float low, float high, PlayTime time) {
     const double room = static_cast<double>(high) - low - size;
     if (!(room > 0)) {
-        return low - at;
+        return toSingle(static_cast<double>(low) - at);
     }
     const double start = std::clamp(static_cast<double>(at) - low, 0.0, room);
     const double period = 2 * room / travelPixels * 1000;
     const double begun = start / travelPixels * 1000;
     const double within = std::fmod(std::fmod(static_cast<double>(time), period) + begun, period);
     const double way = within / 1000 * travelPixels;
-    return static_cast<float>(low + (way <= room ? way : 2 * room - way) - at);
+    return toSingle(low + (way <= room ? way : 2 * room - way) - at);
 }
 
 void add(PlayLook& look, const Motion& motion, const Place& rectangle, PlayTime at) {
@@ -152,7 +152,7 @@ double swing(double low, double high, double period, PlayTime at) {
         return low;
     }
     const double within = std::fmod(static_cast<double>(at), period) / period;
-    return low + (high - low) * (within < 0.5 ? 2 * within : 2 - 2 * within);
+    return std::lerp(low, high, within < 0.5 ? 2 * within : 2 - 2 * within);
 }
 
 } // namespace tarvel

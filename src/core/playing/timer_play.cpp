@@ -52,7 +52,8 @@ PlayTime nextChange(const Plan& plan, PlayTime at) {
     if (plan.on != never) {
         const PlayTime cycle = plan.on + plan.off;
         const PlayTime within = (at - plan.appears) % cycle;
-        next = at - within + (within < plan.on ? plan.on : cycle);
+        const PlayTime until = (within < plan.on ? plan.on : cycle) - within;
+        next = until < never - at ? at + until : never;
     }
     if (next < plan.gone) {
         return next;

@@ -76,6 +76,7 @@ TEST(Swing, GoesThereAndBackOnceAPeriod) {
         double value;
     };
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double largest = std::numeric_limits<double>::max();
     constexpr PlayTime far = PlayTime{1} << 31;
     for (const Case& each : {Case{0, 255, 1000, 0, 0},
                              {0, 255, 1000, 250, 127.5},
@@ -89,7 +90,12 @@ TEST(Swing, GoesThereAndBackOnceAPeriod) {
                              {0, 255, nan, 300, 0},
                              {0, 255, 1000, -1, 0},
                              {0, 10, 1024, far, 0},
-                             {0, 10, 1024, far + 512, 10}}) {
+                             {0, 10, 1024, far + 512, 10},
+                             {0, 10, 0.5, 300, 0},
+                             {50, 10, 1e300, far, 50},
+                             {-largest, largest, 1000, 0, -largest},
+                             {-largest, largest, 1000, 250, 0},
+                             {-largest, largest, 1000, 500, largest}}) {
         EXPECT_DOUBLE_EQ(swing(each.low, each.high, each.period, each.at), each.value) << each.at;
     }
 }
@@ -167,6 +173,43 @@ TEST(MoveMotion, StaysWhereThereIsNoRoom) {
     const PlayLook none = look("<Modifier Type='Slide'/>", 500);
     EXPECT_FLOAT_EQ(none.right, -100); // bounds of 0 hold it in the corner
     EXPECT_FLOAT_EQ(none.down, -50);
+}
+
+// Whatever a file holds, an element has a colour, a size and a place.
+TEST(Motions, OfValuesBeyondAllNumbersAreNumbers) {
+    for (const char* number :
+         {"1e400", "-1e400", "1e300", "-1e300", "1e39", "nan", "inf", "", "-32769", "0.5"}) {
+        for (const char* other : {"1e400", "-1e400", "0", "x"}) {
+            const auto with = [&](std::string text) {
+                for (auto at = text.find('#'); at != std::string::npos; at = text.find('#')) {
+                    text.replace(at, 1, number);
+                }
+                for (auto at = text.find('~'); at != std::string::npos; at = text.find('~')) {
+                    text.replace(at, 1, other);
+                }
+                return text;
+            };
+            const std::string all =
+                with("<Modifier Type='Tint'><Alpha Enable='True' Min='#' Max='~' Period='700'/>"
+                     "<Red Enable='True' Min='0' Max='255' Period='#'/></Modifier>"
+                     "<Modifier Type='Fade'><Range X='#' Y='~'/></Modifier>"
+                     "<Modifier Type='Pulse'><Range X='~' Y='#'/></Modifier>"
+                     "<Modifier Type='Pulse'><Range X='#' Y='#'/></Modifier>"
+                     "<Modifier Type='Slide'><Bounds L='#' T='~' R='~' B='#'/></Modifier>");
+            SCOPED_TRACE(all);
+            for (const PlayTime at : {PlayTime{0}, PlayTime{350}, PlayTime{1} << 31, never}) {
+                const PlayLook played = look(all, at);
+                for (const std::size_t channel : {0, 1}) {
+                    EXPECT_GE(played.channels.at(channel), 0);
+                    EXPECT_LE(played.channels.at(channel), 255);
+                }
+                EXPECT_TRUE(played.opacity >= 0 && played.opacity <= 1) << played.opacity;
+                EXPECT_TRUE(played.scale >= 0 && played.scale <= 10) << played.scale;
+                EXPECT_TRUE(std::isfinite(played.right)) << played.right;
+                EXPECT_TRUE(std::isfinite(played.down)) << played.down;
+            }
+        }
+    }
 }
 
 TEST(Motions, WorkTogether) {

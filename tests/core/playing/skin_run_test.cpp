@@ -75,6 +75,17 @@ TEST(SkinRun, PassesScreensWithoutADelayAtOnce) {
     EXPECT_EQ(standOf(run), (Stand{menu, 0, 10}));
     EXPECT_EQ(standOf(skin(0, 0.25, 1e300)), (Stand{load, 0, 1}));
     EXPECT_EQ(standOf(skin(nan, 0, 0)).screen, menu);
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(standOf(skin(0, infinity, 0)), (Stand{load, 0, PlayTime{1'000'000'000'000'000}}));
+    EXPECT_EQ(standOf(skin(-infinity, -0.0, 0.5)), (Stand{menu, 0, 1}));
+    run = skin(infinity, infinity, infinity);
+    for (int i = 0; i < 3; ++i) { // two screens, and the key that puts the saver off
+        run.goTo(*run.remaining() - 1);
+        run.key();
+        run.pass(1);
+    }
+    EXPECT_EQ(run.screen(), menu);
+    EXPECT_EQ(run.remaining(), PlayTime{1'000'000'000'000'000} - 1);
 }
 
 TEST(SkinRun, KeysEndTheSaverOrPutItOff) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <ostream>
 #include <string>
@@ -81,6 +82,24 @@ TEST(TimerPlay, IsTheSameHoweverFarTheTimeIs) {
     for (PlayTime at = 0; at < 300; ++at) {
         EXPECT_EQ(timersShow(timers, far + at), timersShow(timers, 7 + at));
         EXPECT_EQ(nextTimerChange(timers, far + at) - far, nextTimerChange(timers, 7 + at) - 7);
+    }
+}
+
+// Nothing overflows where there is no room for a further change.
+TEST(TimerPlay, EndsWithTheTimes) {
+    const PlayTime half = never / 2;
+    for (const TimerValues& timers : {TimerValues{largest, largest, largest, 0},
+                                      {largest, 1, largest, 0},
+                                      {0, 1, 1, 0},
+                                      {largest, largest, largest, largest}}) {
+        for (const PlayTime at :
+             {-never, -half, PlayTime{-1}, half, half + 1, never - largest, never - 1, never}) {
+            const PlayTime next = nextTimerChange(timers, at);
+            EXPECT_GT(next, std::min(at, never - 1)) << at;
+            if (next != never) {
+                EXPECT_NE(timersShow(timers, at), timersShow(timers, next)) << at;
+            }
+        }
     }
 }
 
