@@ -130,6 +130,9 @@ void MainMenus::setKeys() {
     mnuGuide->setShortcut(Qt::Key_F1);
     mnuPlay->setShortcut(Qt::Key_F5);
     mnuPlaySkin->setShortcut(Qt::SHIFT | Qt::Key_F5);
+    for (QAction* play : {mnuPlay, mnuPlaySkin}) {
+        play->setAutoRepeat(false); // the key that has ended it may still be held
+    }
 }
 
 void MainMenus::fill(QMainWindow& window, QMenu& menu) {

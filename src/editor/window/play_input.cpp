@@ -55,8 +55,15 @@ PlayInput::~PlayInput() {
     QApplication::instance()->removeEventFilter(this);
 }
 
+void PlayInput::setActive(bool active) {
+    active_ = active;
+    if (active) {
+        ending_ = Ending::none;
+    }
+}
+
 bool PlayInput::eventFilter(QObject* watched, QEvent* event) {
-    auto* widget = active_ || endedByPress_ ? qobject_cast<QWidget*>(watched) : nullptr;
+    auto* widget = active_ || ending_ != Ending::none ? qobject_cast<QWidget*>(watched) : nullptr;
     if (widget == nullptr || widget->window() != &parts_.window) {
         return false;
     }
@@ -82,23 +89,31 @@ bool PlayInput::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-// A press that ended the playing does nothing else, and neither does what follows from it.
+// A press that ended the playing does nothing else, and neither does what follows from it: its
+// release, a menu, and the second half of a double click.
 bool PlayInput::afterEnd(const QEvent& event) {
     switch (event.type()) {
     case QEvent::MouseButtonPress:
-        endedByPress_ = false; // the button came up elsewhere
+        ending_ = Ending::none; // a new one, even if the button came up elsewhere
         return false;
+    case QEvent::MouseButtonDblClick:
+        ending_ = Ending::pressed;
+        return true;
     case QEvent::MouseButtonRelease:
         // Some platforms ask for a menu only now.
-        QMetaObject::invokeMethod(
-            this, [this] { endedByPress_ = false; }, Qt::QueuedConnection);
-        return true;
+        QMetaObject::invokeMethod(this, &PlayInput::pressEnds, Qt::QueuedConnection);
+        return ending_ == Ending::pressed;
     case QEvent::MouseMove:
-    case QEvent::MouseButtonDblClick:
     case QEvent::ContextMenu:
-        return true;
+        return ending_ == Ending::pressed;
     default:
         return false;
+    }
+}
+
+void PlayInput::pressEnds() {
+    if (ending_ == Ending::pressed) {
+        ending_ = Ending::clicked;
     }
 }
 
@@ -166,7 +181,7 @@ bool PlayInput::mouse(const QMouseEvent& event) {
         return false;
     }
     if (!holds(parts_.room, at) && event.type() == QEvent::MouseButtonPress) {
-        endedByPress_ = true;
+        ending_ = Ending::pressed;
         emit endWanted();
     }
     return true;

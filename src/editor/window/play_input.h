@@ -32,7 +32,7 @@ class PlayInput : public QObject {
     explicit PlayInput(const Parts& parts);
     ~PlayInput() override;
 
-    void setActive(bool active) { active_ = active; }
+    void setActive(bool active);
 
   signals:
     /// Escape, F5, or a press outside.
@@ -55,10 +55,14 @@ class PlayInput : public QObject {
     bool playKey(const QKeyEvent& event, bool pressed);
     bool mouse(const QMouseEvent& event);
     bool afterEnd(const QEvent& event);
+    void pressEnds();
 
     Parts parts_;
     bool active_ = false;
-    bool endedByPress_ = false; // and the button is still down
+
+    /// How far a press is that ended the playing.
+    enum class Ending { none, pressed, clicked };
+    Ending ending_ = Ending::none;
 };
 
 } // namespace tarvel

@@ -1,0 +1,257 @@
+// Playing under a restless hand: held keys, double clicks, wheels, drops, and presses that go on.
+#include "support/dialog_support.h"
+#include "support/play_editor.h"
+#include "support/surface_support.h"
+#include "support/ui_test.h"
+#include "surface/surface_room.h"
+
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QSet>
+#include <QWheelEvent>
+
+using namespace tarvel;
+using namespace tarvel::test;
+
+namespace {
+
+constexpr int mainScreen = 1;
+
+// Where the focus is; the first press is not repeated, the others are.
+void hold(PlayEditor& editor, Qt::Key key, int repeats, Qt::KeyboardModifiers keys = {}) {
+    for (int i = 0; i <= repeats; ++i) {
+        QTest::simulateEvent(editor.window.focusWidget(), true, key, keys, {}, i > 0);
+        settle();
+    }
+    QTest::simulateEvent(editor.window.focusWidget(), false, key, keys, {}, false);
+    settle();
+}
+
+void wheel(QWidget& target) {
+    const QPointF at = target.rect().center();
+    QWheelEvent event(at, target.mapToGlobal(at), {}, {0, -240}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&target, &event);
+    settle();
+}
+
+void sendLeft(QWidget& target, QEvent::Type type, QPointF at) {
+    QMouseEvent event(type, at, target.mapToGlobal(at), Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &event);
+}
+
+} // namespace
+
+class PlayingHandsTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void heldKeysAreOnePress();
+    void theSecondPressOfADoubleClickDoesNothing();
+    void aPressAfterwardsWorks();
+    void wheelsChangeNothing();
+    void droppedFilesAreRefused();
+    void aRubberBandEnds();
+    void panningEnds_data();
+    void panningEnds();
+    void tabNeverComesToWhatIsClosed();
+};
+
+void PlayingHandsTest::heldKeysAreOnePress() {
+    PlayEditor editor;
+    editor.add(listOf(3));
+    hold(editor, Qt::Key_F5, 3);
+    QVERIFY(editor.isPlaying());
+    hold(editor, Qt::Key_Space, 4);
+    QVERIFY(editor.find<QToolButton>("cmdHold")->isChecked());
+    hold(editor, Qt::Key_Right, 4);
+    QCOMPARE(editor.time(), 500); // these go on while they are held
+    hold(editor, Qt::Key_F5, 3);
+    QVERIFY(!editor.isPlaying());
+    hold(editor, Qt::Key_F5, 3, Qt::ShiftModifier);
+    QVERIFY(editor.isPlaying());
+    hold(editor, Qt::Key_F5, 3, Qt::ShiftModifier);
+    QVERIFY(!editor.isPlaying());
+    hold(editor, Qt::Key_F5, 1);
+    QVERIFY(editor.isPlaying());
+    hold(editor, Qt::Key_Escape, 3);
+    QVERIFY(!editor.isPlaying());
+}
+
+void PlayingHandsTest::theSecondPressOfADoubleClickDoesNothing() {
+    PlayEditor editor;
+    editor.add(boxAt(10, 10, 20, 20));
+    editor.add(boxAt(50, 10, 20, 20));
+    editor.selectRow(mainScreen, 0);
+    const SkinDocument before = editor.document();
+    QVERIFY(editor.play());
+    QListView& list = *editor.lst(mainScreen);
+    const QPoint second = list.visualRect(list.model()->index(1, 0)).center();
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                    QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+        sendLeft(*list.viewport(), type, second);
+        settle();
+        QVERIFY(!editor.isPlaying());
+        QCOMPARE(editor.window.curNum(), 1);
+    }
+    QVERIFY(editor.document() == before);
+    sendLeft(*list.viewport(), QEvent::MouseButtonPress, second);
+    sendLeft(*list.viewport(), QEvent::MouseButtonRelease, second);
+    QCOMPARE(editor.window.curNum(), 2); // a third one is for the list
+}
+
+void PlayingHandsTest::aPressAfterwardsWorks() {
+    PlayEditor editor;
+    editor.add(boxAt(10, 10, 20, 20));
+    QVERIFY(editor.play());
+    QWidget& outside = *editor.find<QWidget>("fraLayout");
+    sendLeft(outside, QEvent::MouseButtonPress, {5, 5});
+    QVERIFY(!editor.isPlaying());
+    // Its release goes to another program, and the next click is one.
+    QTest::mouseClick(editor.find<QWidget>("optBox"), Qt::LeftButton);
+    QVERIFY(editor.find<QAbstractButton>("optBox")->isChecked());
+    QVERIFY(editor.play());
+    sendLeft(outside, QEvent::MouseButtonPress, {5, 5});
+    sendLeft(outside, QEvent::MouseButtonRelease, {5, 5});
+    settle();
+    editor.clickScreen(0);
+    QCOMPARE(editor.document().currentLayout(), 0);
+}
+
+void PlayingHandsTest::wheelsChangeNothing() {
+    PlayEditor editor;
+    for (int i = 0; i < 60; ++i) {
+        editor.add(boxAt(10, 10, 20, 20));
+    }
+    editor.at<SurfaceRoom>("surfaceRoom").zoomTo(100);
+    settle();
+    QVERIFY(editor.play());
+    const int zoom = editor.at<SurfaceRoom>("surfaceRoom").zoom();
+    const int scrolled = editor.lst(mainScreen)->verticalScrollBar()->value();
+    const QString speed = editor.find<QComboBox>("cboSpeed")->currentText();
+    for (const char* name : {"Pic", "cboSpeed", "lst(1)", "fraPlay", "fraLayout"}) {
+        wheel(*editor.find<QWidget>(name));
+        QVERIFY2(editor.isPlaying(), name);
+    }
+    QCOMPARE(editor.at<SurfaceRoom>("surfaceRoom").zoom(), zoom);
+    QCOMPARE(editor.lst(mainScreen)->verticalScrollBar()->value(), scrolled);
+    QCOMPARE(editor.find<QComboBox>("cboSpeed")->currentText(), speed);
+    wheel(*editor.timeLine().viewport()); // which goes through its rows, and leaves the time
+    QVERIFY(editor.timeLine().verticalScrollBar()->value() > 0);
+    QCOMPARE(editor.time(), 0);
+}
+
+void PlayingHandsTest::droppedFilesAreRefused() {
+    PlayEditor editor;
+    const PictureFolder pictures;
+    const QUrl url = QUrl::fromLocalFile(
+        pictures.save(plainPicture({8, 8}, Qt::red), QStringLiteral("red.png")));
+    const SkinDocument before = editor.document();
+    QVERIFY(editor.play());
+    QVERIFY(!dropUrls(*editor.pic(), {url}));
+    settle();
+    QVERIFY(QApplication::activeModalWidget() == nullptr);
+    QVERIFY(editor.isPlaying());
+    QVERIFY(editor.document() == before);
+}
+
+void PlayingHandsTest::aRubberBandEnds() {
+    PlayEditor editor;
+    editor.add(boxAt(100, 100, 40, 40));
+    editor.press({50, 50});
+    editor.drag({300, 300});
+    QVERIFY(editor.play());
+    const QImage playing = editor.picture();
+    editor.drag({30, 30});
+    editor.release({30, 30});
+    settle();
+    QCOMPARE(editor.picture(), playing); // no band
+    editor.playKey(Qt::Key_Escape);
+    const QImage after = editor.picture();
+    editor.drag({200, 300}); // nor one afterwards
+    settle();
+    QCOMPARE(editor.picture(), after);
+}
+
+void PlayingHandsTest::panningEnds_data() {
+    QTest::addColumn<bool>("bySpace");
+    QTest::newRow("Space") << true;
+    QTest::newRow("middle button") << false;
+}
+
+void PlayingHandsTest::panningEnds() {
+    QFETCH(bool, bySpace);
+    PlayEditor editor;
+    editor.add(boxAt(100, 100, 40, 40));
+    auto& room = editor.at<SurfaceRoom>("surfaceRoom");
+    room.zoomTo(400);
+    settle();
+    QWidget& pic = *editor.pic();
+    pic.setFocus();
+    const auto button = bySpace ? Qt::LeftButton : Qt::MiddleButton;
+    const QPoint middle = pic.mapFrom(room.viewport(), room.viewport()->rect().center());
+    if (bySpace) {
+        QTest::keyPress(&pic, Qt::Key_Space);
+    }
+    QTest::mousePress(&pic, button, {}, middle);
+    const auto drag = [&](QPoint way) {
+        const QPoint at = middle + way;
+        QMouseEvent event(QEvent::MouseMove, at, pic.mapToGlobal(at), Qt::NoButton, button, {});
+        QApplication::sendEvent(&pic, &event);
+    };
+    const QPoint before = room.scrolled();
+    drag({-50, -40});
+    const QPoint scrolled = room.scrolled();
+    QCOMPARE(scrolled, before + QPoint(50, 40));
+    QVERIFY(editor.play());
+    QCOMPARE(room.zoom(), 400);
+    if (bySpace) {
+        QTest::keyRelease(editor.window.focusWidget(), Qt::Key_Space);
+    }
+    QVERIFY(!editor.find<QToolButton>("cmdHold")->isChecked());
+    drag({60, 60});
+    QTest::mouseRelease(&pic, button, {}, middle);
+    QCOMPARE(room.scrolled(), scrolled);
+    editor.playKey(Qt::Key_Escape);
+    drag({90, 90});
+    QCOMPARE(room.scrolled(), scrolled);
+    QVERIFY(pic.cursor().shape() != Qt::ClosedHandCursor);
+    QVERIFY(pic.cursor().shape() != Qt::OpenHandCursor);
+}
+
+void PlayingHandsTest::tabNeverComesToWhatIsClosed() {
+    PlayEditor editor;
+    editor.add(boxAt(100, 100, 40, 40));
+    editor.selectRow(mainScreen, 0);
+    QVERIFY(editor.play());
+    QSet<QString> seen;
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers keys) {
+        editor.playKey(key, keys);
+        QWidget* focus = editor.window.focusWidget();
+        QVERIFY(focus != nullptr && focus->isEnabled() && focus->isVisible());
+        QVERIFY2(focus->objectName() == "cmdStop" || editor.strip().isAncestorOf(focus) ||
+                     editor.timePanel().isAncestorOf(focus),
+                 qPrintable(focus->objectName()));
+        seen << focus->objectName();
+        QVERIFY(editor.isPlaying());
+    };
+    for (int i = 0; i < 15; ++i) {
+        press(Qt::Key_Tab, {});
+    }
+    for (const char* name : {"cmdHold", "cmdStepBack", "cmdStepOn", "cboSpeed", "cmdEndPlay",
+                             "cmdCondition(1)", "cmdCondition(6)", "timeLine", "cmdStop"}) {
+        QVERIFY2(seen.contains(QLatin1String(name)), name);
+    }
+    for (int i = 0; i < 15; ++i) {
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+    }
+    seen.clear();
+    for (int i = 0; i < 4; ++i) {
+        press(Qt::Key_F6, i < 2 ? Qt::NoModifier : Qt::ShiftModifier);
+    }
+    QVERIFY(seen.size() > 1);
+    QVERIFY(seen.contains("timeLine"));
+}
+
+TARVEL_UI_TEST(PlayingHandsTest)
+#include "playing_hands_test.moc"
