@@ -1,6 +1,7 @@
 // Paints the rows in sight, and repaints only the line when time passes.
 #include "panels/time_line.h"
 
+#include "panels/time_line_access.h"
 #include "widgets/control_names.h"
 #include "widgets/faint_text.h"
 
@@ -34,6 +35,7 @@ constexpr int halfTimeLine = 4; // of what is repainted around the line
 
 TimeLine::TimeLine(QWidget* parent)
     : QAbstractScrollArea(parent) {
+    beSliders();
     named(this, QStringLiteral("timeLine"), tr("Time line: when each element is shown"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::StrongFocus);

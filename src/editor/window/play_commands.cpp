@@ -3,6 +3,7 @@
 
 #include "document/layout_screens.h"
 #include "panels/play_panel.h"
+#include "panels/time_line_access.h"
 #include "panels/time_panel.h"
 #include "surface/pic.h"
 #include "widgets/qt_text.h"
@@ -69,8 +70,10 @@ void PlayCommands::connectSession() {
     connect(&session_, &PlaySession::screenChanged, this, &PlayCommands::screenChanged);
     connect(&session_, &PlaySession::changed, this, &PlayCommands::showState);
     connect(&session_, &PlaySession::elementChanged, &parts_.surface, &Pic::playedChanged);
-    connect(&session_, &PlaySession::timeSet, this,
-            [this] { parts_.surface.videos().goTo(session_.run().at()); });
+    connect(&session_, &PlaySession::timeSet, this, [this] {
+        parts_.surface.videos().goTo(session_.run().at());
+        tellTime(parts_.time.timeLine());
+    });
     connect(&input_, &PlayInput::endWanted, this, &PlayCommands::end);
     connect(&input_, &PlayInput::holdWanted, &session_, &PlaySession::toggleHold);
     connect(&input_, &PlayInput::stepWanted, this,

@@ -5,6 +5,7 @@
 #include "support/ui_test.h"
 #include "surface/surface_room.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSet>
@@ -55,6 +56,7 @@ class PlayingHandsTest : public QObject {
     void panningEnds_data();
     void panningEnds();
     void tabNeverComesToWhatIsClosed();
+    void theTimeLineIsASlider();
 };
 
 void PlayingHandsTest::heldKeysAreOnePress() {
@@ -251,6 +253,29 @@ void PlayingHandsTest::tabNeverComesToWhatIsClosed() {
     }
     QVERIFY(seen.size() > 1);
     QVERIFY(seen.contains("timeLine"));
+}
+
+void PlayingHandsTest::theTimeLineIsASlider() {
+    PlayEditor editor;
+    editor.add(boxAt(100, 100, 40, 40));
+    QVERIFY(editor.play());
+    QAccessibleInterface* line = QAccessible::queryAccessibleInterface(&editor.timeLine());
+    QVERIFY(line != nullptr);
+    QCOMPARE(line->role(), QAccessible::Slider);
+    QCOMPARE(line->text(QAccessible::Name), editor.timeLine().accessibleName());
+    QVERIFY(!line->state().disabled);
+    QAccessibleValueInterface* slider = line->valueInterface();
+    QVERIFY(slider != nullptr);
+    QVERIFY(editor.pass(1500));
+    QCOMPARE(slider->currentValue().toDouble(), 1.5);
+    slider->setCurrentValue(12.3);
+    QCOMPARE(editor.time(), 12'300);
+    slider->setCurrentValue(99);
+    QCOMPARE(editor.time(), 30'000);
+    slider->setCurrentValue(-1);
+    QCOMPARE(editor.time(), 0);
+    QVERIFY(editor.pass(31'000));
+    QCOMPARE(slider->currentValue(), slider->maximumValue());
 }
 
 TARVEL_UI_TEST(PlayingHandsTest)
