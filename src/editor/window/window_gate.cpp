@@ -25,6 +25,15 @@ WindowGate::WindowGate(QMainWindow& window)
     : QObject(&window)
     , window_(window) {}
 
+// The entries, and the bar itself: else it would still share its letters with what stays open, and
+// take the focus.
+void WindowGate::enableMenus(bool enabled) {
+    window_.menuBar()->setEnabled(enabled);
+    for (QAction* menu : window_.menuBar()->actions()) {
+        menu->setEnabled(enabled);
+    }
+}
+
 void WindowGate::disablex(const std::vector<const QWidget*>& controls) {
     enableAll();
     closed_ = true;
@@ -42,9 +51,7 @@ void WindowGate::disablex(const std::vector<const QWidget*>& controls) {
     for (const auto& widget : disabled_) {
         widget->setEnabled(false);
     }
-    for (QAction* menu : window_.menuBar()->actions()) {
-        menu->setEnabled(false);
-    }
+    enableMenus(false);
     emit changed();
 }
 
@@ -56,9 +63,7 @@ void WindowGate::enableAll() {
         }
     }
     disabled_.clear();
-    for (QAction* menu : window_.menuBar()->actions()) {
-        menu->setEnabled(true);
-    }
+    enableMenus(true);
     emit changed();
 }
 

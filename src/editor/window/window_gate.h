@@ -31,6 +31,8 @@ class WindowGate : public QObject {
     void changed();
 
   private:
+    void enableMenus(bool enabled);
+
     QMainWindow& window_;
     std::vector<QPointer<QWidget>> disabled_;
     bool closed_ = false;

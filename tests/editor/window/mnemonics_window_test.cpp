@@ -154,7 +154,10 @@ void MnemonicsWindowTest::panels() {
         }
         QVERIFY(captions.size() > 1);
         QCOMPARE(wrongLetters(captions).join(u'\n'), QString());
-        editor.ok(index);
+        // Menus that are closed meanwhile have some of the letters, too.
+        const QKeyCombination keys = editor.okOf(index).shortcut()[0];
+        QTest::keyClick(editor.window.windowHandle(), keys.key(), keys.keyboardModifiers());
+        QTRY_COMPARE(editor.shown(), QList<int>());
     }
 }
 

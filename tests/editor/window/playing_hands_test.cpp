@@ -5,7 +5,9 @@
 #include "support/ui_test.h"
 #include "surface/surface_room.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSet>
@@ -57,6 +59,10 @@ class PlayingHandsTest : public QObject {
     void panningEnds();
     void tabNeverComesToWhatIsClosed();
     void theTimeLineIsASlider();
+    void lettersWork();
+    void theListOfSpeedsClosesAlone();
+    void anOpenMenuOrDialogKeepsIt();
+    void theNextStartIsANewOne();
 };
 
 void PlayingHandsTest::heldKeysAreOnePress() {
@@ -276,6 +282,94 @@ void PlayingHandsTest::theTimeLineIsASlider() {
     QCOMPARE(editor.time(), 0);
     QVERIFY(editor.pass(31'000));
     QCOMPARE(slider->currentValue(), slider->maximumValue());
+}
+
+// Those of the strip are of menus, too, which are closed meanwhile.
+void PlayingHandsTest::lettersWork() {
+    PlayEditor editor;
+    QVERIFY(editor.play());
+    const auto press = [&](const QAbstractButton& button) {
+        const QKeyCombination keys = button.shortcut()[0];
+        editor.playKey(keys.key(), keys.keyboardModifiers());
+    };
+    auto& hold = *editor.find<QToolButton>("cmdHold");
+    press(hold);
+    QTRY_VERIFY(hold.isChecked());
+    press(hold);
+    QTRY_VERIFY(!hold.isChecked());
+    for (int row = 1; row <= 6; ++row) {
+        press(editor.condition(row));
+        QTRY_VERIFY2(editor.condition(row).isChecked(), qPrintable(editor.condition(row).text()));
+    }
+    press(*editor.find<QToolButton>("cmdEndPlay"));
+    QTRY_VERIFY(!editor.isPlaying());
+    QTRY_VERIFY(editor.window.menuBar()->isEnabled());
+}
+
+void PlayingHandsTest::theListOfSpeedsClosesAlone() {
+    PlayEditor editor;
+    QVERIFY(editor.play());
+    auto& speeds = *editor.find<QComboBox>("cboSpeed");
+    const auto open = [&] {
+        QTest::mouseClick(&speeds, Qt::LeftButton);
+        return QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; });
+    };
+    const auto isClosed = [] { return QApplication::activePopupWidget() == nullptr; };
+    QVERIFY(open());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    QTRY_VERIFY(isClosed());
+    QVERIFY(editor.isPlaying());
+    editor.playKey(Qt::Key_Space); // and the keys are for the screen again
+    QVERIFY(editor.find<QToolButton>("cmdHold")->isChecked());
+    QVERIFY(open());
+    QTest::keyClick(speeds.view(), Qt::Key_Down);
+    QTest::keyClick(speeds.view(), Qt::Key_Return);
+    QTRY_VERIFY(isClosed());
+    QCOMPARE(speeds.currentText(), QString("2"));
+    QVERIFY(open());
+    editor.document().setCurrentLayout(0); // which ends the playing
+    QVERIFY(!editor.isPlaying());
+    QTRY_VERIFY(isClosed());
+}
+
+void PlayingHandsTest::anOpenMenuOrDialogKeepsIt() {
+    PlayEditor editor;
+    auto* menu = editor.find<QMenu>("mnuSkin");
+    menu->popup(editor.window.mapToGlobal(QPoint(0, 0)));
+    QTest::keyClick(menu, Qt::Key_F5);
+    QVERIFY(!editor.isPlaying());
+    menu->close();
+    QVERIFY(inDialog([&] { editor.entry("mnuDelays")->trigger(); }, "frmDelays",
+                     [&](QWidget& dialog) {
+                         QTest::keyClick(&dialog, Qt::Key_F5);
+                         QTest::keyClick(editor.window.windowHandle(), Qt::Key_F5);
+                         QVERIFY(!editor.isPlaying());
+                     }));
+    QVERIFY(activate(editor.window));
+    QVERIFY(editor.play());
+}
+
+void PlayingHandsTest::theNextStartIsANewOne() {
+    PlayEditor editor;
+    editor.add(listOf(3));
+    editor.add(fieldText("CGTitle", 300));
+    QVERIFY(editor.play());
+    const QImage first = editor.picture();
+    editor.playKey(Qt::Key_Plus);
+    editor.playKey(Qt::Key_Down);
+    editor.playKey(Qt::Key_Down);
+    editor.condition(1).click();
+    editor.playKey(Qt::Key_Right, Qt::ShiftModifier);
+    editor.playKey(Qt::Key_Space);
+    QVERIFY(editor.picture() != first);
+    editor.playKey(Qt::Key_Escape);
+    QVERIFY(editor.play());
+    QCOMPARE(editor.picture(), first);
+    QCOMPARE(editor.time(), 0);
+    QCOMPARE(editor.timeText(), QString("0.0 s"));
+    QCOMPARE(editor.find<QComboBox>("cboSpeed")->currentText(), QString("1"));
+    QVERIFY(!editor.find<QToolButton>("cmdHold")->isChecked());
+    QVERIFY(!editor.condition(1).isChecked());
 }
 
 TARVEL_UI_TEST(PlayingHandsTest)
