@@ -95,15 +95,6 @@ QWidget* PlayPanel::makeTransport() {
                       tr("On by a tenth of a second (Right; with Shift a second)"));
     on->setIcon(icon(IconName::stepOn));
     connect(on, &QToolButton::clicked, this, [this] { emit stepped(1); });
-    auto* caption = new QLabel(tr("Speed"));
-    cboSpeed_ =
-        withoutClickFocus(named(new DropDown, QStringLiteral("cboSpeed"), tr("Speed of the time")));
-    for (const Speed& speed : speeds) {
-        cboSpeed_->addItem(QLatin1String(speed.caption), speed.quarters);
-    }
-    cboSpeed_->setToolTip(tr("How quick the time is (Plus and Minus)"));
-    connect(cboSpeed_, &QComboBox::activated, this,
-            [this] { emit speedChosen(cboSpeed_->currentData().toInt()); });
     auto* end = button(QStringLiteral("cmdEndPlay"), tr("End"), tr("End playing"),
                        tr("End playing (Escape, F5)"));
     end->setIcon(icon(IconName::stop));
@@ -116,11 +107,23 @@ QWidget* PlayPanel::makeTransport() {
     lblRun_->setObjectName(QStringLiteral("lblRun"));
     lblRun_->setAccessibleDescription(tr("The screen that plays"));
     layout->addTogether({cmdHold_, back, on});
-    layout->addTogether({caption, cboSpeed_});
+    makeSpeed();
+    layout->addTogether({new QLabel(tr("Speed")), cboSpeed_});
     layout->addWidget(end);
     layout->addWidget(lblTime_);
     layout->addWidget(lblRun_);
     return row;
+}
+
+void PlayPanel::makeSpeed() {
+    cboSpeed_ =
+        withoutClickFocus(named(new DropDown, QStringLiteral("cboSpeed"), tr("Speed of the time")));
+    for (const Speed& speed : speeds) {
+        cboSpeed_->addItem(QLatin1String(speed.caption), speed.quarters);
+    }
+    cboSpeed_->setToolTip(tr("How quick the time is (Plus and Minus)"));
+    connect(cboSpeed_, &QComboBox::activated, this,
+            [this] { emit speedChosen(cboSpeed_->currentData().toInt()); });
 }
 
 QWidget* PlayPanel::makeConditions() {

@@ -56,6 +56,7 @@ class PlayPanel : public QWidget {
 
   private:
     QWidget* makeTransport();
+    void makeSpeed();
     QWidget* makeConditions();
     QToolButton* makeCondition(int row);
     void showCondition(std::size_t row);

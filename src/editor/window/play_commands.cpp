@@ -190,7 +190,7 @@ QString PlayCommands::runText() const {
     if (const auto remaining = run.remaining()) {
         const QString time = playTimeText(*remaining);
         return run.screen() == menuScreen ? tr("%1: saver in %2").arg(screen, time)
-                                          : tr("%1: %2 still").arg(screen, time);
+                                          : tr("%1: %2 left").arg(screen, time);
     }
     return run.heedsKeys() ? tr("%1: until a key").arg(screen) : screen;
 }
