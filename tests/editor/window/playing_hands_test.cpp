@@ -1,4 +1,5 @@
 // Playing under a restless hand: held keys, double clicks, wheels, drops, and presses that go on.
+#include "skinfile/recovery_store.h"
 #include "support/dialog_support.h"
 #include "support/play_editor.h"
 #include "support/surface_support.h"
@@ -63,6 +64,7 @@ class PlayingHandsTest : public QObject {
     void theListOfSpeedsClosesAlone();
     void anOpenMenuOrDialogKeepsIt();
     void theNextStartIsANewOne();
+    void theWorkIsKeptMeanwhile();
 };
 
 void PlayingHandsTest::heldKeysAreOnePress() {
@@ -370,6 +372,26 @@ void PlayingHandsTest::theNextStartIsANewOne() {
     QCOMPARE(editor.find<QComboBox>("cboSpeed")->currentText(), QString("1"));
     QVERIFY(!editor.find<QToolButton>("cmdHold")->isChecked());
     QVERIFY(!editor.condition(1).isChecked());
+}
+
+void PlayingHandsTest::theWorkIsKeptMeanwhile() {
+    PlayEditor editor;
+    const QDir kept(editor.path("kept"));
+    editor.window.keepWorkIn(hostPathOf(kept.path()));
+    editor.add(boxAt(100, 100, 40, 40));
+    QVERIFY(editor.play());
+    const auto files = [&] { return kept.entryInfoList({"*.recovery"}); };
+    const auto holdsTheWork = [&] {
+        return files().size() == 1 &&
+               RecoveryStore::read(hostPathOf(files().first().filePath())).document ==
+                   editor.document();
+    };
+    QTRY_VERIFY(!files().isEmpty());
+    QVERIFY(holdsTheWork());
+    QVERIFY(editor.isPlaying());
+    editor.window.keepWorkNow(); // as for a signal
+    QVERIFY(holdsTheWork());
+    QVERIFY(editor.isPlaying());
 }
 
 TARVEL_UI_TEST(PlayingHandsTest)
