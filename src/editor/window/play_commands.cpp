@@ -117,7 +117,6 @@ void PlayCommands::start(bool wholeSkin) {
         }
     }
     parts_.strip.show();
-    placeTime();
     parts_.time.show();
     parts_.time.raise();
     // A field that loses the focus enters its text, which is a part of what plays.
@@ -175,6 +174,7 @@ void PlayCommands::screenChanged() {
         const Element& element = document.element(document.itemData(screen, row));
         return TimeLine::Row{qtText(document.rowText(screen, row)), element.elementTimers};
     });
+    placeTime(); // for which the rows count
     constexpr std::size_t mostInLine = 6;
     constexpr std::size_t mostInTip = 40;
     const auto& still = frame.screen().still();

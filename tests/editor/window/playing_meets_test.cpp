@@ -402,7 +402,9 @@ void PlayingMeetsTest::smallWindowsShowEverything() {
         QVERIFY2(whole.contains(editor.inWindow(*control)), name);
         QVERIFY2(control->visibleRegion().boundingRect() == control->rect(), name);
     }
-    QVERIFY(editor.timeLine().verticalScrollBar()->maximum() > 0);
+    const TimeLine& line = editor.timeLine();
+    QVERIFY(line.verticalScrollBar()->maximum() > 0);
+    QVERIFY(line.viewport()->rect().contains(line.rowRect(11))); // at the first time, too
     QVERIFY(editor.at<SurfaceRoom>("surfaceRoom").zoom() >= 50);
 }
 
