@@ -127,57 +127,52 @@ void PlaySession::scheduleNext() {
     }
 }
 
+// By a hand, which may come a moment after the end.
+void PlaySession::change(const std::function<void()>& what) {
+    if (isPlaying()) {
+        takePassed();
+        what();
+        show();
+    }
+}
+
+void PlaySession::setTime(const std::function<void()>& what) {
+    if (isPlaying()) {
+        change(what);
+        emit timeSet();
+    }
+}
+
 void PlaySession::toggleHold() {
-    takePassed();
-    isHeld_ = !isHeld_;
-    show();
+    change([this] { isHeld_ = !isHeld_; });
 }
 
 void PlaySession::suspend(bool suspended) {
-    if (!isPlaying()) {
-        return; // what was dragged may let go at the end
-    }
-    takePassed();
-    isSuspended_ = suspended;
-    show();
+    change([&] { isSuspended_ = suspended; });
 }
 
 void PlaySession::step(PlayTime time) {
-    takePassed();
-    run_.pass(time);
-    show();
-    emit timeSet();
+    setTime([&] { run_.pass(time); });
 }
 
 void PlaySession::goTo(PlayTime time) {
-    takePassed();
-    run_.goTo(time);
-    show();
-    emit timeSet();
+    setTime([&] { run_.goTo(time); });
 }
 
 void PlaySession::setSpeed(int quarters) {
-    takePassed();
-    pace_.setQuarters(quarters);
-    show();
+    change([&] { pace_.setQuarters(quarters); });
 }
 
 void PlaySession::moveItem(int step) {
-    takePassed();
-    moveList(choices_, step, screen_->menu(), run_.at());
-    show();
+    change([&] { moveList(choices_, step, screen_->menu(), run_.at()); });
 }
 
 void PlaySession::force(int condition, std::optional<bool> holds) {
-    takePassed();
-    choices_.forced.at(static_cast<std::size_t>(condition)) = holds;
-    show();
+    change([&] { choices_.forced.at(static_cast<std::size_t>(condition)) = holds; });
 }
 
 void PlaySession::key() {
-    takePassed();
-    run_.key();
-    show();
+    change([this] { run_.key(); });
 }
 
 } // namespace tarvel

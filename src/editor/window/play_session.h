@@ -53,6 +53,7 @@ class PlaySession : public QObject {
     /// In quarters: 1, 2, 4, 8 or 16.
     [[nodiscard]] int speed() const { return pace_.quarters(); }
 
+    // What a hand wants; nothing happens when nothing plays.
     void toggleHold();
     /// Time stands still for as long as something else goes through it.
     void suspend(bool suspended);
@@ -76,6 +77,8 @@ class PlaySession : public QObject {
     void timeSet();
 
   private:
+    void change(const std::function<void()>& what);
+    void setTime(const std::function<void()>& what);
     void tick();
     void takePassed();
     void show();

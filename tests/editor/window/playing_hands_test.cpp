@@ -61,6 +61,7 @@ class PlayingHandsTest : public QObject {
     void tabNeverComesToWhatIsClosed();
     void theTimeLineIsASlider();
     void lettersWork();
+    void whatComesTooLateDoesNothing();
     void theListOfSpeedsClosesAlone();
     void anOpenMenuOrDialogKeepsIt();
     void theNextStartIsANewOne();
@@ -306,6 +307,28 @@ void PlayingHandsTest::lettersWork() {
     press(*editor.find<QToolButton>("cmdEndPlay"));
     QTRY_VERIFY(!editor.isPlaying());
     QTRY_VERIFY(editor.window.menuBar()->isEnabled());
+}
+
+// A button that a key has pressed is let go a moment later.
+void PlayingHandsTest::whatComesTooLateDoesNothing() {
+    PlayEditor editor;
+    for (const char* name : {"cmdHold", "cmdStepOn", "cmdStepBack", "cmdCondition(1)"}) {
+        QVERIFY(editor.play());
+        auto& button = *editor.find<QToolButton>(name);
+        QSignalSpy clicked(&button, &QToolButton::clicked);
+        button.animateClick();
+        editor.playKey(Qt::Key_Escape);
+        QVERIFY(!editor.isPlaying());
+        QTRY_COMPARE(clicked.size(), 1);
+    }
+    QAccessible::queryAccessibleInterface(&editor.timeLine())
+        ->valueInterface()
+        ->setCurrentValue(3.0);
+    QVERIFY(!editor.isPlaying());
+    QVERIFY(editor.play());
+    QVERIFY(!editor.find<QToolButton>("cmdHold")->isChecked());
+    QVERIFY(!editor.condition(1).isChecked());
+    QCOMPARE(editor.time(), 0);
 }
 
 void PlayingHandsTest::theListOfSpeedsClosesAlone() {
