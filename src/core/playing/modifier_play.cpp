@@ -69,10 +69,14 @@ bool swings(const ColorChannel& channel) {
     return channel.Enable && channel.Period >= 1 && channel.Min != channel.Max;
 }
 
+double roomFor(float size, float low, float high) {
+    return static_cast<double>(high) - low - size;
+}
+
 // Between the sides there and back from where it stands, to the far side first; a thing that is
 // larger than its bounds stays at the near one.
 float travelled(float at, float size, float low, float high, PlayTime time) {
-    const double room = static_cast<double>(high) - low - size;
+    const double room = roomFor(size, low, high);
     if (!(room > 0)) {
         return toSingle(static_cast<double>(low) - at);
     }
@@ -130,8 +134,8 @@ PlayLook lookAt(const std::vector<Motion>& motions, const Place& rectangle, Play
     return look;
 }
 
-bool moves(const std::vector<Motion>& motions) {
-    return std::any_of(motions.begin(), motions.end(), [](const Motion& motion) {
+bool moves(const std::vector<Motion>& motions, const Place& rectangle) {
+    return std::any_of(motions.begin(), motions.end(), [&](const Motion& motion) {
         switch (motion.preview) {
         case ModifierPreview::color:
             return std::any_of(motion.channels.begin(), motion.channels.end(), swings);
@@ -139,7 +143,8 @@ bool moves(const std::vector<Motion>& motions) {
         case ModifierPreview::scale:
             return motion.from != motion.to;
         case ModifierPreview::move:
-            return true;
+            return roomFor(rectangle[2], motion.bounds[0], motion.bounds[2]) > 0 ||
+                   roomFor(rectangle[3], motion.bounds[1], motion.bounds[3]) > 0;
         case ModifierPreview::still:
             break;
         }

@@ -48,8 +48,8 @@ struct PlayLook {
 [[nodiscard]] PlayLook lookAt(const std::vector<Motion>& motions, const Place& rectangle,
                               PlayTime at);
 
-/// Whether the look changes in time.
-[[nodiscard]] bool moves(const std::vector<Motion>& motions);
+/// Whether the look of an element with a size, at a place, changes in time.
+[[nodiscard]] bool moves(const std::vector<Motion>& motions, const Place& rectangle);
 
 /// From `low` to `high` and back once in `period` milliseconds, evenly, beginning with `low`;
 /// always `low` when the period is below 1 or no number.

@@ -115,7 +115,7 @@ void PlayedScreen::read(int row, const ModifierCatalogue& catalogue) {
     const bool isMenu = element.elementKind == ElementKind::Menu;
     by.item = isMenu || (isField && isOfItem(field));
     by.motions = motionsOf(*element.elementModifiers, catalogue);
-    by.isMoving = moves(by.motions) || glows(element);
+    by.isMoving = moves(by.motions, rectangleOf(element.elementControl)) || glows(element);
     for (const Motion& motion : by.motions) {
         if (motion.preview == ModifierPreview::still || showsNothing(motion, element.elementKind)) {
             still_.push_back({motion.type, document_.rowText(screen_, row)});

@@ -110,8 +110,8 @@ TEST(ColorMotion, SwingsTheEnabledChannels) {
     EXPECT_EQ(look(tint, 0).channels, (Channels{std::nullopt, 0, 0, 30}));
     EXPECT_EQ(look(tint, 250).channels, (Channels{std::nullopt, 100, 255, 30}));
     EXPECT_EQ(look(tint, 500).channels, (Channels{std::nullopt, 200, 0, 30}));
-    EXPECT_TRUE(moves(motions(tint)));
-    EXPECT_FALSE(moves(motions("<Modifier Type='Tint'/>")));
+    EXPECT_TRUE(moves(motions(tint), atRest));
+    EXPECT_FALSE(moves(motions("<Modifier Type='Tint'/>"), atRest));
     EXPECT_EQ(look("<Modifier Type='Tint'/>", 250), PlayLook());
 }
 
@@ -138,7 +138,7 @@ TEST(RangeMotion, GoesBetweenItsPercentsInTwoSeconds) {
     EXPECT_DOUBLE_EQ(look(wild, 1000).opacity, 1);
     EXPECT_DOUBLE_EQ(look("<Modifier Type='Pulse'><Range X='0' Y='1e30'/></Modifier>", 1000).scale,
                      10);
-    EXPECT_FALSE(moves(motions("<Modifier Type='Fade'><Range X='5' Y='5'/></Modifier>")));
+    EXPECT_FALSE(moves(motions("<Modifier Type='Fade'><Range X='5' Y='5'/></Modifier>"), atRest));
 }
 
 TEST(MoveMotion, TravelsInsideItsBoundsAtEvenSpeed) {
@@ -173,6 +173,11 @@ TEST(MoveMotion, StaysWhereThereIsNoRoom) {
     const PlayLook none = look("<Modifier Type='Slide'/>", 500);
     EXPECT_FLOAT_EQ(none.right, -100); // bounds of 0 hold it in the corner
     EXPECT_FLOAT_EQ(none.down, -50);
+    EXPECT_TRUE(moves(motions(narrow), atRest)); // up and down
+    EXPECT_FALSE(moves(motions("<Modifier Type='Slide'/>"), atRest));
+    EXPECT_FALSE(moves(motions("<Modifier Type='Slide'><Bounds L='300' T='200' R='20' B='10'/>"
+                               "</Modifier>"),
+                       atRest));
 }
 
 // Whatever a file holds, an element has a colour, a size and a place.
@@ -223,7 +228,7 @@ TEST(Motions, WorkTogether) {
     EXPECT_EQ(still.front().type, "Wobble");
     EXPECT_EQ(still.front().preview, ModifierPreview::still);
     EXPECT_EQ(lookAt(still, atRest, 700), PlayLook());
-    EXPECT_FALSE(moves(still));
+    EXPECT_FALSE(moves(still, atRest));
     EXPECT_TRUE(motionsOf(XmlTree(), catalogue()).empty());
 }
 
