@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvel {
 
@@ -46,8 +47,8 @@ bool isOthers(const QKeyEvent& event) {
 
 } // namespace
 
-PlayInput::PlayInput(const Parts& parts)
-    : parts_(parts) {
+PlayInput::PlayInput(Parts parts)
+    : parts_(std::move(parts)) {
     QApplication::instance()->installEventFilter(this);
 }
 

@@ -29,7 +29,7 @@ class PlayInput : public QObject {
         std::vector<QWidget*> usable;
     };
 
-    explicit PlayInput(const Parts& parts);
+    explicit PlayInput(Parts parts);
     ~PlayInput() override;
 
     void setActive(bool active);
