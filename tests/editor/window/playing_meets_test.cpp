@@ -54,6 +54,7 @@ class PlayingMeetsTest : public QObject {
     void theWindowOpensAndPlaysAtOnce();
     void smallWindowsShowEverything();
     void videosPlayHeldAndFromTheirStart();
+    void videosHeldAtOnceShowTheirFirstFrame();
     void stoppedVideosStaySoAfterwards();
     void theSkinsVideosAreThoseOfTheScreen();
 };
@@ -433,6 +434,21 @@ void PlayingMeetsTest::videosPlayHeldAndFromTheirStart() {
     QVERIFY(!videos.isPlaying(id)); // stopped is stopped
     editor.playKey(Qt::Key_Escape);
     QTRY_VERIFY_WITH_TIMEOUT(videos.isPlaying(id), patience); // as it was before
+}
+
+void PlayingMeetsTest::videosHeldAtOnceShowTheirFirstFrame() {
+    PlayEditor editor;
+    const int id = editor.add(imageOf(ControlKind::vid, {100, 100, 160, 120}, film()), 2);
+    editor.document().setCurrentLayout(mainScreen);
+    editor.document().editSettings([](SkinSettings& settings) { settings.delays[1] = 60'000; });
+    VideoStage& videos = editor.at<Pic>("Pic").videos();
+    QVERIFY(editor.play(Qt::ShiftModifier));
+    editor.playKey(Qt::Key_Space);
+    QTRY_VERIFY_WITH_TIMEOUT(!videos.frame(id).isNull() || !videos.problem(id).isEmpty(), patience);
+    if (!videos.problem(id).isEmpty()) {
+        QSKIP("this machine cannot decode the film");
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!videos.isPlaying(id), patience);
 }
 
 void PlayingMeetsTest::stoppedVideosStaySoAfterwards() {
