@@ -6,11 +6,10 @@
 // machine does not bend; the limits are those of the project and apply to the latter.
 #include "document/open_edit.h"
 #include "editing/pick_index.h"
+#include "shown_window.h"
 #include "surface/surface_room.h"
-#include "widgets/panel_slide.h"
 #include "widgets/prompts.h"
 #include "widgets/remembered.h"
-#include "window/frm_main.h"
 
 #include <QAction>
 #include <QApplication>
@@ -129,19 +128,7 @@ std::vector<Box> boxes(int count) {
 SkinDocument documentOf(const std::vector<Box>& boxes) {
     SkinDocument document;
     for (const auto& [rect, color] : boxes) {
-        Element element;
-        element.elementAlpha = color.alpha() == 255 ? 100 : 60;
-        element.label = "Box: Alpha " + std::to_string(element.elementAlpha);
-        ElementControl& control = element.elementControl;
-        control.fillStyle = FillStyle::solid;
-        control.fillColor =
-            makeColor(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
-                      static_cast<unsigned>(color.blue()));
-        control.left = static_cast<float>(rect.x());
-        control.top = static_cast<float>(rect.y());
-        control.width = static_cast<float>(rect.width());
-        control.height = static_cast<float>(rect.height());
-        document.addElement(std::move(element));
+        document.addElement(boxElement(rect, color));
     }
     return document;
 }
@@ -252,14 +239,7 @@ class Window {
   public:
     explicit Window(int count) {
         window_.document() = documentOf(boxes(count));
-        bool slid = false;
-        QObject::connect(window_.findChild<PanelSlide*>(), &PanelSlide::finished,
-                         [&] { slid = true; });
-        window_.show();
-        while (!slid) {
-            QApplication::processEvents();
-        }
-        QApplication::processEvents();
+        showAtRest(window_);
     }
 
     template <class Widget> Widget& find(const char* name) {
@@ -429,9 +409,7 @@ bool runAll() {
 } // namespace tarvel::bench
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing is shown
-    }
+    tarvel::bench::needNoDisplay();
     const QApplication application(argc, argv);
     return tarvel::bench::runAll() ? 0 : 1;
 }

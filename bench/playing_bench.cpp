@@ -393,9 +393,7 @@ bool runParts(const std::vector<std::string>& named) {
 
 // Usage: tarvel_playing_bench [frames|moving|still|repainted|start|memory]...
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing is shown
-    }
+    tarvel::bench::needNoDisplay();
     const QApplication application(argc, argv);
     return tarvel::bench::runParts({argv + 1, argv + argc}) ? 0 : 1;
 }

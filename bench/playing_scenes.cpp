@@ -1,6 +1,8 @@
 // Makes boxes, texts and lines with timers and colour modifiers.
 #include "playing_scenes.h"
 
+#include "shown_window.h"
+
 #include <random>
 #include <string>
 #include <string_view>
@@ -46,23 +48,6 @@ void setKind(Element& element, ElementKind kind, int number) {
     }
 }
 
-Element elementOf(const SceneBox& box) {
-    const auto& [rect, color] = box;
-    Element element;
-    element.elementAlpha = color.alpha() == 255 ? 100 : 60;
-    element.label = "Box: Alpha " + std::to_string(element.elementAlpha);
-    ElementControl& control = element.elementControl;
-    control.fillStyle = FillStyle::solid;
-    control.fillColor =
-        makeColor(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
-                  static_cast<unsigned>(color.blue()));
-    control.left = static_cast<float>(rect.x());
-    control.top = static_cast<float>(rect.y());
-    control.width = static_cast<float>(rect.width());
-    control.height = static_cast<float>(rect.height());
-    return element;
-}
-
 } // namespace
 
 std::vector<SceneBox> sceneBoxes(int count) {
@@ -99,7 +84,7 @@ SkinDocument sceneOf(int count, const Playing& playing) {
     SkinDocument document;
     int number = 0;
     for (const SceneBox& box : sceneBoxes(count)) {
-        Element element = elementOf(box);
+        Element element = boxElement(box.rect, box.color);
         if (playing.otherKinds) {
             setKind(element, kindOf(number), number);
         }

@@ -4,11 +4,10 @@
 
 #include "document/skin_document.h"
 #include "playing/timer_play.h"
+#include "shown_window.h"
 #include "support/scripted_prompts.h"
 #include "surface/pic.h"
-#include "widgets/panel_slide.h"
 #include "widgets/remembered.h"
-#include "window/frm_main.h"
 #include "window/play_session.h"
 
 #include <QAction>
@@ -127,14 +126,7 @@ class Stage {
         QFile::copy(QStringLiteral(":/tarvel/modifiers.xml"),
                     folder_.filePath(QStringLiteral("modifiers.xml")));
         window_.document() = std::move(document);
-        bool slid = false;
-        QObject::connect(window_.findChild<PanelSlide*>(), &PanelSlide::finished,
-                         [&] { slid = true; });
-        window_.show();
-        while (!slid) {
-            QApplication::processEvents();
-        }
-        QApplication::processEvents();
+        showAtRest(window_);
     }
 
     Pic& surface() { return *window_.findChild<Pic*>(); }

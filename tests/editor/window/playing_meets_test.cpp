@@ -25,6 +25,14 @@ QString film() {
     return films.isEmpty() ? QString() : media.filePath(films.first());
 }
 
+// A film has a frame or a problem before long; without what decodes it the test has nothing to see.
+#define AWAIT_FRAME(videos, id)                                                                    \
+    QTRY_VERIFY_WITH_TIMEOUT(!(videos).frame(id).isNull() || !(videos).problem(id).isEmpty(),      \
+                             patience);                                                            \
+    if (!(videos).problem(id).isEmpty()) {                                                         \
+        QSKIP("this machine cannot decode the film");                                              \
+    }
+
 } // namespace
 
 class PlayingMeetsTest : public QObject {
@@ -413,10 +421,7 @@ void PlayingMeetsTest::videosPlayHeldAndFromTheirStart() {
     PlayEditor editor;
     const int id = editor.add(imageOf(ControlKind::vid, {100, 100, 160, 120}, film()), mainScreen);
     VideoStage& videos = editor.at<Pic>("Pic").videos();
-    QTRY_VERIFY_WITH_TIMEOUT(!videos.frame(id).isNull() || !videos.problem(id).isEmpty(), patience);
-    if (!videos.problem(id).isEmpty()) {
-        QSKIP("this machine cannot decode the film");
-    }
+    AWAIT_FRAME(videos, id);
     QVERIFY(editor.play());
     QTRY_VERIFY_WITH_TIMEOUT(videos.isPlaying(id), patience);
     editor.playKey(Qt::Key_Space);
@@ -444,10 +449,7 @@ void PlayingMeetsTest::videosHeldAtOnceShowTheirFirstFrame() {
     VideoStage& videos = editor.at<Pic>("Pic").videos();
     QVERIFY(editor.play(Qt::ShiftModifier));
     editor.playKey(Qt::Key_Space);
-    QTRY_VERIFY_WITH_TIMEOUT(!videos.frame(id).isNull() || !videos.problem(id).isEmpty(), patience);
-    if (!videos.problem(id).isEmpty()) {
-        QSKIP("this machine cannot decode the film");
-    }
+    AWAIT_FRAME(videos, id);
     QTRY_VERIFY_WITH_TIMEOUT(!videos.isPlaying(id), patience);
 }
 
@@ -455,10 +457,7 @@ void PlayingMeetsTest::stoppedVideosStaySoAfterwards() {
     PlayEditor editor;
     const int id = editor.add(imageOf(ControlKind::vid, {100, 100, 160, 120}, film()), mainScreen);
     VideoStage& videos = editor.at<Pic>("Pic").videos();
-    QTRY_VERIFY_WITH_TIMEOUT(!videos.frame(id).isNull() || !videos.problem(id).isEmpty(), patience);
-    if (!videos.problem(id).isEmpty()) {
-        QSKIP("this machine cannot decode the film");
-    }
+    AWAIT_FRAME(videos, id);
     QTest::mouseClick(editor.find<QWidget>("cmdStop"), Qt::LeftButton);
     QVERIFY(!videos.isPlaying(id));
     QVERIFY(editor.play());
@@ -473,11 +472,7 @@ void PlayingMeetsTest::theSkinsVideosAreThoseOfTheScreen() {
     const int first =
         editor.add(imageOf(ControlKind::vid, {100, 100, 160, 120}, film()), mainScreen);
     VideoStage& videos = editor.at<Pic>("Pic").videos();
-    QTRY_VERIFY_WITH_TIMEOUT(!videos.frame(first).isNull() || !videos.problem(first).isEmpty(),
-                             patience);
-    if (!videos.problem(first).isEmpty()) {
-        QSKIP("this machine cannot decode the film");
-    }
+    AWAIT_FRAME(videos, first);
     const int onLoad = editor.add(imageOf(ControlKind::vid, {0, 0, 160, 120}, film()), 2);
     editor.document().setCurrentLayout(mainScreen);
     editor.document().editSettings([](SkinSettings& settings) { settings.delays[1] = 60'000; });
