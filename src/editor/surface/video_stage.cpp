@@ -152,7 +152,7 @@ void VideoStage::setHeld(bool held) {
     held_ = held;
     for (auto& [id, seat] : seats_) {
         if (seat.player != nullptr && seat.onShown && !seat.stopped) {
-            startOrHold(seat);
+            startOrHold(*seat.player);
         }
     }
 }
@@ -178,12 +178,12 @@ void VideoStage::goTo(std::int64_t time) {
     }
 }
 
-// Held before its first frame, a video goes on to that.
-void VideoStage::startOrHold(const Seat& seat) const {
-    if (held_ && !seat.frame.isNull()) {
-        seat.player->pause();
+// A player that is held before its first frame still hands that over.
+void VideoStage::startOrHold(QMediaPlayer& player) const {
+    if (held_) {
+        player.pause();
     } else {
-        seat.player->play();
+        player.play();
     }
 }
 
@@ -242,7 +242,7 @@ void VideoStage::play(int elementId, const SkinDocument& document) {
     seat.file = document.element(elementId).elementControl.file;
     if (seat.player != nullptr) {
         if (!seat.stopped) {
-            startOrHold(seat);
+            startOrHold(*seat.player);
         }
         return;
     }

@@ -89,7 +89,7 @@ class VideoStage : public QObject, public VideoFrames {
     void watch(int elementId, QMediaPlayer* player, const std::filesystem::path& path);
     void fail(int elementId, const QString& problem);
     void takeFrame(int elementId, const QVideoFrame& frame);
-    void startOrHold(const Seat& seat) const;
+    void startOrHold(QMediaPlayer& player) const;
     void retire(QMediaPlayer* player);
     Seats::iterator drop(Seats::iterator seat);
 
