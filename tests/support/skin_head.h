@@ -1,6 +1,8 @@
 // The lines with which every skin of the editor begins that has nothing set.
 #pragma once
 
+#include "support/program_version.h"
+
 #include <QString>
 
 namespace tarvel::test {
@@ -8,8 +10,9 @@ namespace tarvel::test {
 /// From the root to the system menu, of a skin of that name.
 inline QString skinHead(const char* name) {
     return QStringLiteral("<Skin name=\"%1\">\n").arg(QLatin1String(name)) +
-           QStringLiteral(R"(	<Information>
-		<MadeUsing>Tarvel 5.0</MadeUsing>
+           QStringLiteral("\t<Information>\n\t\t<MadeUsing>Tarvel %1</MadeUsing>")
+               .arg(QString::fromStdString(programVersion())) +
+           QStringLiteral(R"(
 	</Information>
 	<Delays>
 		<Title>0</Title>

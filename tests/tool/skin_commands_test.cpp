@@ -1,6 +1,7 @@
 // The commands of tarvel-skin: arguments, resave, check, exit codes and lines.
 #include "files/host_files.h"
 #include "support/picture_heads.h"
+#include "support/program_version.h"
 #include "support/temporary_folder.h"
 #include "tool/skin_commands.h"
 
@@ -76,7 +77,7 @@ TEST(SkinCommands, HelpGivesTheUsageTheScreensAndTheExitCodes) {
 TEST(SkinCommands, VersionIsOneLine) {
     const Result result = runWith({"--version"});
     EXPECT_EQ(result.code, 0);
-    EXPECT_EQ(result.out, "tarvel-skin 5.0\n");
+    EXPECT_EQ(result.out, "tarvel-skin " + test::programVersion() + "\n");
     EXPECT_EQ(result.err, "");
 }
 

@@ -4,6 +4,7 @@
 #include "files/host_files.h"
 #include "skinfile/skin_writer.h"
 #include "support/line_ends.h"
+#include "support/program_version.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -170,28 +171,30 @@ TEST_F(SkinWriterTest, NewSkinWithoutElements) {
     settings([](SkinSettings& s) { s.skinName = "Bare"; });
     EXPECT_EQ(generated(), "<Skin name=\"Bare\">\n"
                            "\t<Information>\n"
-                           "\t\t<MadeUsing>Tarvel 5.0</MadeUsing>\n"
-                           "\t</Information>\n"
-                           "\t<Delays>\n"
-                           "\t\t<Title>0</Title>\n"
-                           "\t\t<Load>0</Load>\n"
-                           "\t\t<Saver>0</Saver>\n"
-                           "\t</Delays>\n"
-                           "\t<MessageBox>\n"
-                           "\t\t<BoxColor>0xFF182038</BoxColor>\n"
-                           "\t\t<BorderColor>0xFF7896C8</BorderColor>\n"
-                           "\t\t<TextColor>0xFFF0F4FF</TextColor>\n"
-                           "\t\t<ShadowColor>0xFF000000</ShadowColor>\n"
-                           "\t</MessageBox>\n"
-                           "\t<SystemMenu>\n"
-                           "\t\t<BoxColor>0xFF141C30</BoxColor>\n"
-                           "\t\t<BorderColor>0xFF7896C8</BorderColor>\n"
-                           "\t\t<TextColor>0xFFF0F4FF</TextColor>\n"
-                           "\t\t<SelectColor>0xFFFFD25A</SelectColor>\n"
-                           "\t\t<ValueColor>0xFFB0C8E8</ValueColor>\n"
-                           "\t\t<SelectValueColor>0xFFFFE8AA</SelectValueColor>\n"
-                           "\t</SystemMenu>\n"
-                           "</Skin>\n");
+                           "\t\t<MadeUsing>Tarvel " +
+                               test::programVersion() +
+                               "</MadeUsing>\n"
+                               "\t</Information>\n"
+                               "\t<Delays>\n"
+                               "\t\t<Title>0</Title>\n"
+                               "\t\t<Load>0</Load>\n"
+                               "\t\t<Saver>0</Saver>\n"
+                               "\t</Delays>\n"
+                               "\t<MessageBox>\n"
+                               "\t\t<BoxColor>0xFF182038</BoxColor>\n"
+                               "\t\t<BorderColor>0xFF7896C8</BorderColor>\n"
+                               "\t\t<TextColor>0xFFF0F4FF</TextColor>\n"
+                               "\t\t<ShadowColor>0xFF000000</ShadowColor>\n"
+                               "\t</MessageBox>\n"
+                               "\t<SystemMenu>\n"
+                               "\t\t<BoxColor>0xFF141C30</BoxColor>\n"
+                               "\t\t<BorderColor>0xFF7896C8</BorderColor>\n"
+                               "\t\t<TextColor>0xFFF0F4FF</TextColor>\n"
+                               "\t\t<SelectColor>0xFFFFD25A</SelectColor>\n"
+                               "\t\t<ValueColor>0xFFB0C8E8</ValueColor>\n"
+                               "\t\t<SelectValueColor>0xFFFFE8AA</SelectValueColor>\n"
+                               "\t</SystemMenu>\n"
+                               "</Skin>\n");
 }
 
 TEST_F(SkinWriterTest, InformationLeavesOutEmptyFieldsAndMadeUsing) {
@@ -199,13 +202,14 @@ TEST_F(SkinWriterTest, InformationLeavesOutEmptyFieldsAndMadeUsing) {
         s.information = {{"Author", "A & <b>"}, {"Version", ""},       {"MADEUSING", "a pencil"},
                          {"Web", "\"x\""},      {"madeUsing", "hand"}, {"Made", "y"}};
     });
-    EXPECT_EQ(section("\t<Information>", "</Information>\n"),
-              "\t<Information>\n"
-              "\t\t<Author>A & <b></Author>\n"
-              "\t\t<Web>\"x\"</Web>\n"
-              "\t\t<Made>y</Made>\n"
-              "\t\t<MadeUsing>Tarvel 5.0</MadeUsing>\n"
-              "\t</Information>\n");
+    EXPECT_EQ(section("\t<Information>", "</Information>\n"), "\t<Information>\n"
+                                                              "\t\t<Author>A & <b></Author>\n"
+                                                              "\t\t<Web>\"x\"</Web>\n"
+                                                              "\t\t<Made>y</Made>\n"
+                                                              "\t\t<MadeUsing>Tarvel " +
+                                                                  test::programVersion() +
+                                                                  "</MadeUsing>\n"
+                                                                  "\t</Information>\n");
 }
 
 TEST_F(SkinWriterTest, MusicOnlyWhenItIsOnAndNeverADirectory) {

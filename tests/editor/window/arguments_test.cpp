@@ -1,4 +1,5 @@
 // The arguments of the editor: folders, options and what is answered to them.
+#include "support/program_version.h"
 #include "support/ui_test.h"
 #include "window/arguments.h"
 
@@ -66,7 +67,9 @@ void ArgumentsTest::replies_data() {
     };
     QTest::newRow("help") << QStringList("--help") << help << 0;
     QTest::newRow("help among others") << QStringList({"/a", "--help", "-x"}) << help << 0;
-    QTest::newRow("version") << QStringList("--version") << "tarvel 5.0\n" << 0;
+    QTest::newRow("version") << QStringList("--version")
+                             << QString::fromStdString("tarvel " + test::programVersion() + "\n")
+                             << 0;
     QTest::newRow("unknown") << QStringList({"/a", "--frobnicate"}) << unknown("--frobnicate") << 2;
     QTest::newRow("unknown letter") << QStringList("-h") << unknown("-h") << 2;
     QTest::newRow("only dashes") << QStringList("---") << unknown("---") << 2;

@@ -1,5 +1,6 @@
 // The main window: start, menus, screens, markers, loading, saving, closing.
 #include "support/editor.h"
+#include "support/program_version.h"
 #include "support/ui_test.h"
 
 #include <QGroupBox>
@@ -57,7 +58,8 @@ void FrmMainTest::startsOnMenuWithAnEmptyDocument() {
 
 void FrmMainTest::titleShowsTheVersionRecord() {
     Editor editor;
-    QCOMPARE(editor.window.windowTitle(), QStringLiteral(":: TARVEL 5.0 :: by varnokelt "));
+    QCOMPARE(editor.window.windowTitle(), QStringLiteral(":: TARVEL %1 :: by varnokelt ")
+                                              .arg(QString::fromStdString(test::programVersion())));
 }
 
 void FrmMainTest::hasEveryMenuEntry_data() {

@@ -1,5 +1,6 @@
 // The menu "Help": the guide with its search, links and pictures, the keys, and the program itself.
 #include "support/behaviour_editor.h"
+#include "support/program_version.h"
 #include "support/ui_test.h"
 #include "widgets/style/palettes.h"
 #include "window/guide_view.h"
@@ -408,7 +409,8 @@ void HelpTest::aboutTellsVersions() {
     auto* dialog = editor.find<QDialog>("frmAbout");
     QVERIFY(dialog != nullptr && dialog->isVisible());
     const auto& label = control<QLabel>(*dialog, "lblAbout");
-    for (const char* text : {"Tarvel 5.0", "MIT license", "Qt " QT_VERSION_STR, "pugixml 1."}) {
+    const std::string version = "Tarvel " + test::programVersion();
+    for (const char* text : {version.c_str(), "MIT license", "Qt " QT_VERSION_STR, "pugixml 1."}) {
         QVERIFY2(label.text().contains(text), text);
     }
     QVERIFY(label.textInteractionFlags().testFlag(Qt::TextSelectableByMouse));

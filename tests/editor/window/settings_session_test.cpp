@@ -1,6 +1,7 @@
 // A session on what belongs to the whole skin: every value through its dialog, saved and loaded.
 #include "document/normalised.h"
 #include "support/menu_support.h"
+#include "support/program_version.h"
 #include "support/ui_test.h"
 #include "widgets/color_swatch.h"
 #include "widgets/easing.h"
@@ -322,7 +323,7 @@ QString SettingsSessionTest::expectedText() {
                    "\t\t<Author>A. Writer</Author>\r\n"
                    "\t\t<Copyright><none></Copyright>\r\n"
                    "\t\t<Skin_Web_Page>example.org/?a=1&b=2</Skin_Web_Page>\r\n"
-                   "\t\t<MadeUsing>Tarvel 5.0</MadeUsing>\r\n"
+                   "\t\t<MadeUsing>Tarvel @VERSION@</MadeUsing>\r\n"
                    "\t</Information>\r\n"
                    "\t<Music>\r\n"
                    "\t\t<PlayGlobal>On</PlayGlobal>\r\n"
@@ -363,7 +364,7 @@ QString SettingsSessionTest::expectedText() {
             "\t</Layout>\r\n"
             "</Skin>\r\n"
             "\r\n";
-    return text;
+    return text.replace("@VERSION@", QString::fromStdString(programVersion()));
 }
 
 void SettingsSessionTest::checkFiles(Editor& editor, const QString& out) {
