@@ -187,7 +187,7 @@ TEST(Animation, RoundedTimesDoNotAddUp) {
 }
 
 TEST(Animation, MoreFramesTakeNoMoreMemory) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TARVEL_SANITIZED
     GTEST_SKIP() << "the sanitizer keeps what was freed";
 #endif
     const auto peak = [] {

@@ -178,7 +178,7 @@ TEST(EnterPositions, TakesTheOthersAlong) {
         SkinDocument expected = places();
         for (const auto& [id, place] : c.after) {
             expected.editElement(
-                id, [&](Element& element) { setPlace(element.elementControl, place); });
+                id, [&, at = place](Element& element) { setPlace(element.elementControl, at); });
         }
         EXPECT_EQ(document, expected) << c.what;
     }

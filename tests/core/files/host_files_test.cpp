@@ -216,9 +216,9 @@ TEST(CopyFile, OfAFileThatChangesMeanwhileKeepsTheOlderFile) {
         folder.file("to", "old");
         bool first = true;
         try {
-            copyFile(from, folder / "to", [&](auto, auto) {
+            copyFile(from, folder / "to", [&, disturb = change](auto, auto) {
                 if (std::exchange(first, false)) {
-                    change();
+                    disturb();
                 }
                 return true;
             });

@@ -204,7 +204,7 @@ TEST(Motions, OfValuesBeyondAllNumbersAreNumbers) {
             SCOPED_TRACE(all);
             for (const PlayTime at : {PlayTime{0}, PlayTime{350}, PlayTime{1} << 31, never}) {
                 const PlayLook played = look(all, at);
-                for (const std::size_t channel : {0, 1}) {
+                for (const std::size_t channel : {0U, 1U}) {
                     EXPECT_GE(played.channels.at(channel), 0);
                     EXPECT_LE(played.channels.at(channel), 255);
                 }

@@ -221,7 +221,7 @@ void FrmMusicTest::growsAndShrinksToTheExactPlaces() {
         QCOMPARE(dialog->height(), height); // nothing jumps
         QVERIFY(waitForGliding(*dialog));
         SkinDocument same;
-        same.editSettings([&](SkinSettings& settings) { settings.music = state; });
+        same.editSettings([&, after = state](SkinSettings& settings) { settings.music = after; });
         FrmMusic fresh(same, *prompts_, nullptr, std::make_unique<test::FakePlayer>(log_));
         QVERIFY(test::open(fresh));
         QCOMPARE(geometries(*dialog), geometries(fresh));

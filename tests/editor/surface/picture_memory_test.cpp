@@ -153,7 +153,7 @@ void PictureMemoryTest::peakStaysLow_data() {
 }
 
 void PictureMemoryTest::peakStaysLow() {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TARVEL_SANITIZED
     QSKIP("the sanitizer keeps what is freed, and its own figures");
 #endif
     QFETCH(QString, name);

@@ -219,7 +219,7 @@ void PlayedPaintingTest::listsFollowTheirSettings_data() {
 
 void PlayedPaintingTest::listsFollowTheirSettings() {
     QFETCH(QString, setting);
-    const auto painted = [](const MenuSettings& settings) {
+    const auto listOf = [](const MenuSettings& settings) {
         QImage image(300, 200, QImage::Format_RGB32);
         image.fill(Qt::black);
         QPainter painter(&image);
@@ -229,7 +229,7 @@ void PlayedPaintingTest::listsFollowTheirSettings() {
     };
     const MenuSettings usual;
     MenuSettings changed;
-    const std::string green = std::to_string(makeColor(0, 255, 0));
+    const std::string otherColor = std::to_string(makeColor(0, 255, 0));
     if (setting == "thumbnailsVisible") {
         changed.thumbnailsVisible = false;
     } else if (setting == "itemsShown") {
@@ -245,20 +245,20 @@ void PlayedPaintingTest::listsFollowTheirSettings() {
     } else if (setting == "descriptionAlignment") {
         changed.descriptionAlignment = "left";
     } else if (setting == "selectedTitleColor") {
-        changed.selectedTitleColor = green;
+        changed.selectedTitleColor = otherColor;
     } else if (setting == "unselectedTitleColor") {
-        changed.unselectedTitleColor = green;
+        changed.unselectedTitleColor = otherColor;
     } else if (setting == "selectedDescriptionColor") {
-        changed.selectedDescriptionColor = green;
+        changed.selectedDescriptionColor = otherColor;
     } else {
-        changed.unselectedDescriptionColor = green;
+        changed.unselectedDescriptionColor = otherColor;
     }
-    QVERIFY(painted(changed) != painted(usual));
+    QVERIFY(listOf(changed) != listOf(usual));
     // A row is as high as the menu holds items; the selected one is the second.
     const QRect selectedRow(0, 40, 300, 40);
     if (setting.startsWith("selected")) {
-        const QImage a = painted(changed);
-        const QImage b = painted(usual);
+        const QImage a = listOf(changed);
+        const QImage b = listOf(usual);
         for (int y = 0; y < 200; ++y) {
             for (int x = 0; x < 300; ++x) {
                 QVERIFY(selectedRow.contains(x, y) || a.pixel(x, y) == b.pixel(x, y));

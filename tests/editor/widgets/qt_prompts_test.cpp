@@ -274,14 +274,14 @@ void QtPromptsTest::choosersStartWhereATypedPathLed() {
         const char* shown; // folder when the path is typed
         QString typed;
     };
-    for (const auto& [shown, typed] : {Case{"", path("sub/c.jpg")}, Case{"", "sub/c.jpg"},
-                                       Case{"", "\"" + path("sub/c.jpg") + "\""}}) {
+    for (const Case& c : {Case{"", path("sub/c.jpg")}, Case{"", "sub/c.jpg"},
+                          Case{"", "\"" + path("sub/c.jpg") + "\""}}) {
         QtPrompts prompts;
         QStringList chosen;
         const auto ask = [&] { chosen = prompts.files(&owner_, {}, false); };
         QVERIFY(asking<QFileDialog>(ask, [&](QFileDialog& dialog) {
-            dialog.setDirectory(path(shown));
-            take(dialog, typed);
+            dialog.setDirectory(path(c.shown));
+            take(dialog, c.typed);
         }));
         QCOMPARE(chosen, QStringList(path("sub/c.jpg")));
         QString start;

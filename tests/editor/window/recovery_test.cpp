@@ -313,7 +313,7 @@ void RecoveryTest::setsAsideWhatCannotBeRead() {
 void RecoveryTest::tellsThatNothingCanBeKept() {
     KeptEditor editor;
     std::ofstream(editor.kept) << "a file in the way";
-    QVERIFY_EXCEPTION_THROWN(editor.window.keepWorkIn(editor.kept), FileError);
+    QVERIFY_THROWS_EXCEPTION(FileError, editor.window.keepWorkIn(editor.kept));
     fs::remove(editor.kept);
     editor.begin();
     fs::remove_all(editor.kept);
