@@ -1,6 +1,7 @@
 // Takes the arguments of `render` one by one, and then sees whether they go together.
 #include "tool/render_options.h"
 
+#include "files/path_text.h"
 #include "text/text_case.h"
 
 #include <array>
@@ -191,7 +192,7 @@ Given givenBy(std::span<const std::string> arguments) {
 }
 
 PictureFormat formatOf(const std::filesystem::path& out) {
-    const std::string ending = lowerCased(out.extension().string());
+    const std::string ending = lowerCased(utf8Of(out.extension()));
     if (ending == ".png") {
         return PictureFormat::png;
     }
@@ -202,7 +203,7 @@ PictureFormat formatOf(const std::filesystem::path& out) {
         return PictureFormat::gif;
     }
     throw OptionError("a picture ends in .png and an animation in .webp or .gif, not as " +
-                      inQuotes(out.string()) + " does");
+                      inQuotes(utf8Of(out)) + " does");
 }
 
 PlayTime milliseconds(double seconds) {

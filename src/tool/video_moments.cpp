@@ -3,6 +3,7 @@
 
 #include "files/host_files.h"
 #include "surface/video_stage.h"
+#include "widgets/qt_text.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -72,7 +73,7 @@ class VideoMoments::Video {
         player_.setVideoSink(&sink_);
         QObject::connect(&sink_, &QVideoSink::videoFrameChanged, &sink_,
                          [this](const QVideoFrame& frame) { take(frame); });
-        player_.setSource(QUrl::fromLocalFile(QString::fromStdString(hostPath(file_).string())));
+        player_.setSource(QUrl::fromLocalFile(qtPath(hostPath(file_))));
         player_.pause();
         isMovable_ = waitUntil(
             [this] { return frames_ > 0 && player_.duration() > 0 && player_.isSeekable(); },

@@ -12,7 +12,6 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <numeric>
 #include <random>
 #include <sys/resource.h>
@@ -39,7 +38,7 @@ constexpr Format gif{"a.gif", gifAnimation, decodedGif};
 DecodedAnimation writtenAndRead(const Format& format, const std::vector<QImage>& frames,
                                 double perSecond) {
     const TemporaryFolder folder;
-    const OpenFile file(folder / format.name, O_WRONLY | O_CREAT | O_EXCL);
+    const OpenFile file(folder / format.name, Opening::makeNew);
     const auto animation = format.make(file, frames.front().size());
     for (std::size_t i = 0; i < frames.size(); ++i) {
         animation->add(frames[i], static_cast<double>(i + 1) / perSecond);
@@ -198,7 +197,7 @@ TEST(Animation, MoreFramesTakeNoMoreMemory) {
     const std::array<QImage, 2> pictures = {noise({320, 240}, 1), noise({320, 240}, 2)};
     for (const Format& format : {webp, gif}) {
         const TemporaryFolder folder;
-        const OpenFile file(folder / format.name, O_WRONLY | O_CREAT | O_EXCL);
+        const OpenFile file(folder / format.name, Opening::makeNew);
         const auto animation = format.make(file, pictures[0].size());
         long early = 0;
         for (std::size_t i = 0; i < 60; ++i) {
@@ -215,7 +214,7 @@ TEST(Animation, MoreFramesTakeNoMoreMemory) {
 TEST(Animation, AFailingWriteNamesTheFile) {
     for (const Format& format : {webp, gif}) {
         const TemporaryFolder folder;
-        const OpenFile file("/dev/full", O_WRONLY, 0, folder / "target");
+        const OpenFile file("/dev/full", Opening::write, folder / "target");
         try {
             const auto animation = format.make(file, {640, 480});
             animation->add(rich({640, 480}), 1);

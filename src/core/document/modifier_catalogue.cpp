@@ -42,12 +42,9 @@ XmlNode sectionOf(const XmlTree& tree, std::string_view name) {
 } // namespace
 
 std::filesystem::path catalogueFile(const std::filesystem::path& programFolder) {
-    std::error_code ignored;
     auto own = programFolder / catalogueFileName;
     const auto installed = programFolder / TARVEL_CATALOGUE_FROM_BIN / catalogueFileName;
-    return !std::filesystem::exists(own, ignored) && std::filesystem::exists(installed, ignored)
-               ? installed
-               : own;
+    return !statusOf(own) && statusOf(installed) ? installed : own;
 }
 
 ModifierCatalogue::ModifierCatalogue(XmlTree tree)

@@ -2,10 +2,10 @@
 #include "files/file_search.h"
 
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "text/text_case.h"
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -46,26 +46,25 @@ class Searcher {
 
     // Adds the folders in it to those below.
     void look(const fs::path& folder, std::vector<fs::path>& below) {
-        std::vector<fs::directory_entry> files;
+        std::vector<FolderEntry> files;
         const auto firstBelow = static_cast<std::ptrdiff_t>(below.size());
-        std::error_code error;
-        for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-             entry.increment(error)) {
+        eachEntryOf(folder, [&](const FolderEntry& entry) {
             if (!count()) {
-                break;
+                return false;
             }
-            std::error_code ignored;
-            if (entry->symlink_status(ignored).type() == fs::file_type::directory) {
-                below.push_back(entry->path());
-            } else if (names_.contains(lowerCased(entry->path().filename().native()))) {
-                files.push_back(*entry);
+            if (entry.kind == FileKind::folder) {
+                below.push_back(entry.path);
+            } else if (names_.contains(lowerCased(utf8Of(entry.path.filename())))) {
+                files.push_back(entry);
             }
-        }
+            return true;
+        });
         std::sort(below.begin() + firstBelow, below.end());
-        std::sort(files.begin(), files.end());
-        for (const fs::directory_entry& file : files) {
+        std::sort(files.begin(), files.end(),
+                  [](const FolderEntry& a, const FolderEntry& b) { return a.path < b.path; });
+        for (const FolderEntry& file : files) {
             if (isUsable(file)) {
-                search_.found.try_emplace(lowerCased(file.path().filename().native()), file.path());
+                search_.found.try_emplace(lowerCased(utf8Of(file.path.filename())), file.path);
             }
         }
     }
@@ -78,13 +77,13 @@ class Searcher {
         return search_.complete;
     }
 
-    [[nodiscard]] bool isUsable(const fs::directory_entry& file) const {
-        std::error_code error;
-        if (!file.is_regular_file(error) || !fileProblem(file.path()).empty()) {
+    [[nodiscard]] bool isUsable(const FolderEntry& file) const {
+        const auto status = statusOf(file.path);
+        if (!status || status->kind != FileKind::regular || !fileProblem(file.path).empty()) {
             return false;
         }
         try {
-            return !file.is_symlink(error) || liesWithin(root_, file.path());
+            return file.kind != FileKind::link || liesWithin(root_, file.path);
         } catch (const FileError&) {
             return false;
         }

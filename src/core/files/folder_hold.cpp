@@ -1,12 +1,12 @@
-// Holds a folder by a lock on the folder itself, which leaves no file behind.
+// Holds a folder by a hold of the system, which leaves no file behind.
 #include "files/folder_hold.h"
 
-#include <fcntl.h>
+#include <cerrno>
 
 namespace tarvel {
 
 FolderHold::FolderHold(const std::filesystem::path& folder)
-    : folder_(openAt(AT_FDCWD, folder.c_str(), O_RDONLY | O_DIRECTORY))
-    , taken_(folder_.isOpen() && !tryLock(folder_) && errno == EWOULDBLOCK) {}
+    : folder_(tryHoldFolder(folder))
+    , taken_(!folder_.isOpen() && errno == EWOULDBLOCK) {}
 
 } // namespace tarvel

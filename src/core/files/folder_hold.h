@@ -1,7 +1,7 @@
 // A folder that one save at a time holds.
 #pragma once
 
-#include "files/open_file.h"
+#include "files/system_files.h"
 
 #include <filesystem>
 

@@ -3,9 +3,7 @@
 
 #include "files/host_files.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <cerrno>
 #include <utility>
 
 namespace tarvel {
@@ -14,10 +12,9 @@ namespace {
 
 // Another holder may have deleted the file between its opening and its lock.
 bool isStillAt(const Descriptor& file, const std::filesystem::path& path) {
-    struct stat held {};
-    struct stat there {};
-    return ::fstat(file.number(), &held) == 0 && ::lstat(path.c_str(), &there) == 0 &&
-           held.st_dev == there.st_dev && held.st_ino == there.st_ino;
+    const auto held = statusOf(file);
+    const auto there = held ? statusOfItself(path) : std::nullopt;
+    return there && held->identity == there->identity;
 }
 
 } // namespace
@@ -25,7 +22,7 @@ bool isStillAt(const Descriptor& file, const std::filesystem::path& path) {
 std::optional<HeldFile> HeldFile::tryHold(const std::filesystem::path& path) {
     constexpr int tries = 100;
     for (int i = 0; i < tries; ++i) {
-        Descriptor file = openAt(AT_FDCWD, path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW, 0600);
+        Descriptor file = openFile(path, Opening::own);
         if (!file.isOpen()) {
             throw FileError(errno, path);
         }
@@ -48,7 +45,7 @@ HeldFile::HeldFile(std::filesystem::path path, Descriptor file)
 
 void HeldFile::remove() noexcept {
     if (file_.isOpen()) {
-        ::unlink(path_.c_str());
+        removeName(path_);
         file_.reset();
     }
 }

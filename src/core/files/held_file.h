@@ -1,7 +1,7 @@
 // A file that one process holds at a time, however that process ends.
 #pragma once
 
-#include "files/open_file.h"
+#include "files/system_files.h"
 
 #include <filesystem>
 #include <optional>

@@ -1,16 +1,12 @@
-// Files of the host, by POSIX calls where a write must be flushed, locked or renamed.
+// Files of the host: what is written is flushed, locked and renamed.
 #include "files/host_files.h"
 
 #include "files/open_file.h"
+#include "files/path_text.h"
 #include "files/replacement.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <system_error>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -20,22 +16,21 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A file for reading. Without O_NONBLOCK a pipe in the place of a picture would wait for a writer.
+// A file for reading.
 class SourceFile : public OpenFile {
   public:
     explicit SourceFile(const fs::path& path)
-        : OpenFile(path, O_RDONLY | O_NONBLOCK) {
-        const auto mode = status().st_mode;
-        if (!S_ISREG(mode)) {
-            throw FileError(S_ISDIR(mode) ? EISDIR : EINVAL, path);
+        : OpenFile(path, Opening::read) {
+        const FileKind kind = status().kind;
+        if (kind != FileKind::regular) {
+            throw FileError(kind == FileKind::folder ? EISDIR : EINVAL, path);
         }
     }
 };
 
 // True when the file was changed since `before`.
-bool changedSince(const struct stat& before, const struct stat& now) {
-    return now.st_size != before.st_size || now.st_mtim.tv_sec != before.st_mtim.tv_sec ||
-           now.st_mtim.tv_nsec != before.st_mtim.tv_nsec;
+bool changedSince(const FileStatus& before, const FileStatus& now) {
+    return now.size != before.size || now.written != before.written;
 }
 
 // Copies the bytes of an open file; false when cancelled.
@@ -61,24 +56,23 @@ bool copyBytes(const OpenFile& source, const OpenFile& target, std::uintmax_t to
 }
 
 // What has been locked may have been deleted by its last holder.
-bool isTheFileAt(const struct stat& file, const fs::path& path) {
-    struct stat now {};
-    return ::stat(path.c_str(), &now) == 0 && now.st_ino == file.st_ino &&
-           now.st_dev == file.st_dev;
+bool isTheFileAt(const FileStatus& file, const fs::path& path) {
+    const auto now = statusOf(path);
+    return now && now->identity == file.identity;
 }
 
-std::string saveReadDelete(const OpenFile& file, off_t staleSize, const fs::path& path,
+std::string saveReadDelete(const OpenFile& file, std::int64_t staleSize, const fs::path& path,
                            std::string_view text) {
     // Cutting an empty file as well would have some file systems bring it to the disk.
-    if (staleSize > 0 && uninterrupted([&] { return ::ftruncate(file.number(), 0); }) != 0) {
+    if (staleSize > 0 && !cutToNothing(file.descriptor())) {
         file.fail();
     }
     file.write(text.data(), text.size());
-    if (::lseek(file.number(), 0, SEEK_SET) != 0) {
+    if (!moveToBeginning(file.descriptor())) {
         file.fail();
     }
     std::string result = file.readAll();
-    if (::unlink(path.c_str()) != 0) {
+    if (!removeName(path)) {
         throw FileError(errno, path);
     }
     return result;
@@ -87,11 +81,11 @@ std::string saveReadDelete(const OpenFile& file, off_t staleSize, const fs::path
 } // namespace
 
 FileError::FileError(int errorNumber, const fs::path& file)
-    : std::runtime_error(std::generic_category().message(errorNumber) + ": " + file.string())
+    : std::runtime_error(errorWords(errorNumber) + ": " + utf8Of(file))
     , errorNumber_(errorNumber) {}
 
 FileError::FileError(const std::string& problem, const fs::path& file)
-    : std::runtime_error(problem + ": " + file.string()) {}
+    : std::runtime_error(problem + ": " + utf8Of(file)) {}
 
 std::string readFile(const fs::path& path) {
     return SourceFile(path).readAll();
@@ -104,15 +98,14 @@ void writeFile(const fs::path& path, std::string_view bytes) {
 }
 
 bool copyFile(const fs::path& from, const fs::path& to, const CopyStep& progress) {
-    std::error_code error;
-    if (fs::equivalent(from, to, error) && !error) {
+    if (isSameFile(from, to)) {
         return true;
     }
     const SourceFile source(from);
-    const struct stat before = source.status();
+    const FileStatus before = source.status();
     Replacement replacement(to);
     if (!copyBytes(source, replacement.file(),
-                   static_cast<std::uintmax_t>(std::max<off_t>(before.st_size, 0)), progress)) {
+                   static_cast<std::uintmax_t>(std::max<std::int64_t>(before.size, 0)), progress)) {
         return false;
     }
     if (changedSince(before, source.status())) {
@@ -123,35 +116,33 @@ bool copyFile(const fs::path& from, const fs::path& to, const CopyStep& progress
 }
 
 void createFolder(const fs::path& path) {
-    if (::mkdir(path.c_str(), 0777) == 0) {
+    if (makeFolder(path)) {
         return;
     }
     const int reason = errno;
-    struct stat there {};
-    if (reason != EEXIST || ::stat(path.c_str(), &there) != 0) {
+    const auto there = reason == EEXIST ? statusOf(path) : std::nullopt;
+    if (!there) {
         throw FileError(reason != EEXIST ? reason : errno, path);
     }
-    if (!S_ISDIR(there.st_mode)) {
+    if (there->kind != FileKind::folder) {
         throw FileError(ENOTDIR, path);
     }
 }
 
 void createFolders(const fs::path& path) {
-    std::error_code error;
-    fs::create_directories(path, error);
-    if (error) {
-        throw FileError(error.value(), path);
+    if (!makeFolders(path)) {
+        throw FileError(errno, path);
     }
 }
 
 void removeFile(const fs::path& path) {
-    if (::unlink(path.c_str()) != 0 && errno != ENOENT) {
+    if (!removeName(path) && errno != ENOENT) {
         throw FileError(errno, path);
     }
 }
 
 void moveFile(const fs::path& from, const fs::path& to) {
-    if (::rename(from.c_str(), to.c_str()) != 0) {
+    if (!renameOver(from, to)) {
         throw FileError(errno, from);
     }
 }
@@ -160,34 +151,28 @@ std::string throughTempFile(const fs::path& folder, std::string_view text) {
     const fs::path path = folder / "temp.xml";
     constexpr int tries = 10;
     for (int i = 0; i < tries; ++i) {
-        const OpenFile file(path, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0600);
-        const struct stat status = file.status();
-        if (!S_ISREG(status.st_mode)) {
+        const OpenFile file(path, Opening::own);
+        const FileStatus status = file.status();
+        if (status.kind != FileKind::regular) {
             throw FileError(EINVAL, path);
         }
         if (!tryLock(file.descriptor())) {
             break;
         }
         if (isTheFileAt(status, path)) {
-            return saveReadDelete(file, status.st_size, path, text);
+            return saveReadDelete(file, status.size, path, text);
         }
     }
     return std::string(text); // as it would be read back: nobody is to wait for another program
 }
 
 fs::path programFolder() {
-    std::error_code error;
-    fs::path own = fs::read_symlink("/proc/self/exe", error).parent_path();
-    if (!error && ::access(own.c_str(), W_OK) == 0) {
+    fs::path own = executableFolder();
+    if (!own.empty() && canWriteInto(own)) {
         return own;
     }
-    const char* data = std::getenv("XDG_DATA_HOME");
-    const char* home = std::getenv("HOME");
-    fs::path folder = data != nullptr && *data != '\0' ? fs::path(data)
-                      : home != nullptr                ? fs::path(home) / ".local/share"
-                                                       : fs::temp_directory_path();
-    folder /= "tarvel";
-    fs::create_directories(folder, error);
+    fs::path folder = userDataFolder() / "tarvel";
+    makeFolders(folder); // what it is needed for tells of a failure
     return folder;
 }
 

@@ -3,19 +3,13 @@
 #include "files/host_paths.h"
 
 #include "files/host_files.h"
-#include "files/open_file.h"
+#include "files/path_text.h"
 #include "text/text_case.h"
 
 #include <algorithm>
-#include <array>
-#include <climits>
-#include <dirent.h>
-#include <fcntl.h>
-#include <memory>
+#include <cerrno>
 #include <optional>
-#include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 
 namespace tarvel {
 
@@ -23,22 +17,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t longestPath = PATH_MAX - 1;
-
 std::string slashed(std::string_view documentPath) {
     std::string spelt(documentPath);
     std::replace(spelt.begin(), spelt.end(), '\\', '/');
     return spelt;
 }
 
-bool isThere(const std::string& path) {
-    struct stat result {};
-    return ::stat(path.c_str(), &result) == 0;
-}
-
 // True for what can be no path at all.
 bool isNoPath(const std::string& spelt) {
-    return spelt.size() > longestPath || spelt.find('\0') != std::string::npos;
+    return spelt.size() > longestPath() || spelt.find('\0') != std::string::npos;
 }
 
 template <class Visit> void forEachPart(std::string_view path, Visit&& visit) {
@@ -51,25 +38,10 @@ template <class Visit> void forEachPart(std::string_view path, Visit&& visit) {
     }
 }
 
-// Calls take(name) for each entry of an open folder until it returns true.
-template <class Take> void eachEntry(const Descriptor& folder, Take&& take) {
-    const int again = uninterrupted(
-        [&] { return ::openat(folder.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
-    const auto close = [](DIR* open) { ::closedir(open); };
-    const std::unique_ptr<DIR, decltype(close)> entries(again < 0 ? nullptr : ::fdopendir(again),
-                                                        close);
-    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr) {
-        const std::string_view name = &entry->d_name[0];
-        if (name != "." && name != ".." && take(name)) {
-            return;
-        }
-    }
-}
-
 // The entry that is called `name` but for letter case; empty when there is none.
-std::string entryIgnoringCase(const Descriptor& folder, std::string_view name) {
+std::string entryIgnoringCase(const DiskPlace& folder, std::string_view name) {
     std::string found;
-    eachEntry(folder, [&](std::string_view entry) {
+    folder.eachName([&](std::string_view entry) {
         if (equalsIgnoringCase(entry, name)) {
             found = entry;
         }
@@ -87,18 +59,18 @@ void appendPart(std::string& path, std::string_view part) {
 
 // The path with each part as the disk spells it, as far as it exists.
 std::string spelledByTheDisk(std::string_view spelt) {
-    const bool absolute = spelt.starts_with('/');
-    std::string found = absolute ? "/" : "";
-    // What is found so far; closed from the first part on that is missing.
-    Descriptor here = openAt(AT_FDCWD, absolute ? "/" : ".", O_PATH);
-    forEachPart(spelt, [&](std::string_view part) {
+    const std::size_t root = rootLength(spelt);
+    std::string found(spelt.substr(0, root));
+    // What is found so far; nowhere from the first part on that is missing.
+    DiskPlace here(root > 0 ? found : ".");
+    forEachPart(spelt.substr(root), [&](std::string_view part) {
         std::string name(part);
-        if (here.isOpen()) {
-            Descriptor next = openAt(here.number(), name.c_str(), O_PATH);
-            if (const std::string other = next.isOpen() ? "" : entryIgnoringCase(here, part);
+        if (here.isThere()) {
+            DiskPlace next = here.part(name);
+            if (const std::string other = next.isThere() ? "" : entryIgnoringCase(here, part);
                 !other.empty()) {
                 name = other;
-                next = openAt(here.number(), name.c_str(), O_PATH);
+                next = here.part(name);
             }
             here = std::move(next);
         }
@@ -125,31 +97,13 @@ bool climbsOut(std::string_view path) {
 bool isSpeltOutside(const fs::path& folder, std::string_view spelt) {
     const bool drive = spelt.size() >= 2 && spelt[1] == ':';
     return drive || spelt.starts_with('/') || climbsOut(spelt) ||
-           folder.native().size() + 1 + spelt.size() > longestPath;
-}
-
-// The path behind all links, by one call of the system where it offers that; nothing for a path
-// that does not exist.
-std::optional<std::string> realPath(const std::string& path) {
-    const Descriptor file = openAt(AT_FDCWD, path.c_str(), O_PATH);
-    if (!file.isOpen()) {
-        return std::nullopt;
-    }
-    const std::string link = "/proc/self/fd/" + std::to_string(file.number());
-    std::array<char, PATH_MAX> text{};
-    const auto size = ::readlink(link.c_str(), text.data(), text.size());
-    if (size > 0 && static_cast<std::size_t>(size) < text.size() && text.front() == '/') {
-        return std::string(text.data(), static_cast<std::size_t>(size));
-    }
-    std::error_code error;
-    const fs::path real = fs::canonical(path, error);
-    return error ? std::nullopt : std::optional(real.string());
+           utf8Of(folder).size() + 1 + spelt.size() > longestPath();
 }
 
 // The path behind all links; nothing for what does not exist. Throws for what cannot be looked at,
 // so that nobody takes it for something else.
 std::optional<std::string> realPathIfThere(const fs::path& path) {
-    auto real = realPath(path.native());
+    auto real = realPath(path);
     if (!real && errno != ENOENT && errno != ENOTDIR && errno != ELOOP) {
         throw FileError(errno, path);
     }
@@ -157,7 +111,7 @@ std::optional<std::string> realPathIfThere(const fs::path& path) {
 }
 
 std::string realPathOf(const fs::path& path) {
-    auto real = realPath(path.native());
+    auto real = realPath(path);
     if (!real) {
         throw FileError(errno, path);
     }
@@ -170,13 +124,16 @@ bool isBelow(std::string_view folder, std::string_view path) {
 }
 
 std::string backslashProblem(std::string_view beginning, const fs::path& path) {
+    if constexpr (fs::path::preferred_separator == '\\') {
+        return {}; // it only separates
+    }
     std::error_code error;
     const fs::path full = fs::absolute(path, error);
     if (error) {
         return FileError(error.value(), path).what();
     }
-    if (full.native().find('\\') != std::string::npos) {
-        return std::string(beginning).append(" cannot hold a backslash: ").append(full.native());
+    if (utf8Of(full).find('\\') != std::string::npos) {
+        return std::string(beginning).append(" cannot hold a backslash: ").append(utf8Of(full));
     }
     return {};
 }
@@ -185,13 +142,13 @@ std::string backslashProblem(std::string_view beginning, const fs::path& path) {
 
 fs::path hostPath(std::string_view documentPath) {
     std::string spelt = slashed(documentPath);
-    return isNoPath(spelt) || isThere(spelt) ? std::move(spelt) : spelledByTheDisk(spelt);
+    return pathOf(isNoPath(spelt) || isThereAsSpelt(spelt) ? spelt : spelledByTheDisk(spelt));
 }
 
 std::string documentPath(const fs::path& path) {
     std::error_code error;
     const fs::path full = fs::absolute(path, error);
-    std::string text = error ? path.string() : full.string();
+    std::string text = utf8Of(error ? path : full);
     std::replace(text.begin(), text.end(), '/', '\\');
     return text;
 }
@@ -209,6 +166,12 @@ bool FileExists(std::string_view path) {
     return FileFinder().FileExists(path);
 }
 
+bool isSameFile(const fs::path& a, const fs::path& b) {
+    const auto one = statusOf(a);
+    const auto other = statusOf(b);
+    return one && other && one->kind != FileKind::other && one->identity == other->identity;
+}
+
 bool leadsOutside(const fs::path& folder, std::string_view file) {
     return FileFinder().leadsOutside(folder, file);
 }
@@ -219,16 +182,17 @@ bool liesWithin(const fs::path& folder, const fs::path& path) {
 }
 
 fs::path writtenPath(const fs::path& folder, const fs::path& target) {
-    std::error_code error;
-    if (!fs::is_symlink(target, error) || !fs::is_regular_file(target, error) ||
-        !liesWithin(folder, target)) {
+    const auto itself = statusOfItself(target);
+    const auto file = itself && itself->kind == FileKind::link ? statusOf(target) : std::nullopt;
+    if (!file || file->kind != FileKind::regular || !liesWithin(folder, target)) {
         return target;
     }
-    return realPath(target.native()).value_or(target.native());
+    const auto real = realPath(target);
+    return real ? pathOf(*real) : target;
 }
 
 fs::path FileFinder::hostPath(std::string_view documentPath) {
-    return located(slashed(documentPath)).path;
+    return pathOf(located(slashed(documentPath)).path);
 }
 
 bool FileFinder::FileExists(std::string_view path) {
@@ -236,14 +200,12 @@ bool FileFinder::FileExists(std::string_view path) {
     if (!found.isThere) {
         return false;
     }
-    std::error_code error;
-    const auto status = fs::status(found.path, error);
-    return !error && fs::exists(status) && !fs::is_directory(status);
+    const auto status = statusOf(pathOf(found.path));
+    return status && status->kind != FileKind::folder;
 }
 
 bool FileFinder::isSameFile(std::string_view a, std::string_view b) {
-    std::error_code error;
-    return fs::equivalent(hostPath(a), hostPath(b), error) && !error;
+    return tarvel::isSameFile(hostPath(a), hostPath(b));
 }
 
 bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
@@ -251,8 +213,8 @@ bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
     if (isSpeltOutside(folder, spelt)) {
         return true;
     }
-    const Found found = located(folder.native() + '/' + spelt);
-    const auto real = found.isThere ? realPath(found.path) : std::nullopt;
+    const Found found = located(slashedUtf8Of(folder) + '/' + spelt);
+    const auto real = found.isThere ? realPath(pathOf(found.path)) : std::nullopt;
     if (!real) {
         return false;
     }
@@ -270,13 +232,13 @@ FileFinder::Found FileFinder::located(const std::string& spelt) {
     const auto slash = spelt.rfind('/');
     if (slash == std::string::npos || slash + 1 == spelt.size()) {
         std::string path = spelledByTheDisk(spelt);
-        const bool there = isThere(path);
+        const bool there = statusOf(pathOf(path)).has_value();
         return {std::move(path), there};
     }
     const std::string_view name = std::string_view(spelt).substr(slash + 1);
     Folder& folder = folderOf(std::string_view(spelt).substr(0, slash + 1));
     std::string path = folder.spelling + std::string(name);
-    if (folder.entries == nullptr && isThere(path)) {
+    if (folder.entries == nullptr && isThereAsSpelt(path)) {
         return {std::move(path), true};
     }
     const Entries& entries = entriesOf(folder);
@@ -284,7 +246,7 @@ FileFinder::Found FileFinder::located(const std::string& spelt) {
     if (entry == entries.end()) {
         return {std::move(path), false};
     }
-    if (entry->second == name || isThere(path)) {
+    if (entry->second == name || isThereAsSpelt(path)) {
         return {std::move(path), true};
     }
     return {folder.spelling + entry->second, true};
@@ -303,15 +265,15 @@ const FileFinder::Entries& FileFinder::entriesOf(Folder& folder) {
     if (folder.entries != nullptr) {
         return *folder.entries;
     }
-    const Descriptor open = openAt(AT_FDCWD, folder.spelling.c_str(), O_PATH);
-    struct stat status {};
-    if (!open.isOpen() || ::fstat(open.number(), &status) != 0) {
+    const DiskPlace open(folder.spelling);
+    const auto identity = open.identity();
+    if (!identity) {
         folder.entries = &none;
         return none;
     }
-    const auto [known, isNew] = entries_.try_emplace({status.st_dev, status.st_ino});
+    const auto [known, isNew] = entries_.try_emplace(*identity);
     if (isNew) {
-        eachEntry(open, [&names = known->second](std::string_view name) {
+        open.eachName([&names = known->second](std::string_view name) {
             names.try_emplace(lowerCased(name), name);
             return false;
         });

@@ -3,14 +3,14 @@
 // Paths in the document are UTF-8 with backslashes. Nothing here throws unless stated otherwise.
 #pragma once
 
+#include "files/system_files.h"
+
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 #include <unordered_map>
-#include <utility>
 
 namespace tarvel {
 
@@ -31,6 +31,9 @@ namespace tarvel {
 
 /// True when the path exists and is no folder; false on every error.
 [[nodiscard]] bool FileExists(std::string_view path);
+
+/// True when both paths lead to one file or folder that is there.
+[[nodiscard]] bool isSameFile(const std::filesystem::path& a, const std::filesystem::path& b);
 
 /// True when `file`, a File text of a skin, leads out of the skin's folder: by "..", as an absolute
 /// path, by a drive letter or through a link. Also when it is longer than any path of the host, so
@@ -76,7 +79,7 @@ class FileFinder {
     [[nodiscard]] const Entries& entriesOf(Folder& folder);
 
     std::unordered_map<std::string, Folder> folders_; // by their spelling in the document
-    std::map<std::pair<dev_t, ino_t>, Entries> entries_;
+    std::map<FileIdentity, Entries> entries_;
     std::filesystem::path root_; // the folder asked for last, and its real path
     std::string realRoot_;
 };

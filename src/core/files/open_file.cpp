@@ -1,63 +1,35 @@
-// Makes the calls of the system on one open file, and tells of those that fail.
+// Goes on with what the system did in part, and tells of what failed.
 #include "files/open_file.h"
 
 #include "files/host_files.h"
 
 #include <algorithm>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
+#include <cerrno>
 #include <utility>
 
 namespace tarvel {
 
-namespace {
-
-// Some file systems have nothing to flush to and say so.
-bool flushed(int descriptor) {
-    return uninterrupted([=] { return ::fsync(descriptor); }) == 0 || errno == EINVAL ||
-           errno == ENOTSUP;
-}
-
-} // namespace
-
 Descriptor::Descriptor(Descriptor&& other) noexcept
-    : number_(std::exchange(other.number_, -1)) {}
+    : number_(std::exchange(other.number_, none)) {}
 
 Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
     if (this != &other) {
         reset();
-        number_ = std::exchange(other.number_, -1);
+        number_ = std::exchange(other.number_, none);
     }
     return *this;
 }
 
-bool Descriptor::reset() {
-    const int number = std::exchange(number_, -1);
-    // A close that a signal broke into has closed all the same.
-    return number < 0 || ::close(number) == 0 || errno == EINTR;
-}
-
-Descriptor openAt(int at, const char* path, int flags, mode_t mode) {
-    return Descriptor(uninterrupted(
-        [=] { return ::openat(at, path, flags | O_CLOEXEC, mode); })); // NOLINT: variadic by POSIX
-}
-
-bool tryLock(const Descriptor& file) {
-    return uninterrupted([&] { return ::flock(file.number(), LOCK_EX | LOCK_NB); }) == 0;
-}
-
-OpenFile::OpenFile(const std::filesystem::path& path, int flags, mode_t mode,
-                   std::filesystem::path shownAs)
+OpenFile::OpenFile(const std::filesystem::path& path, Opening how, std::filesystem::path shownAs)
     : path_(std::move(shownAs))
-    , descriptor_(openAt(AT_FDCWD, path.c_str(), flags, mode)) {
+    , descriptor_(openFile(path, how)) {
     if (!descriptor_.isOpen()) {
         fail();
     }
 }
 
-OpenFile::OpenFile(const std::filesystem::path& path, int flags, mode_t mode)
-    : OpenFile(path, flags, mode, path) {}
+OpenFile::OpenFile(const std::filesystem::path& path, Opening how)
+    : OpenFile(path, how, path) {}
 
 void OpenFile::fail() const {
     throw FileError(errno, path_);
@@ -65,7 +37,7 @@ void OpenFile::fail() const {
 
 void OpenFile::write(const char* data, std::size_t size) const {
     while (size > 0) {
-        const auto written = uninterrupted([=, this] { return ::write(number(), data, size); });
+        const auto written = writeSome(descriptor_, data, size);
         if (written < 0) {
             fail();
         }
@@ -76,8 +48,7 @@ void OpenFile::write(const char* data, std::size_t size) const {
 
 void OpenFile::writeAt(std::uint64_t place, const char* data, std::size_t size) const {
     while (size > 0) {
-        const auto written = uninterrupted(
-            [=, this] { return ::pwrite(number(), data, size, static_cast<off_t>(place)); });
+        const auto written = writeSomeAt(descriptor_, place, data, size);
         if (written < 0) {
             fail();
         }
@@ -88,7 +59,7 @@ void OpenFile::writeAt(std::uint64_t place, const char* data, std::size_t size) 
 }
 
 std::size_t OpenFile::read(char* data, std::size_t size) const {
-    const auto got = uninterrupted([=, this] { return ::read(number(), data, size); });
+    const auto got = readSome(descriptor_, data, size);
     if (got < 0) {
         fail();
     }
@@ -96,8 +67,7 @@ std::size_t OpenFile::read(char* data, std::size_t size) const {
 }
 
 std::size_t OpenFile::readAt(std::uint64_t place, char* data, std::size_t size) const {
-    const auto got = uninterrupted(
-        [=, this] { return ::pread(number(), data, size, static_cast<off_t>(place)); });
+    const auto got = readSomeAt(descriptor_, place, data, size);
     if (got < 0) {
         fail();
     }
@@ -106,7 +76,7 @@ std::size_t OpenFile::readAt(std::uint64_t place, char* data, std::size_t size) 
 
 std::string OpenFile::readAll() const {
     std::string bytes;
-    bytes.resize(static_cast<std::size_t>(std::max<off_t>(status().st_size, 0)) + 1);
+    bytes.resize(static_cast<std::size_t>(std::max<std::int64_t>(status().size, 0)) + 1);
     std::size_t size = 0;
     while (const std::size_t got = read(bytes.data() + size, bytes.size() - size)) {
         size += got;
@@ -118,16 +88,16 @@ std::string OpenFile::readAll() const {
     return bytes;
 }
 
-struct stat OpenFile::status() const {
-    struct stat result {};
-    if (::fstat(number(), &result) != 0) {
+FileStatus OpenFile::status() const {
+    const auto status = statusOf(descriptor_);
+    if (!status) {
         fail();
     }
-    return result;
+    return *status;
 }
 
 void OpenFile::flush() const {
-    if (!flushed(number())) {
+    if (!flushToDisk(descriptor_)) {
         fail();
     }
 }
@@ -139,17 +109,16 @@ void OpenFile::close() {
 }
 
 void flushFolder(const std::filesystem::path& folder) {
-    const auto& path = folder.empty() ? std::filesystem::path(".") : folder;
-    const Descriptor opened = openAt(AT_FDCWD, path.c_str(), O_RDONLY | O_DIRECTORY);
+    const Descriptor opened = openFile(folder.empty() ? "." : folder, Opening::folder);
     // A folder may be closed to reading and open to changes: there is no flushing it then.
     if (!opened.isOpen() && errno != ENOENT) {
         return;
     }
-    if (!opened.isOpen() || !flushed(opened.number())) {
+    if (!opened.isOpen() || !flushToDisk(opened)) {
         throw FileError(errno, folder);
     }
-    struct stat status {};
-    if (::fstat(opened.number(), &status) == 0 && status.st_nlink == 0) {
+    const auto status = statusOf(opened);
+    if (status && status->links == 0) {
         throw FileError(ENOENT, folder);
     }
 }

@@ -3,13 +3,12 @@
 #include "files/replacement.h"
 
 #include "files/host_files.h"
+#include "files/path_text.h"
 
 #include <algorithm>
-#include <fcntl.h>
+#include <cerrno>
 #include <string>
 #include <string_view>
-#include <system_error>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -25,7 +24,7 @@ constexpr std::string_view besidePrefix = ".tarvel-";
 fs::path nextBeside(const fs::path& target) {
     static int count = 0;
     std::string name(besidePrefix);
-    name.append(std::to_string(::getpid())).append("-").append(std::to_string(++count));
+    name.append(std::to_string(processNumber())).append("-").append(std::to_string(++count));
     return target.parent_path() / name;
 }
 
@@ -38,7 +37,7 @@ bool isBesideName(std::string_view name) {
 // it or be about to.
 bool isOurs(const OpenFile& file) {
     const bool taken = !tryLock(file.descriptor()) && errno == EWOULDBLOCK;
-    return !taken && file.status().st_nlink > 0;
+    return !taken && file.status().links > 0;
 }
 
 // Leaves nothing of a file that is not ours, or that cannot be looked at.
@@ -48,10 +47,10 @@ bool isOursOrGone(const OpenFile& file, const fs::path& path) {
             return true;
         }
     } catch (const FileError&) {
-        ::unlink(path.c_str());
+        removeName(path);
         throw;
     }
-    ::unlink(path.c_str());
+    removeName(path);
     return false;
 }
 
@@ -60,7 +59,7 @@ OpenFile openBeside(const fs::path& target, fs::path& beside) {
     for (int i = 1;; ++i) {
         beside = nextBeside(target);
         try {
-            OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL, 0666, target);
+            OpenFile file(beside, Opening::makeNew, target);
             if (isOursOrGone(file, beside)) {
                 return file;
             }
@@ -72,22 +71,11 @@ OpenFile openBeside(const fs::path& target, fs::path& beside) {
     }
 }
 
-void keepPermissions(const fs::path& target, const OpenFile& file) {
-    struct stat older {};
-    if (::lstat(target.c_str(), &older) == 0 && S_ISREG(older.st_mode)) {
-        constexpr mode_t permissionBits = 0777;
-        (void)::fchmod(file.number(), older.st_mode & permissionBits); // not known everywhere
-    }
-}
-
 void removeIfLeft(const fs::path& path) {
-    const Descriptor opened = openAt(AT_FDCWD, path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
-    struct stat status {};
-    if (!opened.isOpen() || ::fstat(opened.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
-        return;
-    }
-    if (tryLock(opened)) {
-        ::unlink(path.c_str());
+    const Descriptor opened = openFile(path, Opening::readItself);
+    const auto status = opened.isOpen() ? statusOf(opened) : std::nullopt;
+    if (status && status->kind == FileKind::regular && tryLock(opened)) {
+        removeName(path);
     }
 }
 
@@ -96,19 +84,19 @@ void removeIfLeft(const fs::path& path) {
 Replacement::Replacement(fs::path target)
     : target_(std::move(target))
     , file_(openBeside(target_, beside_)) {
-    keepPermissions(target_, file_);
+    keepPermissions(target_, file_.descriptor());
 }
 
 Replacement::~Replacement() {
     if (!beside_.empty()) {
-        ::unlink(beside_.c_str());
+        removeName(beside_);
     }
 }
 
 void Replacement::takePlace() {
     file_.flush();
     // Still open, and so locked: nobody takes the file for a leftover before it has its name.
-    if (uninterrupted([this] { return ::rename(beside_.c_str(), target_.c_str()); }) != 0) {
+    if (!renameOver(beside_, target_)) {
         throw FileError(errno, target_);
     }
     beside_.clear();
@@ -117,14 +105,13 @@ void Replacement::takePlace() {
 }
 
 void removeLeftovers(const fs::path& folder) {
-    std::error_code error;
     std::vector<fs::path> candidates;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        if (isBesideName(entry->path().filename().native())) {
-            candidates.push_back(entry->path());
+    eachEntryOf(folder, [&](const FolderEntry& entry) {
+        if (isBesideName(utf8Of(entry.path.filename()))) {
+            candidates.push_back(entry.path);
         }
-    }
+        return true;
+    });
     std::for_each(candidates.begin(), candidates.end(), removeIfLeft);
 }
 

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace tarvel {
 
@@ -169,8 +167,8 @@ std::optional<PictureSize> pictureSize(std::string_view bytes) {
 
 std::optional<PictureSize> pictureSizeOfFile(const std::filesystem::path& file) {
     try {
-        const OpenFile open(file, O_RDONLY | O_NONBLOCK);
-        return S_ISREG(open.status().st_mode) ? sizeFrom(FileSource(open)) : std::nullopt;
+        const OpenFile open(file, Opening::read);
+        return open.status().kind == FileKind::regular ? sizeFrom(FileSource(open)) : std::nullopt;
     } catch (const FileError&) {
         return std::nullopt;
     }

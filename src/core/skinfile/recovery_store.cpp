@@ -2,14 +2,14 @@
 #include "skinfile/recovery_store.h"
 
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "files/replacement.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <limits>
 #include <set>
-#include <system_error>
-#include <unistd.h>
 #include <utility>
 
 namespace tarvel {
@@ -31,32 +31,36 @@ std::string runName() {
     using std::chrono::milliseconds;
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     const auto time = std::chrono::duration_cast<milliseconds>(now).count();
-    return "run-" + std::to_string(time) + "-" + std::to_string(::getpid());
+    return "run-" + std::to_string(time) + "-" + std::to_string(processNumber());
 }
 
 // The runs with a file in the folder, as paths without suffix.
 std::set<fs::path> runsIn(const fs::path& folder) {
     std::set<fs::path> stems;
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const fs::path& path = entry->path();
+    eachEntryOf(folder, [&](const FolderEntry& entry) {
+        const fs::path& path = entry.path;
         const bool isOurs = path.extension() == workSuffix || path.extension() == lockSuffix;
-        if (isOurs && path.filename().string().starts_with("run-")) {
+        if (isOurs && utf8Of(path.filename()).starts_with("run-")) {
             stems.insert(folder / path.stem());
         }
-    }
+        return true;
+    });
     return stems;
 }
 
 bool isFile(const fs::path& path) {
-    std::error_code error;
-    return fs::is_regular_file(fs::symlink_status(path, error));
+    const auto status = statusOfItself(path);
+    return status && status->kind == FileKind::regular;
 }
 
-fs::file_time_type timeOf(const fs::path& path) {
-    std::error_code error;
-    return fs::last_write_time(path, error);
+std::int64_t timeOf(const fs::path& path) {
+    const auto status = statusOf(path);
+    return status ? status->written : std::numeric_limits<std::int64_t>::min();
+}
+
+// True when nothing is left of it.
+bool isRemoved(const fs::path& path) {
+    return removeName(path) || errno == ENOENT;
 }
 
 } // namespace
@@ -95,7 +99,7 @@ std::vector<fs::path> RecoveryStore::takeLost() {
     for (const fs::path& stem : runsIn(folder_)) {
         findLostRun(stem);
     }
-    std::vector<std::pair<fs::file_time_type, fs::path>> found;
+    std::vector<std::pair<std::int64_t, fs::path>> found;
     for (const LostRun& run : lost_) {
         found.emplace_back(timeOf(run.file), run.file);
     }
@@ -136,7 +140,7 @@ void RecoveryStore::forget(const fs::path& lost) {
 fs::path RecoveryStore::setAside(const fs::path& lost) {
     const fs::path stem = folder_ / lost.stem();
     fs::path target = withSuffix(stem, asideSuffix);
-    for (int i = 2; fs::exists(fs::symlink_status(target)); ++i) {
+    for (int i = 2; statusOfItself(target); ++i) {
         target = withSuffix(stem, ("-" + std::to_string(i) + asideSuffix).c_str());
     }
     moveFile(lost, target);
@@ -158,14 +162,13 @@ void RecoveryStore::letGo(const fs::path& lost) {
 }
 
 void RecoveryStore::endProperly() {
-    std::error_code ignored;
     for (LostRun& run : lost_) {
-        if (fs::remove(run.file, ignored) || !ignored) {
+        if (isRemoved(run.file)) {
             run.hold.remove();
         }
     }
     lost_.clear();
-    if (own_ && (fs::remove(file_, ignored) || !ignored)) {
+    if (own_ && isRemoved(file_)) {
         own_->remove();
     }
     own_.reset();

@@ -2,11 +2,11 @@
 #include "skinfile/save_plan.h"
 
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "text/text_case.h"
 
 #include <map>
 #include <optional>
-#include <sys/stat.h>
 #include <unordered_map>
 #include <utility>
 
@@ -16,14 +16,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using FileId = std::pair<dev_t, ino_t>;
-
-std::optional<FileId> idOf(const fs::path& file) {
-    struct stat status {};
-    if (::stat(file.c_str(), &status) != 0) {
-        return std::nullopt;
-    }
-    return FileId{status.st_dev, status.st_ino};
+std::optional<FileIdentity> idOf(const fs::path& file) {
+    const auto status = statusOf(file);
+    return status ? std::optional(status->identity) : std::nullopt;
 }
 
 class Planner {
@@ -51,17 +46,18 @@ class Planner {
     // A place that a copy goes to.
     struct Place {
         fs::path path;
-        std::optional<FileId> target; // what lies there
-        std::optional<FileId> source; // of the first copy that goes there
+        std::optional<FileIdentity> target; // what lies there
+        std::optional<FileIdentity> source; // of the first copy that goes there
         bool isShared = false;
     };
 
     void refuseFolderOutside(std::string_view below) {
         const fs::path path = finder_.hostPath(prefix_ + std::string(below));
-        std::error_code error;
-        if (plan_.obstacle.empty() && fs::is_directory(path, error) && !liesWithin(folder_, path)) {
+        const auto status = statusOf(path);
+        if (plan_.obstacle.empty() && status && status->kind == FileKind::folder &&
+            !liesWithin(folder_, path)) {
             plan_.obstacle =
-                path.parent_path().string() + " is a link that leads out of the skin's folder";
+                utf8Of(path.parent_path()) + " is a link that leads out of the skin's folder";
         }
     }
 
@@ -105,12 +101,12 @@ class Planner {
     }
 
     Place& placeOf(std::string_view below, std::string_view name,
-                   const std::optional<FileId>& source) {
+                   const std::optional<FileIdentity>& source) {
         const std::string folder = prefix_ + std::string(below);
         fs::path path = finder_.hostPath(folder + std::string(name));
         const auto target = idOf(path);
         // What does not exist yet is found by the name of the copy that makes it.
-        const std::string key = target ? path.string() : folder + lowerCased(name);
+        const std::string key = target ? utf8Of(path) : folder + lowerCased(name);
         const auto [place, isFirst] = places_.try_emplace(key);
         if (isFirst) {
             place->second = {target ? writtenPath(folder_, path) : path, target, source};
@@ -122,7 +118,7 @@ class Planner {
     }
 
     static std::string meetingProblem(const fs::path& kept, const fs::path& taker) {
-        return "two files have one name, " + kept.string() + " and " + taker.string() +
+        return "two files have one name, " + utf8Of(kept) + " and " + utf8Of(taker) +
                ", and the second would take the place of the first";
     }
 
@@ -131,8 +127,9 @@ class Planner {
     std::string prefix_;
     FileFinder finder_;
     std::unordered_map<std::string, Place> places_;
-    std::map<FileId, fs::path> sources_;             // all that a save reads
-    std::vector<std::pair<FileId, fs::path>> taken_; // files that lose their place, and to what
+    std::map<FileIdentity, fs::path> sources_; // all that a save reads
+    std::vector<std::pair<FileIdentity, fs::path>>
+        taken_; // files that lose their place, and to what
     SavePlan plan_;
 };
 

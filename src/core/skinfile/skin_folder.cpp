@@ -4,6 +4,7 @@
 #include "document/layout_screens.h"
 #include "files/folder_hold.h"
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "files/replacement.h"
 #include "skinfile/save_plan.h"
 #include "skinfile/skin_reader.h"
@@ -125,7 +126,7 @@ SaveOutcome saveSkin(SkinDocument& document, SkinWriter& writer,
     }
     const FolderHold hold(folder);
     if (hold.isTaken()) {
-        return notBegun("Somebody is saving into this folder at the moment: " + folder.string(),
+        return notBegun("Somebody is saving into this folder at the moment: " + utf8Of(folder),
                         hooks);
     }
     SavePlan plan = planSave(document.settings(), folder);

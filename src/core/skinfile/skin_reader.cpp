@@ -10,9 +10,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <exception>
 #include <new>
-#include <system_error>
 
 namespace tarvel {
 
@@ -125,9 +125,8 @@ constexpr std::size_t deepest = 1000;
 XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
     try {
         const auto path = skinFilePath(folder);
-        std::error_code ignored; // reading tells what is wrong
-        const auto size = std::filesystem::file_size(path, ignored);
-        if (!ignored && size > largestSkinText) {
+        const auto status = statusOf(path); // reading tells what is wrong
+        if (status && status->size > static_cast<std::int64_t>(largestSkinText)) {
             throw unreadable("the file is too large");
         }
         return readSkinText(readFile(path), notes);
@@ -141,10 +140,8 @@ XmlTree parsedSkin(const std::filesystem::path& folder, SkinTextNotes& notes) {
 
 // What is there and cannot be looked at is for the reading to tell.
 bool isMissing(const std::filesystem::path& file) {
-    std::error_code ignored;
-    const auto type = std::filesystem::status(file, ignored).type();
-    return type == std::filesystem::file_type::not_found ||
-           type == std::filesystem::file_type::directory;
+    const auto status = statusOf(file);
+    return status ? status->kind == FileKind::folder : errno == ENOENT || errno == ENOTDIR;
 }
 
 SkinDocument withSkin(SkinDocument document, const std::filesystem::path& folder,

@@ -1,11 +1,10 @@
-// Picture files by POSIX calls: they take paths that are no Unicode, and tell times exactly.
+// Picture files by the calls of the core: they take paths that are no Unicode, and tell times
+// exactly.
 #include "surface/picture_file.h"
 
 #include "files/host_files.h"
 
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace tarvel {
 
@@ -21,22 +20,17 @@ std::filesystem::path resolved(const QByteArray& file) {
     return hostPath({file.constData(), static_cast<std::size_t>(file.size())});
 }
 
-std::int64_t nanoseconds(const timespec& time) {
-    constexpr std::int64_t second = 1'000'000'000;
-    return time.tv_sec * second + time.tv_nsec;
-}
-
 FileStamp stampOf(const std::filesystem::path& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) {
+    const auto status = statusOf(path);
+    if (!status) {
         return {};
     }
     return {.there = true,
-            .device = status.st_dev,
-            .number = status.st_ino,
-            .size = status.st_size,
-            .written = nanoseconds(status.st_mtim),
-            .changed = nanoseconds(status.st_ctim)};
+            .device = status->identity.volume,
+            .number = status->identity.number,
+            .size = status->size,
+            .written = status->written,
+            .changed = status->changed};
 }
 
 FileStamp innermostFolder(std::filesystem::path path) {
@@ -86,23 +80,22 @@ QString openPicture(const QByteArray& file, const SeenFile& seen, QFile& into) {
         into.setFileName(QString::fromUtf8(file));
         return into.open(QIODevice::ReadOnly) ? QString() : notFound;
     }
-    struct stat status {};
-    if (file.isEmpty() || ::stat(seen.path.c_str(), &status) != 0) {
+    const auto status = file.isEmpty() ? std::nullopt : statusOf(seen.path);
+    if (!status) {
         const bool missing = file.isEmpty() || errno == ENOENT || errno == ENOTDIR;
         return missing ? notFound : notReadable;
     }
     // Only regular files: opening a pipe would wait for its writer.
-    if (!S_ISREG(status.st_mode)) {
+    if (status->kind != FileKind::regular) {
         return notReadable;
     }
-    if (status.st_size > largestFile) {
+    if (status->size > largestFile) {
         return QStringLiteral("too large");
     }
-    // O_NONBLOCK for a pipe that takes the file's place just now.
-    const int descriptor =
-        ::open(seen.path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); // NOLINT: variadic by POSIX
+    // Not waiting for a pipe that takes the file's place just now.
+    const int number = openFile(seen.path, Opening::read).release();
     const bool opened =
-        descriptor >= 0 && into.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+        number >= 0 && into.open(number, QIODevice::ReadOnly, QFile::AutoCloseHandle);
     return opened ? QString() : notReadable;
 }
 

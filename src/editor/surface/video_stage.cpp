@@ -2,6 +2,7 @@
 #include "surface/video_stage.h"
 
 #include "files/host_files.h"
+#include "widgets/qt_text.h"
 
 #include <QFile>
 #include <QMediaPlayer>
@@ -12,8 +13,8 @@
 #include <QVideoSink>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
-#include <system_error>
 #include <utility>
 
 namespace tarvel {
@@ -50,13 +51,11 @@ int screenOf(const SkinDocument& document, int id) {
 }
 
 QString problemOfFile(const std::filesystem::path& path) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    const auto status = fs::status(path, error);
-    if (status.type() == fs::file_type::not_found) {
+    const auto status = statusOf(path);
+    if (!status && (errno == ENOENT || errno == ENOTDIR)) {
         return QStringLiteral("not found");
     }
-    if (status.type() != fs::file_type::regular) {
+    if (!status || status->kind != FileKind::regular) {
         return QStringLiteral("not readable");
     }
     return {};
@@ -65,7 +64,7 @@ QString problemOfFile(const std::filesystem::path& path) {
 // Players tell a missing decoder from a broken file only in words of the user's language. A file
 // that begins as a wmv file does is taken for a good one.
 QString problemOfContent(const std::filesystem::path& path) {
-    QFile file(QString::fromStdString(path.string()));
+    QFile file(qtPath(path));
     if (!file.open(QIODevice::ReadOnly)) {
         return QStringLiteral("not readable");
     }
@@ -295,7 +294,7 @@ void VideoStage::open(int elementId, Seat& seat) {
     connect(player, &QMediaPlayer::errorOccurred, this,
             [this, elementId, path] { fail(elementId, problemOfContent(path)); });
     watch(elementId, player, path);
-    player->setSource(QUrl::fromLocalFile(QString::fromStdString(path.string())));
+    player->setSource(QUrl::fromLocalFile(qtPath(path)));
     player->setPlaybackRate(rate_);
     player->play(); // also while time is held: a first frame is wanted
 }

@@ -1,6 +1,7 @@
 // Text between the core (UTF-8) and Qt.
 #pragma once
 
+#include "files/path_text.h"
 #include "text/value_encodings.h"
 
 #include <QByteArray>
@@ -24,7 +25,12 @@ namespace tarvel {
 }
 
 [[nodiscard]] inline std::filesystem::path hostPathOf(const QString& path) {
-    return coreText(path);
+    return pathOf(coreText(path));
+}
+
+/// As the user sees it.
+[[nodiscard]] inline QString qtPath(const std::filesystem::path& path) {
+    return qtText(utf8Of(path));
 }
 
 /// A tool tip that shows the text as it stands, also where it looks like markup.

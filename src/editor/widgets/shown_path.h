@@ -13,7 +13,7 @@ namespace tarvel {
 
 /// The host's spelling of a document path.
 [[nodiscard]] inline QString shownPath(std::string_view documentPath) {
-    return qtText(hostPath(documentPath).string());
+    return qtPath(hostPath(documentPath));
 }
 
 /// The files of this computer among what is dragged; folders are left out.

@@ -155,7 +155,7 @@ std::optional<WorkState> RecoveryKeeper::readOrSetAside(const std::filesystem::p
         work_.prompts.message(
             &work_.window,
             tr("What the last run kept cannot be read (%1). The file is left as %2.%3")
-                .arg(qtText(error.what()), qtText(place.string()),
+                .arg(qtText(error.what()), qtPath(place),
                      problem.isEmpty() ? QString() : QLatin1Char('\n') + problem));
     }
     return std::nullopt;

@@ -5,13 +5,11 @@
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-
 namespace tarvel {
 
 TEST(OpenFile, WritesAtAPlaceAndGoesOnWhereItWas) {
     const TemporaryFolder folder;
-    const OpenFile file(folder / "file", O_WRONLY | O_CREAT);
+    const OpenFile file(folder / "file", Opening::makeNew);
     file.write("0123456789", 10);
     file.writeAt(2, "ab", 2);
     file.write("!", 1);
@@ -21,7 +19,7 @@ TEST(OpenFile, WritesAtAPlaceAndGoesOnWhereItWas) {
 
 TEST(OpenFile, NamesTheFileWhoseWritingFails) {
     const TemporaryFolder folder;
-    const OpenFile file(folder.file("file", "kept"), O_RDONLY, 0, "the target");
+    const OpenFile file(folder.file("file", "kept"), Opening::read, "the target");
     try {
         file.writeAt(0, "a", 1);
         ADD_FAILURE() << "no failure";
