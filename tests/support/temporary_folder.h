@@ -2,8 +2,9 @@
 #pragma once
 
 #include "files/host_files.h"
+#include "files/system_files.h"
 
-#include <cstdlib>
+#include <cerrno>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -14,11 +15,15 @@ namespace tarvel {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tarvel-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) {
+        static int count = 0;
+        const auto above = std::filesystem::temp_directory_path();
+        const std::string own = "tarvel-" + std::to_string(processNumber()) + "-";
+        do {
+            path_ = above / (own + std::to_string(++count));
+        } while (!makeFolder(path_) && errno == EEXIST);
+        if (!statusOf(path_)) {
             throw std::runtime_error("no temporary folder");
         }
-        path_ = name;
     }
     ~TemporaryFolder() {
         std::error_code ignored;

@@ -1,6 +1,7 @@
 // Files of a save that meet in one place, links, and saves that meet in one folder.
 #include "files/folder_hold.h"
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "skinfile/skin_folder.h"
 #include "support/temporary_folder.h"
 
@@ -45,7 +46,8 @@ class SavePlanTest : public testing::Test {
         Files found;
         for (const auto& entry : fs::recursive_directory_iterator(folder_.path())) {
             if (entry.is_regular_file()) {
-                found[entry.path().lexically_relative(folder_.path())] = readFile(entry.path());
+                found[slashedUtf8Of(entry.path().lexically_relative(folder_.path()))] =
+                    readFile(entry.path());
             }
         }
         return found;

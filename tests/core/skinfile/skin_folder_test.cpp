@@ -127,7 +127,7 @@ TEST_F(SkinFolderTest, MusicAndBackgroundAreNotCopiedOntoThemselves) {
 }
 
 TEST_F(SkinFolderTest, LongFileNamesAreCopied) {
-    const std::string name = std::string(251, 'n') + ".png"; // the longest that there is
+    const auto name = std::string(251, 'n').append(".png"); // the longest that there is
     folder_.file("short", "picture");
     fs::create_directories(folder_ / "a");
     fs::rename(folder_ / "short", folder_ / "a" / name);
