@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "files/system_files.h"
 
 #include <cerrno>
@@ -34,11 +35,11 @@ class TemporaryFolder {
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
     [[nodiscard]] std::filesystem::path operator/(std::string_view name) const {
-        return path_ / name;
+        return path_ / pathOf(name);
     }
     /// Writes a file, making its folders, and returns its path.
     std::filesystem::path file(std::string_view name, std::string_view content) const {
-        const auto path = path_ / name;
+        const auto path = path_ / pathOf(name);
         std::filesystem::create_directories(path.parent_path());
         writeFile(path, content);
         return path;
