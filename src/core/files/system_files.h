@@ -4,7 +4,6 @@
 // <cerrno>. No call is ended by a signal. Nothing throws but for want of memory.
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -22,7 +21,10 @@ struct FileIdentity {
     std::uint64_t volume = 0;
     std::uint64_t number = 0; // on its volume
 
-    auto operator<=>(const FileIdentity&) const = default;
+    bool operator==(const FileIdentity&) const = default;
+    bool operator<(const FileIdentity& other) const {
+        return volume < other.volume || (volume == other.volume && number < other.number);
+    }
 };
 
 struct FileStatus {
