@@ -45,12 +45,12 @@ class TemporaryFolder {
         return path;
     }
     std::filesystem::path folder(std::string_view name) const {
-        std::filesystem::create_directories(path_ / name);
-        return path_ / name;
+        std::filesystem::create_directories(path_ / pathOf(name));
+        return path_ / pathOf(name);
     }
     /// The document's spelling of a path in the folder.
     [[nodiscard]] std::string document(std::string_view name) const {
-        return documentPath(path_ / name);
+        return documentPath(path_ / pathOf(name));
     }
 
   private:

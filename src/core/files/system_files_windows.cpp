@@ -137,10 +137,12 @@ std::uint64_t joined(DWORD high, DWORD low) {
     return static_cast<std::uint64_t>(high) << 32U | low;
 }
 
-// Only those that lead to another place; others hold the content of a file in some other way.
+// Only those that lead to another place; others hold the content of a file in some other way. What
+// does not tell how it does may be a link, too.
 bool isLink(DWORD attributes, DWORD tag) {
     return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-           (tag == IO_REPARSE_TAG_SYMLINK || tag == IO_REPARSE_TAG_MOUNT_POINT);
+           (tag == IO_REPARSE_TAG_SYMLINK || tag == IO_REPARSE_TAG_MOUNT_POINT ||
+            tag == IO_REPARSE_TAG_RESERVED_ZERO);
 }
 
 FileKind kindOf(DWORD attributes, DWORD tag) {

@@ -1,19 +1,30 @@
 // One save at a time holds a folder.
 #include "files/folder_hold.h"
+#include "support/links.h"
+#include "support/other_process.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <optional>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace tarvel {
 
+namespace {
+
+constexpr const char* savingProcess = "hold a folder";
+const bool isKnown = test::OtherProcess::knows(
+    savingProcess, [](const std::filesystem::path& folder, const std::function<void()>& ready) {
+        const FolderHold hold(folder);
+        ready();
+        test::OtherProcess::waitForItsEnd();
+    });
+
+} // namespace
+
 TEST(FolderHold, IsOneAtATime) {
     const TemporaryFolder folder;
-    std::filesystem::create_directory_symlink(folder.path(), folder / "same");
+    test::makeLink(folder.path(), folder / "same");
     std::optional<FolderHold> first(folder.path());
     EXPECT_FALSE(first->isTaken());
     EXPECT_TRUE(FolderHold(folder.path()).isTaken());
@@ -31,24 +42,11 @@ TEST(FolderHold, LeavesNothingInTheFolder) {
 
 TEST(FolderHold, EndsWithItsProcess) {
     const TemporaryFolder folder;
-    int ready[2]; // NOLINT: as pipe() wants it
-    ASSERT_EQ(::pipe(&ready[0]), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const FolderHold hold(folder.path());
-        (void)!::write(ready[1], "x", 1);
-        for (;;) {
-            ::pause();
-        }
-    }
-    char held = 0;
-    ASSERT_EQ(::read(ready[0], &held, 1), 1);
+    test::OtherProcess other(savingProcess, folder.path());
+    ASSERT_TRUE(other.isReady());
     EXPECT_TRUE(FolderHold(folder.path()).isTaken());
-    ::kill(child, SIGKILL);
-    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    other.kill();
     EXPECT_FALSE(FolderHold(folder.path()).isTaken());
-    ::close(ready[0]);
-    ::close(ready[1]);
 }
 
 TEST(FolderHold, OfWhatIsNoFolderIsTakenByNobody) {

@@ -1,18 +1,15 @@
-// Files that take another's place: their permission bits, their folder on the disk, and what killed
-// runs leave.
+// What killed runs leave of files that were to take another's place.
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "files/replacement.h"
-#include "support/system_calls.h"
+#include "support/links.h"
+#include "support/other_process.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <set>
 #include <string>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace tarvel {
 
@@ -25,81 +22,30 @@ using Names = std::set<std::string>;
 Names entriesOf(const fs::path& folder) {
     Names names;
     for (const auto& entry : fs::directory_iterator(folder)) {
-        names.insert(entry.path().filename().string());
+        names.insert(utf8Of(entry.path().filename()));
     }
     return names;
 }
 
-unsigned bitsOf(const fs::path& file) {
-    return static_cast<unsigned>(fs::status(file).permissions());
-}
-
-// Lets a process begin a copy and be killed in the middle of it.
-void killACopy(const fs::path& from, const fs::path& to) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        copyFile(from, to, [](auto, auto) { return ::raise(SIGKILL) == 0; });
-        ::_exit(1);
-    }
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    ASSERT_TRUE(WIFSIGNALED(status));
-}
+constexpr const char* killedCopy = "copy a file";
+const bool isKnown = test::OtherProcess::knows(
+    killedCopy, [](const fs::path& folder, const std::function<void()>& ready) {
+        copyFile(folder / "from", folder / "to", [&](auto, auto) {
+            ready();
+            test::OtherProcess::waitForItsEnd();
+            return true;
+        });
+    });
 
 } // namespace
-
-TEST(Replacement, KeepsThePermissionBitsOfTheFileThatItReplaces) {
-    const TemporaryFolder folder;
-    folder.file("from", "new");
-    for (const unsigned bits : {0600U, 0444U, 0664U, 0755U}) {
-        folder.file("to", "old");
-        fs::permissions(folder / "to", static_cast<fs::perms>(bits));
-        writeFile(folder / "to", "new");
-        EXPECT_EQ(bitsOf(folder / "to"), bits);
-        EXPECT_TRUE(copyFile(folder / "from", folder / "to"));
-        EXPECT_EQ(bitsOf(folder / "to"), bits);
-    }
-}
-
-TEST(Replacement, OfNothingFollowsTheUmask) {
-    const TemporaryFolder folder;
-    folder.file("from", "new");
-    fs::permissions(folder / "from", static_cast<fs::perms>(0600));
-    const mode_t before = ::umask(027);
-    writeFile(folder / "written", "new");
-    copyFile(folder / "from", folder / "copied");
-    ::umask(before);
-    EXPECT_EQ(bitsOf(folder / "written"), 0640U);
-    EXPECT_EQ(bitsOf(folder / "copied"), 0640U);
-}
-
-TEST(Replacement, IsClosedToOthersFromItsBeginningWhereTheOlderFileIs) {
-    const TemporaryFolder folder;
-    folder.file("from", "secret");
-    folder.file("to", "old");
-    fs::permissions(folder / "to", static_cast<fs::perms>(0600));
-    copyFile(folder / "from", folder / "to", [&](auto, auto) {
-        for (const auto& name : entriesOf(folder.path())) {
-            EXPECT_TRUE(name == "from" || bitsOf(folder / name) == 0600U) << name;
-        }
-        return true;
-    });
-}
-
-TEST(Replacement, BringsItsFolderToTheDisk) {
-    const TemporaryFolder folder;
-    systemCalls = {};
-    writeFile(folder / "a", "x");
-    EXPECT_EQ(systemCalls.folderFlushes, 1);
-    copyFile(folder / "a", folder / "b");
-    EXPECT_EQ(systemCalls.folderFlushes, 2);
-}
 
 TEST(Leftovers, OfAKilledRunAreRemoved) {
     const TemporaryFolder folder;
     folder.file("from", "new");
     folder.file("to", "old");
-    killACopy(folder / "from", folder / "to");
+    test::OtherProcess copying(killedCopy, folder.path());
+    ASSERT_TRUE(copying.isReady());
+    copying.kill();
     ASSERT_EQ(entriesOf(folder.path()).size(), 3U);
     removeLeftovers(folder.path());
     EXPECT_EQ(entriesOf(folder.path()), (Names{"from", "to"}));
@@ -124,7 +70,7 @@ TEST(Leftovers, AreFilesOfTheirNamesOnly) {
         folder.file(name, "x");
     }
     folder.folder(".tarvel-1-1");
-    fs::create_symlink("x", folder / ".tarvel-2-1");
+    test::makeLink("x", folder / ".tarvel-2-1");
     folder.folder("below");
     folder.file("left", "x");
     fs::rename(folder / "left", folder / "below/.tarvel-3-1");

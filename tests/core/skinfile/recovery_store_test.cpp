@@ -1,18 +1,17 @@
 // Recovery files of several runs in one folder: whose they are, when they come and when they go.
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "skinfile/recovery_store.h"
 #include "support/document_support.h"
 #include "support/full_document.h"
+#include "support/links.h"
+#include "support/other_process.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 #include <set>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace tarvel {
 
@@ -31,7 +30,7 @@ WorkState workNamed(const std::string& name) {
 std::set<std::string> namesIn(const fs::path& folder) {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(folder)) {
-        names.insert(entry.path().filename().string());
+        names.insert(utf8Of(entry.path().filename()));
     }
     return names;
 }
@@ -51,6 +50,15 @@ std::string foldersOf(const Paths& files) {
     }
     return text;
 }
+
+constexpr const char* otherRun = "keep work";
+const bool isKnown = test::OtherProcess::knows(
+    otherRun, [](const fs::path& folder, const std::function<void()>& ready) {
+        RecoveryStore store(folder);
+        store.keep(workNamed("killed"));
+        ready();
+        test::OtherProcess::waitForItsEnd();
+    });
 
 TEST(RecoveryStore, LeavesTheLastStateToTheNextRun) {
     const TemporaryFolder folder;
@@ -96,24 +104,12 @@ TEST(RecoveryStore, NeverTouchesTheFileOfALivingRun) {
 
 TEST(RecoveryStore, OffersWhatAKilledProcessLeft) {
     const TemporaryFolder folder;
-    int ready[2]; // NOLINT: for pipe
-    ASSERT_EQ(::pipe(ready), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        RecoveryStore store(folder.path());
-        store.keep(workNamed("killed"));
-        static_cast<void>(::write(ready[1], "x", 1) + ::pause());
-        ::_exit(0);
-    }
-    char byte = 0;
-    ASSERT_EQ(::read(ready[0], &byte, 1), 1);
+    test::OtherProcess other(otherRun, folder.path());
+    ASSERT_TRUE(other.isReady());
     RecoveryStore store(folder.path());
     EXPECT_EQ(store.takeLost(), Paths{}); // it lives
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
+    other.kill();
     EXPECT_EQ(foldersOf(store.takeLost()), "killed ");
-    ::close(ready[0]);
-    ::close(ready[1]);
 }
 
 TEST(RecoveryStore, OffersNewestFirst) {
@@ -171,15 +167,15 @@ TEST(RecoveryStore, SetsAsideWhatCannotBeRead) {
 
     fs::path expected = lost;
     expected.replace_extension(".unreadable");
-    folder.file(expected.filename().string(), "an older one");
+    folder.file(utf8Of(expected.filename()), "an older one");
     const fs::path aside = store.setAside(lost);
-    EXPECT_EQ(aside, folder / (lost.stem().string() + "-2.unreadable"));
+    EXPECT_EQ(aside, folder / (utf8Of(lost.stem()) + "-2.unreadable"));
     EXPECT_EQ(readFile(aside), "no recovery file");
     EXPECT_EQ(readFile(expected), "an older one");
     EXPECT_EQ(store.takeLost(), Paths{});
     store.endProperly();
     EXPECT_EQ(namesIn(folder.path()),
-              (std::set<std::string>{aside.filename().string(), expected.filename().string()}));
+              (std::set<std::string>{utf8Of(aside.filename()), utf8Of(expected.filename())}));
 }
 
 TEST(RecoveryStore, LeavesOtherFilesAlone) {
@@ -187,7 +183,7 @@ TEST(RecoveryStore, LeavesOtherFilesAlone) {
     folder.file("notes.recovery", "x");
     folder.file("run-1-1.unreadable", "x");
     folder.folder("run-2-2.recovery");
-    fs::create_symlink(folder / "notes.recovery", folder / "run-3-3.recovery");
+    test::makeLink(folder / "notes.recovery", folder / "run-3-3.recovery");
     folder.file("run-4-4.lock", ""); // a run that was killed before it kept anything
     folder.file(".tarvel-4-1", "");  // and while it kept something
     RecoveryStore store(folder.path());
@@ -196,21 +192,6 @@ TEST(RecoveryStore, LeavesOtherFilesAlone) {
     EXPECT_EQ(namesIn(folder.path()),
               (std::set<std::string>{"notes.recovery", "run-1-1.unreadable", "run-2-2.recovery",
                                      "run-3-3.recovery"}));
-}
-
-TEST(RecoveryStore, KeepsTheOlderFileWhenTheDiskIsFull) {
-    const TemporaryFolder folder;
-    RecoveryStore store(folder.path());
-    store.keep(workNamed("older"));
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{100, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_THROW(store.keep(workNamed("newer")), FileError);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    EXPECT_EQ(RecoveryStore::read(store.file()), workNamed("older"));
-    EXPECT_EQ(namesIn(folder.path()).size(), 2U);
 }
 
 TEST(RecoveryStore, SaysWhenNothingCanBeKept) {

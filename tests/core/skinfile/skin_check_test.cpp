@@ -1,4 +1,5 @@
 // What a check finds: nothing in a saved skin, and each kind of fault in others.
+#include "files/path_text.h"
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
@@ -81,12 +82,12 @@ TEST_F(SkinCheckTest, FilesThatMeetInOnePlace) {
     const std::string resources =
         "<Resource Type='Image' Name='a'><File>pics\\X.png</File></Resource>"
         "<Resource Type='Image' Name='b'><File>Media\\x.png</File></Resource>";
-    EXPECT_EQ(check(resources),
-              (Lines{"Resources \"a\" and \"b\" have one file name, x.png: a save keeps one file",
-                     "A save over this folder is refused: two files have one name, " +
-                         (folder_ / "Media/x.png").string() + " and " +
-                         (folder_ / "pics/X.png").string() +
-                         ", and the second would take the place of the first"}));
+    EXPECT_EQ(
+        check(resources),
+        (Lines{"Resources \"a\" and \"b\" have one file name, x.png: a save keeps one file",
+               "A save over this folder is refused: two files have one name, " +
+                   utf8Of(folder_ / "Media/x.png") + " and " + utf8Of(folder_ / "pics/X.png") +
+                   ", and the second would take the place of the first"}));
     std::filesystem::rename(folder_ / "Media", folder_ / "other");
     EXPECT_EQ(check("<Resource Type='Image' Name='a'><File>pics\\X.png</File></Resource>"
                     "<Resource Type='Image' Name='b'><File>other\\x.png</File></Resource>"),
