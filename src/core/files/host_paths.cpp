@@ -4,6 +4,7 @@
 
 #include "files/host_files.h"
 #include "files/path_text.h"
+#include "files/windows_names.h"
 #include "text/text_case.h"
 
 #include <algorithm>
@@ -210,7 +211,9 @@ bool FileFinder::isSameFile(std::string_view a, std::string_view b) {
 
 bool FileFinder::leadsOutside(const fs::path& folder, std::string_view file) {
     const std::string spelt = slashed(file);
-    if (isSpeltOutside(folder, spelt)) {
+    // A colon would open a stream of another file, and a device has its name in every folder.
+    const bool isNoName = hasWindowsNamesAlone() && !partWithoutWindowsName(file).empty();
+    if (isNoName || isSpeltOutside(folder, spelt)) {
         return true;
     }
     const Found found = located(slashedUtf8Of(folder) + '/' + spelt);

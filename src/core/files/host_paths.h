@@ -36,8 +36,9 @@ namespace tarvel {
 [[nodiscard]] bool isSameFile(const std::filesystem::path& a, const std::filesystem::path& b);
 
 /// True when `file`, a File text of a skin, leads out of the skin's folder: by "..", as an absolute
-/// path, by a drive letter or through a link. Also when it is longer than any path of the host, so
-/// that nothing can lie there. Throws FileError when the folder cannot be looked at.
+/// path, by a drive letter or through a link, or by a name that Windows cannot have where that is
+/// the host. Also when it is longer than any path of the host, so that nothing can lie there.
+/// Throws FileError when the folder cannot be looked at.
 [[nodiscard]] bool leadsOutside(const std::filesystem::path& folder, std::string_view file);
 
 /// True when the path exists and lies below the folder (or is it), whatever links lead there.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tarvel {
 
@@ -28,6 +29,12 @@ template <class List> bool holds(const List& list, std::string_view name) {
                        [=](std::string_view each) { return equalsIgnoringCase(each, name); });
 }
 
+#ifdef _WIN32
+bool windowsNamesAlone = true; // NOLINT: changed by tests
+#else
+bool windowsNamesAlone = false; // NOLINT: changed by tests
+#endif
+
 // With whatever extension.
 bool isDevice(std::string_view name) {
     name = name.substr(0, name.find('.'));
@@ -45,6 +52,17 @@ bool isNoWindowsName(std::string_view name) {
     }
     return name.empty() || name.ends_with('.') || name.ends_with(' ') ||
            std::any_of(name.begin(), name.end(), isRefused) || isDevice(name);
+}
+
+bool hasWindowsNamesAlone() {
+    return windowsNamesAlone;
+}
+
+HostNames::HostNames(bool ofWindowsAlone)
+    : before_(std::exchange(windowsNamesAlone, ofWindowsAlone)) {}
+
+HostNames::~HostNames() {
+    windowsNamesAlone = before_;
 }
 
 std::string_view partWithoutWindowsName(std::string_view file) {

@@ -13,4 +13,19 @@ namespace tarvel {
 /// Windows; "" when there is none. The parts "." and ".." are names.
 [[nodiscard]] std::string_view partWithoutWindowsName(std::string_view file);
 
+/// Whether this program runs where files can have names of Windows alone.
+[[nodiscard]] bool hasWindowsNamesAlone();
+
+/// Lets it run so, or not, as long as this lives; for tests.
+class HostNames {
+  public:
+    explicit HostNames(bool ofWindowsAlone);
+    ~HostNames();
+    HostNames(const HostNames&) = delete;
+    HostNames& operator=(const HostNames&) = delete;
+
+  private:
+    bool before_;
+};
+
 } // namespace tarvel

@@ -6,6 +6,7 @@
 #include "document/kinds/panel_texts.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
+#include "files/windows_names.h"
 #include "skinfile/hidden_elements.h"
 #include "skinfile/picture_check.h"
 #include "skinfile/save_plan.h"
@@ -94,6 +95,13 @@ class DocumentCheck {
         return path.starts_with(prefix_) ? path.substr(prefix_.size()) : path;
     }
 
+    // What is not in the skin's folder comes there by its own name alone.
+    [[nodiscard]] std::string nameAfterSave(const Resource& resource) const {
+        std::string file = fileOf(resource);
+        const bool isInFolder = !resource.outside && file.size() < resource.content.size();
+        return isInFolder ? file : std::string(trimtofile(resource.content));
+    }
+
     void checkResources() {
         for (const Resource& resource : document_.settings().resources) {
             if (!resource.isFile) {
@@ -102,7 +110,12 @@ class DocumentCheck {
             const std::string subject = "Resource " + inQuotes(resource.name);
             if (trimtofile(resource.content).empty()) {
                 find(subject + " names no file", Severity::error);
-            } else if (resource.outside) {
+                continue;
+            }
+            if (const auto part = partWithoutWindowsName(nameAfterSave(resource)); !part.empty()) {
+                find(subject + ": Windows cannot have the name " + inQuotes(part));
+            }
+            if (resource.outside) {
                 find(subject + ": " + fileOf(resource) + " lies outside the skin folder",
                      Severity::error);
             } else if (!files_.FileExists(resource.content)) {

@@ -4,6 +4,7 @@
 #include "document/image_source.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
+#include "files/windows_names.h"
 #include "skinfile/screen_builder.h"
 #include "text/tag_scanner.h"
 #include "text/text_case.h"
@@ -80,7 +81,11 @@ class ResourceReader {
   private:
     void addFile(const std::string& name, const std::string& file) {
         const bool outside = files_.leadsOutside(folder_, file);
-        if (outside) {
+        const auto part = hasWindowsNamesAlone() ? partWithoutWindowsName(file) : "";
+        if (outside && !part.empty()) {
+            outside_.push_back(name + " (Windows cannot have the name \"" + std::string(part) +
+                               "\")");
+        } else if (outside) {
             outside_.push_back(name);
         }
         document_.addRes(name, prefix_ + file, outside);

@@ -30,7 +30,8 @@ class SkinReadError : public std::runtime_error {
 /// What is worth telling about a skin that was read.
 struct SkinReadNotes {
     SkinTextNotes text;
-    /// Names of the resources whose files lie outside the skin's folder.
+    /// Names of the resources whose files lie outside the skin's folder, with the reason where a
+    /// name that Windows cannot have keeps them from it.
     std::vector<std::string> outside;
 };
 

@@ -1,5 +1,6 @@
 // What a check finds: nothing in a saved skin, and each kind of fault in others.
 #include "files/path_text.h"
+#include "files/windows_names.h"
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
@@ -74,6 +75,21 @@ TEST_F(SkinCheckTest, SourcesAndResources) {
                "Resource \"d\": other\\GONE.png is missing",
                "Resources \"b\" and \"d\" have one file name, GONE.png: a save keeps one file",
                "Load, element 2 (Image: zz): its source \"zz\" names no resource"}));
+}
+
+TEST_F(SkinCheckTest, NamesThatWindowsCannotHaveAreToldOnEverySystem) {
+    const HostNames ofAnyKind(false);
+    EXPECT_EQ(check("<Resource Type='Image' Name='a'><File>Media\\aux.png</File></Resource>"
+                    "<Resource Type='Image' Name='b'><File>odd.\\b.png</File></Resource>"
+                    "<Resource Type='Image' Name='c'><File>C:\\odd.\\c?.png</File></Resource>"
+                    "<Resource Type='Image' Name='d'><File>Media\\d.png</File></Resource>"),
+              (Lines{"Resource \"a\": Windows cannot have the name \"aux.png\"",
+                     "Resource \"a\": Media\\aux.png is missing",
+                     "Resource \"b\": Windows cannot have the name \"odd.\"",
+                     "Resource \"b\": odd.\\b.png is missing",
+                     "Resource \"c\": Windows cannot have the name \"c?.png\"",
+                     "Resource \"c\": C:\\odd.\\c?.png lies outside the skin folder",
+                     "Resource \"d\": Media\\d.png is missing"}));
 }
 
 TEST_F(SkinCheckTest, FilesThatMeetInOnePlace) {

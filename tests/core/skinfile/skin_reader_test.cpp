@@ -2,6 +2,7 @@
 #include "document/element_factory.h"
 #include "document/layout_screens.h"
 #include "files/host_files.h"
+#include "files/windows_names.h"
 #include "skinfile/skin_reader.h"
 #include "support/document_support.h"
 #include "support/temporary_folder.h"
@@ -112,6 +113,35 @@ TEST_F(SkinReaderTest, Resources) {
     EXPECT_EQ(outsideMessage(notes.outside),
               "These resources lie outside the skin folder and are left out: g, h");
     EXPECT_EQ(outsideMessage({}), "");
+}
+
+// Where they can be had nothing is said of them.
+TEST_F(SkinReaderTest, NamesThatWindowsCannotHaveAreToldAndLeftOutThere) {
+    const std::string skin =
+        "<Resource Type='Image' Name='a'><File>Media\\a:b.png</File></Resource>"
+        "<Resource Type='Image' Name='b'><File>Con/b.png</File></Resource>"
+        "<Resource Type='Image' Name='c'><File>Media\\c.</File></Resource>"
+        "<Resource Type='Image' Name='d'><File>Media\\d.png</File></Resource>"
+        "<Resource Type='Image' Name='e'><File>..\\e.png</File></Resource>";
+    const auto barred = [&] {
+        std::string names;
+        for (const Resource& resource : settings().resources) {
+            names += resource.outside ? resource.name : "";
+        }
+        return names;
+    };
+    {
+        const HostNames ofWindows(true);
+        EXPECT_EQ(read(skin).outside,
+                  (std::vector<std::string>{"a (Windows cannot have the name \"a:b.png\")",
+                                            "b (Windows cannot have the name \"Con\")",
+                                            "c (Windows cannot have the name \"c.\")", "e"}));
+        EXPECT_EQ(barred(), "abce");
+    }
+    document_ = {};
+    const HostNames ofAnyKind(false);
+    EXPECT_EQ(read(skin).outside, std::vector<std::string>{"e"});
+    EXPECT_EQ(barred(), "e");
 }
 
 TEST_F(SkinReaderTest, AnEmptyFileTextNamesNoFile) {
