@@ -227,7 +227,9 @@ TEST(CatalogueFile, LiesBesideTheProgramOrWhereItWasInstalled) {
     EXPECT_EQ(catalogueFile(bin), bin / "modifiers.xml"); // and is missing
     EXPECT_EQ(ModifierCatalogue::read(catalogueFile(bin)).typesFor(ElementKind::Box),
               Texts{"None"});
-    folder.file("share/tarvel/modifiers.xml",
+    // Windows has what belongs to a program beside it.
+    const bool isApart = std::filesystem::path::preferred_separator == '/';
+    folder.file(isApart ? "share/tarvel/modifiers.xml" : "bin/modifiers.xml",
                 "<m><supports><e type='1'><Installed>x</Installed></e></supports></m>");
     EXPECT_EQ(ModifierCatalogue::read(catalogueFile(bin)).typesFor(ElementKind::Box),
               (Texts{"None", "Installed"}));
