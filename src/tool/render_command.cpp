@@ -2,6 +2,7 @@
 #include "document/layout_screens.h"
 #include "document/modifier_catalogue.h"
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "files/replacement.h"
 #include "skinfile/skin_reader.h"
 #include "surface/picture_cache.h"
@@ -46,14 +47,15 @@ std::string pngBytes(const QImage& image) {
 
 // A picture is replaced through links to it, but never a device or a pipe.
 std::filesystem::path placeOf(const std::filesystem::path& file) {
-    if (!std::filesystem::exists(file)) {
+    const auto status = statusOf(file);
+    const auto real = status ? realPath(file) : std::nullopt;
+    if (!real) {
         return file;
     }
-    auto place = std::filesystem::canonical(file);
-    if (!std::filesystem::is_regular_file(place)) {
-        throw FileError(std::filesystem::is_directory(place) ? EISDIR : EINVAL, place);
+    if (status->kind != FileKind::regular) {
+        throw FileError(status->kind == FileKind::folder ? EISDIR : EINVAL, pathOf(*real));
     }
-    return place;
+    return pathOf(*real);
 }
 
 // An animation takes long enough to be broken off: what that left goes with the next one.
@@ -90,7 +92,7 @@ void write(const RenderOptions& options, const Drawing& drawing) {
 void draw(const SkinDocument& document, const RenderOptions& options, int screen) {
     ModifierCatalogue catalogue;
     if (options.isPlayed) {
-        catalogue = ModifierCatalogue::read(catalogueFile(programFolder()));
+        catalogue = ModifierCatalogue::read(programsCatalogue());
     }
     PictureCache pictures;
     if (options.screen) {
@@ -111,9 +113,11 @@ void passOnlyFatal(QtMsgType type, const QMessageLogContext& /*context*/, const 
 
 ExitCode drawInApplication(const SkinDocument& document, const RenderOptions& options, int screen,
                            Output output) {
+#ifndef Q_OS_WIN // there is always a display there, and without it there are no fonts
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen"); // a picture needs no display
     }
+#endif
     qInstallMessageHandler(passOnlyFatal);
     int argc = 1;
     std::string name = "tarvel-skin";

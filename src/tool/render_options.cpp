@@ -277,8 +277,8 @@ std::optional<RenderOptions> renderOptions(std::span<const std::string> argument
         return std::nullopt;
     }
     RenderOptions render;
-    render.folder = given.places.front();
-    render.out = given.places.back();
+    render.folder = pathOf(given.places.front());
+    render.out = pathOf(given.places.back());
     if (!given.all) {
         render.screen = given.places[1];
     }

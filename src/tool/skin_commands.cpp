@@ -2,6 +2,7 @@
 #include "tool/skin_commands.h"
 
 #include "files/host_files.h"
+#include "files/path_text.h"
 #include "skinfile/skin_check.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
@@ -149,10 +150,10 @@ ExitCode runCommand(const std::vector<std::string>& arguments, Output output) {
         return done;
     }
     if (command == "resave" && arguments.size() == 3) {
-        return resave(arguments[1], arguments[2], output);
+        return resave(pathOf(arguments[1]), pathOf(arguments[2]), output);
     }
     if (command == "check" && arguments.size() == 2) {
-        return check(arguments[1], output);
+        return check(pathOf(arguments[1]), output);
     }
     if (command == "render") {
         return render(std::span(arguments).subspan(1), output);

@@ -47,6 +47,11 @@ std::filesystem::path catalogueFile(const std::filesystem::path& programFolder) 
     return !statusOf(own) && statusOf(installed) ? installed : own;
 }
 
+std::filesystem::path programsCatalogue() {
+    auto users = catalogueFile(programFolder());
+    return statusOf(users) ? users : catalogueFile(executableFolder());
+}
+
 ModifierCatalogue::ModifierCatalogue(XmlTree tree)
     : tree_(std::move(tree)) {}
 

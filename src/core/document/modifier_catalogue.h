@@ -20,6 +20,10 @@ inline constexpr std::string_view catalogueFileName = "modifiers.xml";
 /// is none, the one that was installed with the program, if that is there.
 [[nodiscard]] std::filesystem::path catalogueFile(const std::filesystem::path& programFolder);
 
+/// That of the running program: the user's in programFolder(), or else the one that the program
+/// came with.
+[[nodiscard]] std::filesystem::path programsCatalogue();
+
 /// The first row of every list of types: no modifier.
 inline constexpr std::string_view noModifier = "None";
 

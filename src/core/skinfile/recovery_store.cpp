@@ -141,7 +141,8 @@ fs::path RecoveryStore::setAside(const fs::path& lost) {
     const fs::path stem = folder_ / lost.stem();
     fs::path target = withSuffix(stem, asideSuffix);
     for (int i = 2; statusOfItself(target); ++i) {
-        target = withSuffix(stem, ("-" + std::to_string(i) + asideSuffix).c_str());
+        const std::string number = std::to_string(i);
+        target = withSuffix(stem, ('-' + number + asideSuffix).c_str());
     }
     moveFile(lost, target);
     letGo(lost);

@@ -6,6 +6,7 @@
 #include "widgets/style/heading.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -68,7 +69,7 @@ QLayout* makeFolder(const QString& folder, QWidget* parent) {
     auto* row = new QHBoxLayout;
     auto* path = new PathLabel(parent);
     path->setObjectName("lblFolder");
-    path->setPath(folder);
+    path->setPath(QDir::toNativeSeparators(folder));
     row->addWidget(new QLabel(QObject::tr("Folder:"), parent));
     row->addWidget(path, 1);
     return row;

@@ -4,7 +4,6 @@
 #include "files/host_files.h"
 #include "widgets/qt_text.h"
 
-#include <QFile>
 #include <QMediaPlayer>
 #include <QRectF>
 #include <QTimer>
@@ -64,13 +63,14 @@ QString problemOfFile(const std::filesystem::path& path) {
 // Players tell a missing decoder from a broken file only in words of the user's language. A file
 // that begins as a wmv file does is taken for a good one.
 QString problemOfContent(const std::filesystem::path& path) {
-    QFile file(qtPath(path));
-    if (!file.open(QIODevice::ReadOnly)) {
+    const Descriptor file = openFile(path, Opening::read);
+    const QByteArray beginning = QByteArray::fromHex("3026b2758e66cf11");
+    QByteArray found(beginning.size(), '\0');
+    const auto size = readSomeAt(file, 0, found.data(), static_cast<std::size_t>(found.size()));
+    if (size < 0) {
         return QStringLiteral("not readable");
     }
-    const QByteArray beginning = QByteArray::fromHex("3026b2758e66cf11");
-    return file.read(beginning.size()) == beginning ? QStringLiteral("no codec")
-                                                    : QStringLiteral("not a video");
+    return found == beginning ? QStringLiteral("no codec") : QStringLiteral("not a video");
 }
 
 } // namespace

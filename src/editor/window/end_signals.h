@@ -1,4 +1,5 @@
-// The signals by which the system asks a program to end, as events of the program.
+// The events by which the system asks a program to end, as events of the program: one header, a
+// source for each system.
 #pragma once
 
 #include <QObject>
@@ -6,12 +7,11 @@
 #include <functional>
 #include <memory>
 
-class QSocketNotifier;
-
 namespace tarvel {
 
-/// Calls ended(signal) from the event loop for the first SIGTERM, SIGINT or SIGHUP; a second one
-/// ends the program at once, as it would without this. One at a time may live.
+/// Calls ended(signal) from the event loop for the first SIGTERM, SIGINT or SIGHUP, or for what a
+/// console sends in their place; a second one ends the program at once, as it would without this.
+/// One at a time may live.
 class EndSignals : public QObject {
     Q_OBJECT
 
@@ -20,10 +20,10 @@ class EndSignals : public QObject {
     ~EndSignals() override;
 
   private:
-    void read();
+    struct Watch;
 
     std::function<void(int)> ended_;
-    std::unique_ptr<QSocketNotifier> notifier_;
+    std::unique_ptr<Watch> watch_;
 };
 
 } // namespace tarvel

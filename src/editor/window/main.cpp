@@ -1,5 +1,6 @@
 // Starts the editor: its arguments, the folder of the program with its catalogue, and the window.
 #include "files/host_files.h"
+#include "files/own_process.h"
 #include "widgets/qt_prompts.h"
 #include "widgets/qt_text.h"
 #include "widgets/remembered.h"
@@ -23,9 +24,9 @@ namespace {
 // catalogue is laid there once, to be edited.
 void layCatalogue(const std::filesystem::path& folder) {
     const auto catalogue = folder / "modifiers.xml";
-    const bool isOwn = tarvel::hostPathOf(QCoreApplication::applicationDirPath()) == folder;
+    const bool isOwn = tarvel::executableFolder() == folder;
     QFile builtIn(QStringLiteral(":/tarvel/modifiers.xml"));
-    if (isOwn || std::filesystem::exists(catalogue) || !builtIn.open(QIODevice::ReadOnly)) {
+    if (isOwn || tarvel::statusOf(catalogue) || !builtIn.open(QIODevice::ReadOnly)) {
         return;
     }
     try {
@@ -47,6 +48,8 @@ void keepWork(tarvel::FrmMain& window, tarvel::Prompts& prompts) {
 }
 
 int answer(const tarvel::Reply& reply) {
+    tarvel::useConsoleOfStarter();
+    const tarvel::ConsoleInUtf8 console;
     std::fputs(reply.text.c_str(), reply.exitCode == 0 ? stdout : stderr);
     return reply.exitCode;
 }
@@ -54,8 +57,7 @@ int answer(const tarvel::Reply& reply) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const tarvel::Arguments arguments =
-        tarvel::parseArguments({argv + (argc > 0 ? 1 : 0), argv + argc});
+    const tarvel::Arguments arguments = tarvel::parseArguments(tarvel::ownArguments(argc, argv));
     if (arguments.reply) {
         return answer(*arguments.reply);
     }

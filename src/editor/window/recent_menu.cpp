@@ -6,6 +6,7 @@
 #include "widgets/remembered.h"
 
 #include <QAction>
+#include <QDir>
 #include <QFileInfo>
 #include <QMenu>
 
@@ -49,9 +50,10 @@ void RecentMenu::fill() {
 }
 
 void RecentMenu::addFolder(const QString& folder, int place) {
-    QAction* entry = menu_.addAction(caption(menu_, folder));
+    const QString shown = QDir::toNativeSeparators(folder);
+    QAction* entry = menu_.addAction(caption(menu_, shown));
     entry->setObjectName(QStringLiteral("mnuRecent(%1)").arg(place));
-    entry->setToolTip(plainToolTip(folder));
+    entry->setToolTip(plainToolTip(shown));
     entry->setEnabled(QFileInfo(folder).isDir());
     connect(entry, &QAction::triggered, this, [this, folder] { open_(folder); });
 }

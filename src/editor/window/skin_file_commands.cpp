@@ -97,7 +97,7 @@ bool SkinFileCommands::saveInto(const QString& folder, SkinDocument& document) {
     setSkinFolder(folder);
     surroundings_.remembered.rememberSkinFolder(folder);
     emit saved();
-    emit told(tr("Saved to %1").arg(folder));
+    emit told(tr("Saved to %1").arg(QDir::toNativeSeparators(folder)));
     return true;
 }
 
@@ -162,7 +162,7 @@ bool SkinFileCommands::loadFrom(const QString& folder) {
     setSkinFolder(folder);
     surroundings_.remembered.rememberSkinFolder(folder);
     surroundings_.remembered.rememberLastFolder(folder);
-    emit told(tr("Loaded from %1").arg(folder));
+    emit told(tr("Loaded from %1").arg(QDir::toNativeSeparators(folder)));
     if (!notes.outside.empty()) {
         prompts_.message(surroundings_.window, qtText(outsideMessage(notes.outside)));
     }

@@ -44,7 +44,7 @@ SkinStatus::SkinStatus(const SkinDocument& document, QStatusBar& line)
 }
 
 void SkinStatus::setFolder(const QString& folder) {
-    folder_ = folder.isEmpty() ? QString() : QDir::cleanPath(folder);
+    folder_ = folder.isEmpty() ? QString() : QDir::toNativeSeparators(QDir::cleanPath(folder));
     showSkin();
 }
 

@@ -2,6 +2,7 @@
 #include "window/style_choice.h"
 
 #include "widgets/remembered.h"
+#include "widgets/style/palettes.h"
 #include "widgets/style/tarvel_style.h"
 
 #include <QAction>
@@ -24,6 +25,13 @@ QString& systemName() {
     return name;
 }
 
+// That of Windows has no dark parts.
+QString styleFor(Shade shade) {
+    const QString& name = systemName();
+    return shade == Shade::dark && name == QLatin1String("windowsvista") ? QStringLiteral("fusion")
+                                                                         : name;
+}
+
 } // namespace
 
 StyleChoice::StyleChoice(Remembered& remembered)
@@ -41,7 +49,7 @@ void StyleChoice::offer(QAction& systemStyle) {
 }
 
 void StyleChoice::choose(bool system) {
-    const QString name = systemName(); // before it is another one
+    const QString name = styleFor(shadeOf(QApplication::palette())); // before it is another one
     if (system == isOwn(*QApplication::style())) {
         QApplication::setStyle(system ? QStyleFactory::create(name) : new TarvelStyle);
     }

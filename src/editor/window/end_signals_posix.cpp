@@ -36,33 +36,40 @@ void handle(void (*handler)(int), int flags) {
     }
 }
 
+// Asked from the event loop.
+int readSignal() {
+    unsigned char number = 0;
+    return ::read(pipeEnds()[readEnd], &number, 1) == 1 ? number : 0;
+}
+
 } // namespace
+
+struct EndSignals::Watch {
+    QSocketNotifier notifier{static_cast<qintptr>(pipeEnds()[readEnd]), QSocketNotifier::Read};
+};
 
 EndSignals::EndSignals(std::function<void(int)> ended)
     : ended_(std::move(ended)) {
     if (::pipe2(pipeEnds().data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         return; // signals end the program as they always do
     }
-    notifier_ = std::make_unique<QSocketNotifier>(pipeEnds()[readEnd], QSocketNotifier::Read);
-    connect(notifier_.get(), &QSocketNotifier::activated, this, &EndSignals::read);
+    watch_ = std::make_unique<Watch>();
+    connect(&watch_->notifier, &QSocketNotifier::activated, this, [this] {
+        if (const int signal = readSignal(); signal != 0) {
+            ended_(signal);
+        }
+    });
     handle(noteEndSignal, static_cast<int>(SA_RESTART | static_cast<int>(SA_RESETHAND)));
 }
 
 EndSignals::~EndSignals() {
     handle(SIG_DFL, 0);
-    notifier_.reset();
+    watch_.reset();
     for (int& end : pipeEnds()) {
         if (end >= 0) {
             ::close(end);
         }
         end = -1;
-    }
-}
-
-void EndSignals::read() {
-    unsigned char number = 0;
-    if (::read(pipeEnds()[readEnd], &number, 1) == 1) {
-        ended_(number);
     }
 }
 
