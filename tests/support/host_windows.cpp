@@ -46,11 +46,7 @@ std::string pathBelowWine(const fs::path& path) {
     return text;
 }
 
-std::wstring quoted(const std::string& argument) {
-    return L" \"" + pathOf(argument).native() + L'"';
-}
-
-HANDLE started(const std::wstring& program, std::wstring line) {
+PROCESS_INFORMATION started(const std::wstring& program, std::wstring line) {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
@@ -58,18 +54,39 @@ HANDLE started(const std::wstring& program, std::wstring line) {
                          &startup, &process) == 0) {
         throw std::runtime_error("a process cannot be started");
     }
-    ::CloseHandle(process.hThread);
-    return process.hProcess;
+    return process;
 }
 
-// Wine makes no links by itself, but starts programs of the system below it.
+std::string shellQuoted(const std::string& text) {
+    return " '" + text + "'";
+}
+
+std::string belowWine(const fs::path& path) {
+    return shellQuoted(pathBelowWine(path.parent_path()) + '/' + utf8Of(path.filename()));
+}
+
+// Wine starts programs of the system below it, but does not tell when they end.
+void runBelowWine(const std::string& command) {
+    static int count = 0;
+    const fs::path done = fs::temp_directory_path() / ("done-" + std::to_string(processNumber()) +
+                                                       "-" + std::to_string(++count));
+    const std::string line = "sh -c \"" + command + "; :>" + belowWine(done) + '"';
+    started(LR"(Z:\bin\sh)", fs::path(line).native()); // without handles of its own
+    while (!statusOf(done)) {
+        ::Sleep(1);
+    }
+    removeName(done);
+}
+
+// Where Wine is told to remove a link it removes what that leads to.
+void removeLinksBelowWine(const fs::path& folder) {
+    runBelowWine("find" + belowWine(folder) + " -type l -delete");
+}
+
+// Wine makes no links by itself.
 void linkBelowWine(const fs::path& target, const fs::path& at) {
-    std::wstring line = L"ln -s" + quoted(pathBelowWine(target)) +
-                        quoted(pathBelowWine(at.parent_path()) + '/' + utf8Of(at.filename()));
-    std::replace(line.begin(), line.end(), L'\\', L'/');
-    const HANDLE process = started(LR"(Z:\bin\ln)", line);
-    ::WaitForSingleObject(process, INFINITE);
-    ::CloseHandle(process);
+    beforeRemoval = &removeLinksBelowWine;
+    runBelowWine("ln -s" + shellQuoted(pathBelowWine(target)) + belowWine(at));
 }
 
 struct Junction {
@@ -160,9 +177,13 @@ OtherProcess::OtherProcess(const std::string& name, const fs::path& path) {
     std::wstring own(longestPath(), L'\0');
     own.resize(::GetModuleFileNameW(nullptr, own.data(), static_cast<DWORD>(own.size())));
     ::SetEnvironmentVariableW(L"GTEST_TOTAL_SHARDS", nullptr);
-    const HANDLE process = started(own, L"\"" + own +
-                                            L"\" --gtest_brief=1 --gtest_also_run_disabled_tests"
-                                            L" --gtest_filter=OtherProcess.DISABLED_DoesItsWork");
+    ::SetEnvironmentVariableW(L"GTEST_SHARD_INDEX", nullptr);
+    const PROCESS_INFORMATION begun =
+        started(own, L"\"" + own +
+                         L"\" --gtest_brief=1 --gtest_also_run_disabled_tests"
+                         L" --gtest_filter=OtherProcess.DISABLED_DoesItsWork");
+    ::CloseHandle(begun.hThread);
+    const HANDLE process = begun.hProcess;
     process_ = reinterpret_cast<std::intptr_t>(process); // NOLINT: a pointer kept as a number
     constexpr DWORD pause = 10;                          // milliseconds
     while (!ready_ && ::WaitForSingleObject(process, pause) == WAIT_TIMEOUT) {

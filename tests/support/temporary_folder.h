@@ -13,6 +13,9 @@
 
 namespace tarvel {
 
+/// What has to be done to a folder before it can be removed; nothing for most.
+inline void (*beforeRemoval)(const std::filesystem::path& folder) = nullptr; // NOLINT: set once
+
 class TemporaryFolder {
   public:
     TemporaryFolder() {
@@ -27,6 +30,9 @@ class TemporaryFolder {
         }
     }
     ~TemporaryFolder() {
+        if (beforeRemoval != nullptr) {
+            beforeRemoval(path_);
+        }
         std::error_code ignored;
         std::filesystem::remove_all(path_, ignored);
     }

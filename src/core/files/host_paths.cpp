@@ -147,8 +147,11 @@ fs::path hostPath(std::string_view documentPath) {
 }
 
 std::string documentPath(const fs::path& path) {
+    // The folders of a share are not below any drive.
+    const bool isOnShare =
+        fs::path::preferred_separator == '\\' && slashedUtf8Of(path).starts_with("//");
     std::error_code error;
-    const fs::path full = fs::absolute(path, error);
+    const fs::path full = isOnShare ? path : fs::absolute(path, error);
     std::string text = utf8Of(error ? path : full);
     std::replace(text.begin(), text.end(), '/', '\\');
     return text;

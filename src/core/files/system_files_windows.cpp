@@ -450,6 +450,11 @@ Descriptor tryHoldFolder(const fs::path& folder) {
 bool renameOver(const fs::path& from, const fs::path& to) {
     const std::wstring older = inFull(from);
     const std::wstring newer = inFull(to);
+    const DWORD attributes = ::GetFileAttributesW(newer.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+        errno = EACCES;
+        return false;
+    }
     // Programs that look through every new file have it open for a moment.
     constexpr int tries = 10;
     constexpr DWORD pause = 20; // milliseconds

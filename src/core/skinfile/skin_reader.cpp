@@ -81,7 +81,9 @@ class ResourceReader {
   private:
     void addFile(const std::string& name, const std::string& file) {
         const bool outside = files_.leadsOutside(folder_, file);
-        const auto part = hasWindowsNamesAlone() ? partWithoutWindowsName(file) : "";
+        // The colon of a drive is no part of a name.
+        const bool hasDrive = file.size() > 1 && file[1] == ':';
+        const auto part = hasWindowsNamesAlone() && !hasDrive ? partWithoutWindowsName(file) : "";
         if (outside && !part.empty()) {
             outside_.push_back(name + " (Windows cannot have the name \"" + std::string(part) +
                                "\")");

@@ -70,13 +70,18 @@ TEST(Leftovers, AreFilesOfTheirNamesOnly) {
         folder.file(name, "x");
     }
     folder.folder(".tarvel-1-1");
-    test::makeLink("x", folder / ".tarvel-2-1");
+    if (test::areFileLinksTold()) {
+        test::makeLink("x", folder / ".tarvel-2-1");
+    }
     folder.folder("below");
     folder.file("left", "x");
     fs::rename(folder / "left", folder / "below/.tarvel-3-1");
     removeLeftovers(folder.path());
     Names all = kept;
-    all.insert({".tarvel-1-1", ".tarvel-2-1", "below"});
+    all.insert({".tarvel-1-1", "below"});
+    if (test::areFileLinksTold()) {
+        all.insert(".tarvel-2-1");
+    }
     EXPECT_EQ(entriesOf(folder.path()), all);
     removeLeftovers(folder / "below");
     EXPECT_TRUE(fs::is_empty(folder / "below"));

@@ -183,15 +183,17 @@ TEST(RecoveryStore, LeavesOtherFilesAlone) {
     folder.file("notes.recovery", "x");
     folder.file("run-1-1.unreadable", "x");
     folder.folder("run-2-2.recovery");
-    test::makeLink(folder / "notes.recovery", folder / "run-3-3.recovery");
+    std::set<std::string> others = {"notes.recovery", "run-1-1.unreadable", "run-2-2.recovery"};
+    if (test::areFileLinksTold()) {
+        test::makeLink(folder / "notes.recovery", folder / "run-3-3.recovery");
+        others.insert("run-3-3.recovery");
+    }
     folder.file("run-4-4.lock", ""); // a run that was killed before it kept anything
     folder.file(".tarvel-4-1", "");  // and while it kept something
     RecoveryStore store(folder.path());
     EXPECT_EQ(store.takeLost(), Paths{});
     store.endProperly();
-    EXPECT_EQ(namesIn(folder.path()),
-              (std::set<std::string>{"notes.recovery", "run-1-1.unreadable", "run-2-2.recovery",
-                                     "run-3-3.recovery"}));
+    EXPECT_EQ(namesIn(folder.path()), others);
 }
 
 TEST(RecoveryStore, SaysWhenNothingCanBeKept) {
@@ -200,6 +202,9 @@ TEST(RecoveryStore, SaysWhenNothingCanBeKept) {
     EXPECT_THROW(RecoveryStore(folder / "file"), FileError);
     EXPECT_THROW(RecoveryStore(folder / "file/below"), FileError);
 
+    if (fs::path::preferred_separator == '\\') {
+        return; // no folder can be removed in which something is held
+    }
     RecoveryStore store(folder / "removed");
     fs::remove_all(folder / "removed");
     EXPECT_THROW(store.keep(workNamed("a")), FileError);

@@ -122,7 +122,8 @@ TEST_F(SkinReaderTest, NamesThatWindowsCannotHaveAreToldAndLeftOutThere) {
         "<Resource Type='Image' Name='b'><File>Con/b.png</File></Resource>"
         "<Resource Type='Image' Name='c'><File>Media\\c.</File></Resource>"
         "<Resource Type='Image' Name='d'><File>Media\\d.png</File></Resource>"
-        "<Resource Type='Image' Name='e'><File>..\\e.png</File></Resource>";
+        "<Resource Type='Image' Name='e'><File>..\\e.png</File></Resource>"
+        "<Resource Type='Image' Name='f'><File>C:\\f.png</File></Resource>";
     const auto barred = [&] {
         std::string names;
         for (const Resource& resource : settings().resources) {
@@ -135,13 +136,13 @@ TEST_F(SkinReaderTest, NamesThatWindowsCannotHaveAreToldAndLeftOutThere) {
         EXPECT_EQ(read(skin).outside,
                   (std::vector<std::string>{"a (Windows cannot have the name \"a:b.png\")",
                                             "b (Windows cannot have the name \"Con\")",
-                                            "c (Windows cannot have the name \"c.\")", "e"}));
-        EXPECT_EQ(barred(), "abce");
+                                            "c (Windows cannot have the name \"c.\")", "e", "f"}));
+        EXPECT_EQ(barred(), "abcef");
     }
     document_ = {};
     const HostNames ofAnyKind(false);
-    EXPECT_EQ(read(skin).outside, std::vector<std::string>{"e"});
-    EXPECT_EQ(barred(), "e");
+    EXPECT_EQ(read(skin).outside, (std::vector<std::string>{"e", "f"}));
+    EXPECT_EQ(barred(), "ef");
 }
 
 TEST_F(SkinReaderTest, AnEmptyFileTextNamesNoFile) {
