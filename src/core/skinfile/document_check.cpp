@@ -58,6 +58,7 @@ class DocumentCheck {
             find("The skin has no name: it cannot be saved");
         }
         checkResources();
+        checkBackgroundAndMusic();
         checkFileNames();
         for (int screen = 0; screen < screenCount; ++screen) {
             for (int row = 0; row < document_.rowCount(screen); ++row) {
@@ -112,15 +113,31 @@ class DocumentCheck {
                 find(subject + " names no file", Severity::error);
                 continue;
             }
-            if (const auto part = partWithoutWindowsName(nameAfterSave(resource)); !part.empty()) {
-                find(subject + ": Windows cannot have the name " + inQuotes(part));
-            }
+            checkName(subject, nameAfterSave(resource));
             if (resource.outside) {
                 find(subject + ": " + fileOf(resource) + " lies outside the skin folder",
                      Severity::error);
             } else if (!files_.FileExists(resource.content)) {
                 find(subject + ": " + fileOf(resource) + " is missing", Severity::error);
             }
+        }
+    }
+
+    void checkName(const std::string& subject, std::string_view file) {
+        if (const auto part = partWithoutWindowsName(file); !part.empty()) {
+            find(subject + ": Windows cannot have the name " + inQuotes(part));
+        }
+    }
+
+    // They have no names but those of their files.
+    void checkBackgroundAndMusic() {
+        const SkinSettings& settings = document_.settings();
+        if (settings.background.loaded) {
+            checkName("The background", trimtofile(settings.background.path));
+        }
+        for (const int index : settings.music.rows) {
+            const auto& file = settings.music.musicFiles.at(static_cast<std::size_t>(index));
+            checkName("The music", trimtofile(file));
         }
     }
 

@@ -3,6 +3,7 @@
 
 #include "files/host_files.h"
 #include "files/path_text.h"
+#include "skinfile/skin_reader.h"
 #include "text/text_case.h"
 
 #include <map>
@@ -64,7 +65,7 @@ class Planner {
     void planAll() {
         for (const Resource& resource : settings_.resources) {
             if (resource.isFile && resource.outside) {
-                plan_.leftOut.push_back(resource.name);
+                plan_.leftOut.push_back(outsideName(resource.name, resource.content));
             } else if (resource.isFile) {
                 plan(PlannedCopy::What::resource, resource.content, mediaFolder);
             }

@@ -25,7 +25,8 @@ struct SavePlan {
     /// In the order of the save: resources, background, music. A file that lies in its place
     /// already is left out.
     std::vector<PlannedCopy> copies;
-    /// Names of the resources that lie outside the skin's folder, and are not copied.
+    /// Names of the resources that lie outside the skin's folder, and are not copied; with the
+    /// reason where the host cannot have the name of the file.
     std::vector<std::string> leftOut;
     /// File names that stand for two files, of which the later one is kept.
     std::vector<std::string> sharedNames;

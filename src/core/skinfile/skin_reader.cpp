@@ -81,14 +81,8 @@ class ResourceReader {
   private:
     void addFile(const std::string& name, const std::string& file) {
         const bool outside = files_.leadsOutside(folder_, file);
-        // The colon of a drive is no part of a name.
-        const bool hasDrive = file.size() > 1 && file[1] == ':';
-        const auto part = hasWindowsNamesAlone() && !hasDrive ? partWithoutWindowsName(file) : "";
-        if (outside && !part.empty()) {
-            outside_.push_back(name + " (Windows cannot have the name \"" + std::string(part) +
-                               "\")");
-        } else if (outside) {
-            outside_.push_back(name);
+        if (outside) {
+            outside_.push_back(outsideName(name, file));
         }
         document_.addRes(name, prefix_ + file, outside);
     }
@@ -248,6 +242,19 @@ std::string listMessage(std::string_view beginning, const std::vector<std::strin
         message.append(message.empty() ? beginning : ", ").append(name);
     }
     return message;
+}
+
+std::string outsideName(std::string_view name, std::string_view file) {
+    const auto isDrive = [](std::string_view part) { return part.size() == 2 && part[1] == ':'; };
+    if (isDrive(file.substr(0, 2))) {
+        file.remove_prefix(2);
+    }
+    const auto part = hasWindowsNamesAlone() ? partWithoutWindowsName(file) : "";
+    std::string told(name);
+    if (!part.empty() && !isDrive(part)) { // behind the skin's folder the colon of a drive
+        told.append(" (Windows cannot have the name \"").append(part).append("\")");
+    }
+    return told;
 }
 
 std::string outsideMessage(const std::vector<std::string>& names) {

@@ -58,6 +58,10 @@ void readSkinTree(SkinDocument& document, XmlNode root, const std::filesystem::p
 [[nodiscard]] std::string listMessage(std::string_view beginning,
                                       const std::vector<std::string>& names);
 
+/// The name of a resource outside, with the reason where the host cannot have a name in the path of
+/// its file.
+[[nodiscard]] std::string outsideName(std::string_view name, std::string_view file);
+
 /// One sentence naming the resources outside the skin's folder; "" for none.
 [[nodiscard]] std::string outsideMessage(const std::vector<std::string>& names);
 

@@ -92,6 +92,22 @@ TEST_F(SkinCheckTest, NamesThatWindowsCannotHaveAreToldOnEverySystem) {
                      "Resource \"d\": Media\\d.png is missing"}));
 }
 
+TEST_F(SkinCheckTest, NamesOfBackgroundAndMusicThatWindowsCannotHave) {
+    SkinDocument document;
+    document.editSettings([](SkinSettings& settings) {
+        settings.skinName = "a";
+        settings.background = {true, "C:\\odd.\\a?.png"};
+        settings.music.musicFiles = {"C:\\b.mp3", "C:\\con.mp3", "C:\\aux.mp3"};
+        settings.music.rows = {0, 1};
+    });
+    Lines lines;
+    for (const Finding& finding : checkDocument(document, {})) {
+        lines.push_back(finding.text);
+    }
+    EXPECT_EQ(lines, (Lines{"The background: Windows cannot have the name \"a?.png\"",
+                            "The music: Windows cannot have the name \"con.mp3\""}));
+}
+
 TEST_F(SkinCheckTest, FilesThatMeetInOnePlace) {
     folder_.file("Media/x.png", "x");
     folder_.file("pics/X.png", "other");

@@ -4,6 +4,7 @@
 #include "document/normalised.h"
 #include "files/host_files.h"
 #include "files/path_text.h"
+#include "files/windows_names.h"
 #include "skinfile/skin_folder.h"
 #include "skinfile/skin_reader.h"
 #include "support/document_support.h"
@@ -257,6 +258,17 @@ TEST_F(SkinFolderTest, ResourcesOutsideAreLeftOutAndNamed) {
     EXPECT_TRUE(outcome.succeeded());
     EXPECT_EQ(outcome.leftOut, std::vector<std::string>{"far"});
     EXPECT_TRUE(fs::is_empty(out_ / "Media"));
+}
+
+TEST_F(SkinFolderTest, ResourcesOutsideForTheirNameAreToldSo) {
+    const HostNames ofWindows(true);
+    const std::string prefix = withSlash(documentPath(folder_.path()));
+    document_.addRes("a", prefix + "Media\\a?.png", true);
+    document_.addRes("b", prefix + "C:\\b.png", true);
+    document_.addRes("c", "C:\\c.\\c.png", true);
+    EXPECT_EQ(save().leftOut,
+              (std::vector<std::string>{"a (Windows cannot have the name \"a?.png\")", "b",
+                                        "c (Windows cannot have the name \"c.\")"}));
 }
 
 TEST_F(SkinFolderTest, CancellingStopsAndLeavesNoHalfFile) {
