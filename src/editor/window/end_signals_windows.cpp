@@ -55,11 +55,13 @@ EndSignals::EndSignals(std::function<void(int)> ended)
         receiver().object = this;
         receiver().take = ended_;
     }
-    ::SetConsoleCtrlHandler(noteConsoleEvent, TRUE);
+    // It stays, and does nothing without a receiver: taking it away would wait for an event that is
+    // being handled, and so for the end of the program.
+    static const bool isKnown = ::SetConsoleCtrlHandler(noteConsoleEvent, TRUE) != 0;
+    static_cast<void>(isKnown);
 }
 
 EndSignals::~EndSignals() {
-    ::SetConsoleCtrlHandler(noteConsoleEvent, FALSE);
     const std::lock_guard lock(receiver().mutex);
     receiver().object = nullptr;
 }
