@@ -8,7 +8,7 @@
 namespace tarvel {
 
 /// Holds a folder until it goes, or the process ends in whatever way; nothing of it is on the disk.
-/// Only others that ask by a FolderHold are kept away.
+/// Only others that ask by a FolderHold are kept away; on Windows, those of this computer.
 class FolderHold {
   public:
     /// Does not wait. A folder that is missing, or on a file system without locks, is held by

@@ -250,12 +250,20 @@ FileFinder::Found FileFinder::located(const std::string& spelt) {
     const Entries& entries = entriesOf(folder);
     const auto entry = entries.find(lowerCased(name));
     if (entry == entries.end()) {
-        return {std::move(path), false};
+        return locatedBySystem(folder.spelling, std::string(name));
     }
     if (entry->second == name || isThereAsSpelt(path)) {
         return {std::move(path), true};
     }
     return {folder.spelling + entry->second, true};
+}
+
+// Where the system finds names as it does, it also knows capitals of other scripts, and short
+// names.
+FileFinder::Found FileFinder::locatedBySystem(const std::string& folder, std::string name) {
+    constexpr bool findsMore = fs::path::preferred_separator == '\\';
+    const bool found = findsMore && DiskPlace(folder).part(name).isThere();
+    return {folder + name, found};
 }
 
 FileFinder::Folder& FileFinder::folderOf(std::string_view spelt) {

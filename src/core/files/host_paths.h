@@ -76,6 +76,7 @@ class FileFinder {
     };
 
     [[nodiscard]] Found located(const std::string& spelt);
+    [[nodiscard]] static Found locatedBySystem(const std::string& folder, std::string name);
     [[nodiscard]] Folder& folderOf(std::string_view spelt);
     [[nodiscard]] const Entries& entriesOf(Folder& folder);
 

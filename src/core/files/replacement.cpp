@@ -63,6 +63,9 @@ OpenFile openBeside(const fs::path& target, fs::path& beside) {
             if (isOursOrGone(file, beside)) {
                 return file;
             }
+            if (i == tries) {
+                throw FileError(EAGAIN, target);
+            }
         } catch (const FileError& error) {
             if (error.errorNumber() != EEXIST || i == tries) {
                 throw;

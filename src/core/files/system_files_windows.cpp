@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <functional>
 #include <io.h>
 #include <limits>
 #include <shlobj.h>
@@ -24,24 +25,48 @@ struct Reason {
     DWORD windows;
     int number;
 };
+// Not every header has these.
+constexpr DWORD virusFound = 225;
+constexpr DWORD quotaUsed = 1295;
+// Of files whose content lies elsewhere until it is read.
+constexpr DWORD cloudWithoutProvider = 362;
+constexpr DWORD cloudWithoutNetwork = 388;
+
 constexpr std::array reasons = {Reason{ERROR_FILE_NOT_FOUND, ENOENT},
                                 Reason{ERROR_PATH_NOT_FOUND, ENOENT},
                                 Reason{ERROR_INVALID_DRIVE, ENOENT},
                                 Reason{ERROR_BAD_NETPATH, ENOENT},
                                 Reason{ERROR_BAD_NET_NAME, ENOENT},
                                 Reason{ERROR_NOT_READY, ENODEV},
+                                Reason{ERROR_DEV_NOT_EXIST, ENODEV},
+                                Reason{ERROR_UNRECOGNIZED_VOLUME, ENODEV},
+                                Reason{ERROR_FILE_INVALID, ENODEV}, // its disk was taken out
+                                Reason{ERROR_NO_MEDIA_IN_DRIVE, ENODEV},
+                                Reason{ERROR_DEVICE_NOT_CONNECTED, ENODEV},
+                                Reason{ERROR_UNEXP_NET_ERR, ENETUNREACH},
+                                Reason{ERROR_NETNAME_DELETED, ENETUNREACH},
+                                Reason{ERROR_NETWORK_UNREACHABLE, ENETUNREACH},
+                                Reason{cloudWithoutProvider, ENETUNREACH},
+                                Reason{cloudWithoutNetwork, ENETUNREACH},
                                 Reason{ERROR_INVALID_NAME, ENOENT},
                                 Reason{ERROR_BAD_PATHNAME, ENOENT},
                                 Reason{ERROR_DIRECTORY, ENOTDIR},
                                 Reason{ERROR_ACCESS_DENIED, EACCES},
                                 Reason{ERROR_DELETE_PENDING, EACCES},
+                                Reason{ERROR_NETWORK_ACCESS_DENIED, EACCES},
+                                Reason{ERROR_LOGON_FAILURE, EACCES},
+                                Reason{virusFound, EACCES},
+                                Reason{ERROR_CANT_ACCESS_FILE, EACCES},
                                 Reason{ERROR_SHARING_VIOLATION, EBUSY},
+                                Reason{ERROR_USER_MAPPED_FILE, EBUSY},
                                 Reason{ERROR_LOCK_VIOLATION, EWOULDBLOCK},
                                 Reason{ERROR_IO_PENDING, EWOULDBLOCK},
                                 Reason{ERROR_FILE_EXISTS, EEXIST},
                                 Reason{ERROR_ALREADY_EXISTS, EEXIST},
                                 Reason{ERROR_DISK_FULL, ENOSPC},
                                 Reason{ERROR_HANDLE_DISK_FULL, ENOSPC},
+                                Reason{quotaUsed, ENOSPC},
+                                Reason{ERROR_CANNOT_MAKE, ENOSPC}, // a folder takes no more names
                                 Reason{ERROR_WRITE_PROTECT, EROFS},
                                 Reason{ERROR_FILE_TOO_LARGE, EFBIG},
                                 Reason{ERROR_NOT_SAME_DEVICE, EXDEV},
@@ -141,14 +166,33 @@ std::uint64_t joined(DWORD high, DWORD low) {
 // does not tell how it does may be a link, too.
 bool isLink(DWORD attributes, DWORD tag) {
     return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-           (tag == IO_REPARSE_TAG_SYMLINK || tag == IO_REPARSE_TAG_MOUNT_POINT ||
-            tag == IO_REPARSE_TAG_RESERVED_ZERO);
+           (IsReparseTagNameSurrogate(tag) || tag == IO_REPARSE_TAG_RESERVED_ZERO);
 }
 
 FileKind kindOf(DWORD attributes, DWORD tag) {
     return isLink(attributes, tag)                        ? FileKind::link
            : (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileKind::folder
                                                           : FileKind::regular;
+}
+
+// Some shares number no files, and other file systems have numbers too long for this: two files are
+// never to be taken for one there.
+std::uint64_t fileNumber(const Descriptor& file, const BY_HANDLE_FILE_INFORMATION& found) {
+    const std::uint64_t number = joined(found.nFileIndexHigh, found.nFileIndexLow);
+    if (number != 0 && number != std::numeric_limits<std::uint64_t>::max()) {
+        return number;
+    }
+    std::vector<std::uint64_t> room(sizeof(FILE_NAME_INFO) / sizeof(std::uint64_t) +
+                                    longestPath() * sizeof(WCHAR) / sizeof(std::uint64_t));
+    auto* const info = reinterpret_cast<FILE_NAME_INFO*>(room.data()); // NOLINT: of no fixed size
+    if (::GetFileInformationByHandleEx(handleOf(file), FileNameInfo, info,
+                                       static_cast<DWORD>(room.size() * sizeof(std::uint64_t))) ==
+        0) {
+        return number;
+    }
+    const DWORD letters = info->FileNameLength / sizeof(WCHAR);
+    ::CharLowerBuffW(&info->FileName[0], letters);
+    return std::hash<std::wstring_view>()({&info->FileName[0], letters});
 }
 
 constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -405,13 +449,15 @@ std::optional<FileStatus> statusOf(const Descriptor& file) {
     if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
         ::GetFileInformationByHandleEx(handleOf(file), FileAttributeTagInfo, &tag, sizeof tag);
     }
+    FILE_STANDARD_INFO names{};
+    ::GetFileInformationByHandleEx(handleOf(file), FileStandardInfo, &names, sizeof names);
     FILE_BASIC_INFO times{};
     ::GetFileInformationByHandleEx(handleOf(file), FileBasicInfo, &times, sizeof times);
     const FILETIME changed{times.ChangeTime.LowPart, static_cast<DWORD>(times.ChangeTime.HighPart)};
     return FileStatus{
         .kind = kindOf(found.dwFileAttributes, tag.ReparseTag),
-        .identity = {found.dwVolumeSerialNumber, joined(found.nFileIndexHigh, found.nFileIndexLow)},
-        .links = found.nNumberOfLinks,
+        .identity = {found.dwVolumeSerialNumber, fileNumber(file, found)},
+        .links = names.DeletePending != 0 ? 0 : found.nNumberOfLinks,
         .size = static_cast<std::int64_t>(joined(found.nFileSizeHigh, found.nFileSizeLow)),
         .written = nanoseconds(found.ftLastWriteTime),
         .changed = nanoseconds(changed)};
@@ -436,16 +482,57 @@ bool tryLock(const Descriptor& file) {
                               0, 1, 0, &at));
 }
 
-// Opened for adding files by one at a time. Files are added all the same, since that opens no
-// folder.
+// By an object of the system that has the folder's number in its name, and goes with the last
+// descriptor of it. The folder itself is not kept open: whatever of its sharing would keep a second
+// save away would also keep files from being renamed into it.
 Descriptor tryHoldFolder(const fs::path& folder) {
-    Descriptor held = opened(folder, FILE_ADD_FILE | FILE_READ_ATTRIBUTES, OPEN_EXISTING, 0,
-                             FILE_SHARE_READ | FILE_SHARE_DELETE);
-    if (!held.isOpen() && errno == EBUSY) {
+    const auto status = statusOf(folder);
+    if (!status || status->kind != FileKind::folder) {
+        errno = status ? ENOTDIR : errno;
+        return Descriptor();
+    }
+    const std::wstring name = LR"(Global\tarvel-save-)" + std::to_wstring(status->identity.volume) +
+                              L'-' + std::to_wstring(status->identity.number);
+    const HANDLE handle = ::CreateMutexW(nullptr, FALSE, name.c_str());
+    const DWORD error = ::GetLastError();
+    if (handle == nullptr) {
+        noteReason();
+        errno = error == ERROR_ACCESS_DENIED ? EWOULDBLOCK : errno; // another user's
+        return Descriptor();
+    }
+    Descriptor held = descriptorOf(handle);
+    if (error == ERROR_ALREADY_EXISTS) {
+        held.reset();
         errno = EWOULDBLOCK;
     }
     return held;
 }
+
+namespace {
+
+// Programs that look through every new file have it open for a moment: tried again for about a
+// second, as long as the failure may be theirs.
+template <class Call, class MayPass> bool triedAgain(Call&& call, MayPass&& mayPass) {
+    constexpr DWORD tries = 10;
+    constexpr DWORD pause = 20; // milliseconds, longer each time
+    for (DWORD i = 1; !call(); ++i) {
+        if (i == tries || !mayPass(errno)) {
+            return false;
+        }
+        ::Sleep(i * pause);
+    }
+    return true;
+}
+
+// Replacing a file that is open is reported as if it were forbidden.
+bool isOpenElsewhere(const std::wstring& path) {
+    const Descriptor alone = descriptorOf(
+        ::CreateFileW(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
+                      FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    return !alone.isOpen() && ::GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+} // namespace
 
 bool renameOver(const fs::path& from, const fs::path& to) {
     const std::wstring older = inFull(from);
@@ -455,25 +542,25 @@ bool renameOver(const fs::path& from, const fs::path& to) {
         errno = EACCES;
         return false;
     }
-    // Programs that look through every new file have it open for a moment.
-    constexpr int tries = 10;
-    constexpr DWORD pause = 20; // milliseconds
-    for (int i = 1;; ++i) {
-        if (renamedAsPosixDoes(older, newer) ||
-            noted(::MoveFileExW(older.c_str(), newer.c_str(),
-                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))) {
-            return true;
-        }
-        if (i == tries || (errno != EACCES && errno != EBUSY)) {
-            return false;
-        }
-        ::Sleep(pause);
+    const auto rename = [&] {
+        return renamedAsPosixDoes(older, newer) ||
+               noted(::MoveFileExW(older.c_str(), newer.c_str(),
+                                   MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+    };
+    if (triedAgain(rename, [](int reason) { return reason == EACCES || reason == EBUSY; })) {
+        return true;
     }
+    if (errno == EACCES) {
+        errno = isOpenElsewhere(newer) ? EBUSY : EACCES;
+    }
+    return false;
 }
 
 bool removeName(const fs::path& path) {
     const std::wstring full = inFull(path);
-    return removedAsPosixDoes(full) || noted(::DeleteFileW(full.c_str()));
+    return triedAgain(
+        [&] { return removedAsPosixDoes(full) || noted(::DeleteFileW(full.c_str())); },
+        [](int reason) { return reason == EBUSY; });
 }
 
 bool makeFolder(const fs::path& path) {
@@ -493,8 +580,17 @@ bool makeFolders(const fs::path& path) {
     return makeFolder(path) || errno == EEXIST;
 }
 
-// Rights come from the folder. The one bit that a file has of its own keeps it from being replaced.
-void keepPermissions(const fs::path& /*older*/, const Descriptor& /*file*/) {}
+// Rights come from the folder, and a file that may only be read is not replaced at all: left is how
+// it is shown.
+void keepPermissions(const fs::path& older, const Descriptor& file) {
+    constexpr DWORD shown = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    const DWORD attributes = ::GetFileAttributesW(inFull(older).c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & shown) != 0) {
+        FILE_BASIC_INFO info{}; // times of 0 stay as they are
+        info.FileAttributes = (attributes & shown) | FILE_ATTRIBUTE_ARCHIVE;
+        ::SetFileInformationByHandle(handleOf(file), FileBasicInfo, &info, sizeof info);
+    }
+}
 
 void eachEntryOf(const fs::path& folder, const std::function<bool(const FolderEntry&)>& take) {
     eachFound(allIn(folder), [&](std::wstring_view name, const WIN32_FIND_DATAW& found) {

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <windows.h>
+
 namespace tarvel {
 
 TEST(HostPathOfWindows, IsOneForAllLetterCases) {
@@ -14,6 +17,22 @@ TEST(HostPathOfWindows, IsOneForAllLetterCases) {
     folder.file("A.PNG", "capital");
     EXPECT_EQ(readFile(hostPath(folder.document("a.png"))), "capital");
     EXPECT_EQ(utf8Of(hostPath(folder.document("A.PNG")).filename()), "a.png");
+}
+
+// Capitals that a skin file can hold in several bytes alone, and the short names of the system.
+TEST(FileFinderOfWindows, FindsWhateverNameTheSystemFinds) {
+    const TemporaryFolder folder;
+    const auto file = folder.file("Media/a long name.png", "x");
+    folder.file(utf8Of(pathOf("Media/\xD0\x96.png")), "x");
+    FileFinder finder;
+    EXPECT_EQ(utf8Of(finder.hostPath(folder.document("media\\\xD0\xB6.png")).filename()),
+              "\xD0\x96.png");
+    EXPECT_TRUE(finder.FileExists(folder.document("media\\\xD0\xB6.png")));
+    EXPECT_FALSE(finder.FileExists(folder.document("media\\\xD0\xB7.png")));
+    std::array<wchar_t, MAX_PATH> brief{};
+    ASSERT_NE(::GetShortPathNameW(file.c_str(), brief.data(), brief.size()), 0U);
+    const std::filesystem::path name = std::filesystem::path(brief.data()).filename();
+    EXPECT_EQ(finder.hostPath(folder.document("Media\\" + utf8Of(name))), file);
 }
 
 TEST(DocumentPathOfWindows, IsAbsoluteWithItsDrive) {

@@ -10,6 +10,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <future>
+#include <memory>
 #include <windows.h>
 
 namespace tarvel {
@@ -24,6 +26,13 @@ const bool isKnown = test::OtherProcess::knows(
         ready();
         test::OtherProcess::waitForItsEnd();
     });
+
+// As programs do that let others read at most.
+Descriptor openUnshared(const fs::path& file) {
+    return Descriptor(reinterpret_cast<std::intptr_t>( // NOLINT: a number that is a pointer
+        ::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0,
+                      nullptr)));
+}
 
 std::size_t entriesOf(const fs::path& folder) {
     std::size_t count = 0;
@@ -49,6 +58,65 @@ TEST(SystemFilesOfWindows, AFileThatMayOnlyBeReadIsToldAndKept) {
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
     writeFile(file, "newer");
     EXPECT_EQ(readFile(file), "newer");
+}
+
+TEST(SystemFilesOfWindows, AFileStaysHidden) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.file("a", "older");
+    constexpr DWORD hidden = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    ASSERT_NE(::SetFileAttributesW(file.c_str(), hidden), 0);
+    writeFile(file, "newer");
+    EXPECT_EQ(readFile(file), "newer");
+    EXPECT_EQ(::GetFileAttributesW(file.c_str()) & hidden, hidden);
+    writeFile(folder / "b", "x");
+    EXPECT_EQ(::GetFileAttributesW((folder / "b").c_str()) & hidden, 0U);
+}
+
+TEST(SystemFilesOfWindows, AFileThatAnotherProgramHasOpenIsToldAndKept) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.file("a", "older");
+    const Descriptor open = openUnshared(file);
+    ASSERT_TRUE(open.isOpen());
+    std::string problem;
+    try {
+        writeFile(file, "newer");
+    } catch (const FileError& error) {
+        problem = error.what();
+    }
+    EXPECT_EQ(problem, "Another program has it open: " + utf8Of(file));
+    EXPECT_FALSE(removeName(file));
+    EXPECT_EQ(errno, EBUSY);
+    EXPECT_EQ(readFile(file), "older");
+    EXPECT_EQ(entriesOf(folder.path()), 1U);
+}
+
+TEST(SystemFilesOfWindows, AProgramThatLooksIntoAFileIsWaitedFor) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.file("a", "older");
+    const auto aMoment = [](Descriptor open) {
+        return std::async(std::launch::async, [open = std::move(open)]() mutable {
+            ::Sleep(300);
+            open.reset();
+        });
+    };
+    std::future<void> closed = aMoment(openUnshared(file));
+    writeFile(file, "newer");
+    closed.get();
+    EXPECT_EQ(readFile(file), "newer");
+    closed = aMoment(openUnshared(file));
+    EXPECT_TRUE(removeName(file));
+    EXPECT_FALSE(statusOf(file));
+}
+
+// The system opens the folder itself so whenever a file is renamed into it.
+TEST(SystemFilesOfWindows, HoldingAFolderIsNotInTheWayOfRenaming) {
+    const TemporaryFolder folder;
+    const FolderHold hold(folder.path());
+    const HANDLE opened = ::CreateFileW(folder.path().c_str(), FILE_ADD_FILE | SYNCHRONIZE,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    EXPECT_NE(opened, INVALID_HANDLE_VALUE);
+    ::CloseHandle(opened);
 }
 
 TEST(SystemFilesOfWindows, HoldsDoNotPassToProgramsThatAreStarted) {
