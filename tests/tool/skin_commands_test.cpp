@@ -238,7 +238,14 @@ TEST(Resave, OfWhatCannotBeReadMakesNoFolder) {
 }
 
 TEST(Check, OfTheExampleAsTarvelWritesItASaveChangesTheBackground) {
-    const Result result = runWith({"check", aurora.string()});
+    const TemporaryFolder folder; // for what this version writes
+    fs::copy(aurora, folder.path(), fs::copy_options::recursive);
+    std::string text = readFile(folder / "QOR_Skin.xml");
+    const std::string madeUsing = "<MadeUsing>Tarvel ";
+    const auto version = text.find(madeUsing) + madeUsing.size();
+    text.replace(version, text.find('<', version) - version, test::programVersion());
+    folder.file("QOR_Skin.xml", text);
+    const Result result = runWith({"check", folder.path().string()});
     EXPECT_EQ(result.code, 1);
     EXPECT_EQ(result.err, "");
     EXPECT_EQ(linesOf(result.out), (Lines{"A save changes QOR_Skin.xml from line 168 on"}));
