@@ -1,6 +1,5 @@
-// The calls of Windows. Paths are UTF-16 there; names are found in whatever letter case.
-#include "files/path_text.h"
-#include "files/system_files.h"
+// Files of Windows: opening, reading, writing, status, locks, renaming.
+#include "files/system_calls_windows.h"
 
 #include <algorithm>
 #include <array>
@@ -21,135 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Reason {
-    DWORD windows;
-    int number;
-};
-// Not every header has these.
-constexpr DWORD virusFound = 225;
-constexpr DWORD quotaUsed = 1295;
-// Of files whose content lies elsewhere until it is read.
-constexpr DWORD cloudWithoutProvider = 362;
-constexpr DWORD cloudWithoutNetwork = 388;
-
-constexpr std::array reasons = {Reason{ERROR_FILE_NOT_FOUND, ENOENT},
-                                Reason{ERROR_PATH_NOT_FOUND, ENOENT},
-                                Reason{ERROR_INVALID_DRIVE, ENOENT},
-                                Reason{ERROR_BAD_NETPATH, ENOENT},
-                                Reason{ERROR_BAD_NET_NAME, ENOENT},
-                                Reason{ERROR_NOT_READY, ENODEV},
-                                Reason{ERROR_DEV_NOT_EXIST, ENODEV},
-                                Reason{ERROR_UNRECOGNIZED_VOLUME, ENODEV},
-                                Reason{ERROR_FILE_INVALID, ENODEV}, // its disk was taken out
-                                Reason{ERROR_NO_MEDIA_IN_DRIVE, ENODEV},
-                                Reason{ERROR_DEVICE_NOT_CONNECTED, ENODEV},
-                                Reason{ERROR_UNEXP_NET_ERR, ENETUNREACH},
-                                Reason{ERROR_NETNAME_DELETED, ENETUNREACH},
-                                Reason{ERROR_NETWORK_UNREACHABLE, ENETUNREACH},
-                                Reason{cloudWithoutProvider, ENETUNREACH},
-                                Reason{cloudWithoutNetwork, ENETUNREACH},
-                                Reason{ERROR_INVALID_NAME, ENOENT},
-                                Reason{ERROR_BAD_PATHNAME, ENOENT},
-                                Reason{ERROR_DIRECTORY, ENOTDIR},
-                                Reason{ERROR_ACCESS_DENIED, EACCES},
-                                Reason{ERROR_DELETE_PENDING, EACCES},
-                                Reason{ERROR_NETWORK_ACCESS_DENIED, EACCES},
-                                Reason{ERROR_LOGON_FAILURE, EACCES},
-                                Reason{virusFound, EACCES},
-                                Reason{ERROR_CANT_ACCESS_FILE, EACCES},
-                                Reason{ERROR_SHARING_VIOLATION, EBUSY},
-                                Reason{ERROR_USER_MAPPED_FILE, EBUSY},
-                                Reason{ERROR_LOCK_VIOLATION, EWOULDBLOCK},
-                                Reason{ERROR_IO_PENDING, EWOULDBLOCK},
-                                Reason{ERROR_FILE_EXISTS, EEXIST},
-                                Reason{ERROR_ALREADY_EXISTS, EEXIST},
-                                Reason{ERROR_DISK_FULL, ENOSPC},
-                                Reason{ERROR_HANDLE_DISK_FULL, ENOSPC},
-                                Reason{quotaUsed, ENOSPC},
-                                Reason{ERROR_CANNOT_MAKE, ENOSPC}, // a folder takes no more names
-                                Reason{ERROR_WRITE_PROTECT, EROFS},
-                                Reason{ERROR_FILE_TOO_LARGE, EFBIG},
-                                Reason{ERROR_NOT_SAME_DEVICE, EXDEV},
-                                Reason{ERROR_FILENAME_EXCED_RANGE, ENAMETOOLONG},
-                                Reason{ERROR_BUFFER_OVERFLOW, ENAMETOOLONG},
-                                Reason{ERROR_TOO_MANY_OPEN_FILES, EMFILE},
-                                Reason{ERROR_NOT_ENOUGH_MEMORY, ENOMEM},
-                                Reason{ERROR_OUTOFMEMORY, ENOMEM},
-                                Reason{ERROR_INVALID_HANDLE, EBADF},
-                                Reason{ERROR_DIR_NOT_EMPTY, ENOTEMPTY},
-                                Reason{ERROR_CANT_RESOLVE_FILENAME, ELOOP},
-                                Reason{ERROR_INVALID_FUNCTION, ENOSYS},
-                                Reason{ERROR_NOT_SUPPORTED, ENOSYS},
-                                Reason{ERROR_INVALID_PARAMETER, EINVAL}};
-
-void noteReason() {
-    const DWORD error = ::GetLastError();
-    const auto* const found = std::find_if(
-        reasons.begin(), reasons.end(), [=](const Reason& each) { return each.windows == error; });
-    errno = found == reasons.end() ? EIO : found->number;
-}
-
-bool noted(BOOL result) {
-    if (result == 0) {
-        noteReason();
-    }
-    return result != 0;
-}
-
-HANDLE handleOf(const Descriptor& file) {
-    return reinterpret_cast<HANDLE>(file.number()); // NOLINT: a number that is kept as a pointer
-}
-
-Descriptor descriptorOf(HANDLE handle) {
-    return Descriptor(reinterpret_cast<std::intptr_t>(handle)); // NOLINT: as above
-}
-
-std::wstring wideOf(std::string_view utf8) {
-    const int size = static_cast<int>(utf8.size());
-    std::wstring wide(utf8.size(), L'\0');
-    const int got = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, wide.data(), size);
-    wide.resize(static_cast<std::size_t>(std::max(got, 0)));
-    return wide;
-}
-
-std::string narrowOf(std::wstring_view wide) {
-    constexpr std::size_t mostForOne = 3;
-    const int size = static_cast<int>(wide.size());
-    std::string utf8(mostForOne * wide.size(), '\0');
-    const int got = ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(),
-                                          static_cast<int>(utf8.size()), nullptr, nullptr);
-    utf8.resize(static_cast<std::size_t>(std::max(got, 0)));
-    return utf8;
-}
-
-std::wstring slashed(std::wstring wide) {
-    std::replace(wide.begin(), wide.end(), L'\\', L'/');
-    return wide;
-}
-
-constexpr std::wstring_view plainPrefix = LR"(\\?\)";
-constexpr std::wstring_view sharePrefix = LR"(\\?\UNC\)";
-
-// A path in full, which the system takes as it stands: of any length, and with names that it would
-// change otherwise.
-std::wstring inFull(const fs::path& path) {
-    std::wstring full = path.native();
-    std::replace(full.begin(), full.end(), L'/', L'\\');
-    if (full.empty() || full.starts_with(plainPrefix)) {
-        return full;
-    }
-    std::wstring buffer(::GetFullPathNameW(full.c_str(), 0, nullptr, nullptr), L'\0');
-    buffer.resize(::GetFullPathNameW(full.c_str(), static_cast<DWORD>(buffer.size()), buffer.data(),
-                                     nullptr));
-    if (buffer.starts_with(LR"(\\.\)")) {
-        return buffer; // a device, told by name
-    }
-    if (buffer.starts_with(LR"(\\)")) {
-        return buffer.replace(0, 2, sharePrefix);
-    }
-    return buffer.insert(0, plainPrefix);
-}
-
 std::int64_t nanoseconds(const FILETIME& time) {
     constexpr std::int64_t tick = 100;
     constexpr std::int64_t ticksTo1970 = 116'444'736'000'000'000;
@@ -160,19 +30,6 @@ std::int64_t nanoseconds(const FILETIME& time) {
 
 std::uint64_t joined(DWORD high, DWORD low) {
     return static_cast<std::uint64_t>(high) << 32U | low;
-}
-
-// Only those that lead to another place; others hold the content of a file in some other way. What
-// does not tell how it does may be a link, too.
-bool isLink(DWORD attributes, DWORD tag) {
-    return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-           (IsReparseTagNameSurrogate(tag) || tag == IO_REPARSE_TAG_RESERVED_ZERO);
-}
-
-FileKind kindOf(DWORD attributes, DWORD tag) {
-    return isLink(attributes, tag)                        ? FileKind::link
-           : (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileKind::folder
-                                                          : FileKind::regular;
 }
 
 // Some shares number no files, and other file systems have numbers too long for this: two files are
@@ -193,20 +50,6 @@ std::uint64_t fileNumber(const Descriptor& file, const BY_HANDLE_FILE_INFORMATIO
     const DWORD letters = info->FileNameLength / sizeof(WCHAR);
     ::CharLowerBuffW(&info->FileName[0], letters);
     return std::hash<std::wstring_view>()({&info->FileName[0], letters});
-}
-
-constexpr DWORD shareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-// Backup semantics let folders be opened as well: what they are is for their status to tell.
-Descriptor opened(const fs::path& path, DWORD access, DWORD disposition, DWORD flags = 0,
-                  DWORD share = shareAll) {
-    const HANDLE handle =
-        ::CreateFileW(inFull(path).c_str(), access, share, nullptr, disposition,
-                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_BACKUP_SEMANTICS | flags, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) {
-        noteReason();
-    }
-    return descriptorOf(handle);
 }
 
 // Not even when it leads to nothing.
@@ -317,47 +160,7 @@ bool removedAsPosixDoes(const std::wstring& path) {
            ::SetFileInformationByHandle(handleOf(file), disposeInfoEx, &flags, sizeof flags) != 0;
 }
 
-template <class Take> void eachFound(const std::wstring& pattern, Take&& take) {
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = ::FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &found,
-                                             FindExSearchNameMatch, nullptr, 0);
-    if (search == INVALID_HANDLE_VALUE) {
-        return;
-    }
-    do {
-        const std::wstring_view name = &found.cFileName[0];
-        if (name != L"." && name != L".." && !take(name, found)) {
-            break;
-        }
-    } while (::FindNextFileW(search, &found) != 0);
-    ::FindClose(search);
-}
-
-std::wstring allIn(const fs::path& folder) {
-    std::wstring pattern = inFull(folder.empty() ? fs::path(".") : folder);
-    if (!pattern.ends_with(L'\\')) {
-        pattern += L'\\';
-    }
-    return pattern + L'*';
-}
-
-bool hasWildcard(std::string_view name) {
-    return name.find_first_of("*?<>\"") != std::string_view::npos;
-}
-
 } // namespace
-
-std::string utf8Of(const fs::path& path) {
-    return narrowOf(path.native());
-}
-
-std::string slashedUtf8Of(const fs::path& path) {
-    return narrowOf(slashed(path.native()));
-}
-
-fs::path pathOf(std::string_view utf8) {
-    return fs::path(wideOf(utf8)).make_preferred();
-}
 
 bool Descriptor::reset() {
     const Descriptor* const self = this;
@@ -563,23 +366,6 @@ bool removeName(const fs::path& path) {
         [](int reason) { return reason == EBUSY; });
 }
 
-bool makeFolder(const fs::path& path) {
-    return noted(::CreateDirectoryW(inFull(path).c_str(), nullptr));
-}
-
-bool makeFolders(const fs::path& path) {
-    const auto status = statusOf(path);
-    if (status) {
-        errno = ENOTDIR;
-        return status->kind == FileKind::folder;
-    }
-    const fs::path above = path.parent_path();
-    if (!above.empty() && above != path && !makeFolders(above)) {
-        return false;
-    }
-    return makeFolder(path) || errno == EEXIST;
-}
-
 // Rights come from the folder, and a file that may only be read is not replaced at all: left is how
 // it is shown.
 void keepPermissions(const fs::path& older, const Descriptor& file) {
@@ -589,148 +375,6 @@ void keepPermissions(const fs::path& older, const Descriptor& file) {
         FILE_BASIC_INFO info{}; // times of 0 stay as they are
         info.FileAttributes = (attributes & shown) | FILE_ATTRIBUTE_ARCHIVE;
         ::SetFileInformationByHandle(handleOf(file), FileBasicInfo, &info, sizeof info);
-    }
-}
-
-void eachEntryOf(const fs::path& folder, const std::function<bool(const FolderEntry&)>& take) {
-    eachFound(allIn(folder), [&](std::wstring_view name, const WIN32_FIND_DATAW& found) {
-        return take({folder / name, kindOf(found.dwFileAttributes, found.dwReserved0)});
-    });
-}
-
-DiskPlace::DiskPlace(const std::string& path)
-    : path_(statusOf(pathOf(path)) ? pathOf(path) : fs::path()) {}
-
-bool DiskPlace::isThere() const {
-    return !path_.empty();
-}
-
-DiskPlace DiskPlace::part(std::string& name) const {
-    DiskPlace next;
-    if (name == "." || name == "..") {
-        next.path_ = path_ / pathOf(name);
-    } else if (!hasWildcard(name)) {
-        eachFound(inFull(path_ / pathOf(name)), [&](std::wstring_view disk, const auto&) {
-            name = narrowOf(disk);
-            next.path_ = path_ / disk;
-            return false;
-        });
-    }
-    return next;
-}
-
-std::optional<FileIdentity> DiskPlace::identity() const {
-    const auto status = isThere() ? statusOf(path_) : std::nullopt;
-    return status ? std::optional(status->identity) : std::nullopt;
-}
-
-void DiskPlace::eachName(const std::function<bool(std::string_view)>& take) const {
-    eachFound(allIn(path_),
-              [&](std::wstring_view name, const auto&) { return !take(narrowOf(name)); });
-}
-
-// The disk may spell it in other letter case.
-bool isThereAsSpelt(const std::string& /*path*/) {
-    return false;
-}
-
-std::size_t rootLength(std::string_view path) {
-    if (path.size() >= 2 && path[1] == ':') {
-        return path.size() > 2 && path[2] == '/' ? 3 : 2;
-    }
-    if (!path.starts_with("//")) {
-        return path.starts_with('/') ? 1 : 0;
-    }
-    const auto share = path.find('/', 2);
-    const auto end = share == std::string_view::npos ? share : path.find('/', share + 1);
-    return end == std::string_view::npos ? path.size() : end + 1;
-}
-
-std::size_t longestPath() {
-    constexpr std::size_t most = 32'000; // 32767 with what the system adds
-    return most;
-}
-
-namespace {
-
-// For systems whose own call does not take long paths, or not on every file system.
-std::optional<std::string> realPathByParts(const fs::path& path) {
-    std::error_code error;
-    const fs::path full = fs::absolute(path, error).lexically_normal();
-    const auto itself = error ? std::nullopt : statusOfItself(full);
-    const auto above = itself && itself->kind != FileKind::link && full.has_relative_path()
-                           ? realPath(full.parent_path())
-                           : std::nullopt;
-    if (!above) {
-        errno = EIO;
-        return std::nullopt;
-    }
-    std::string name = utf8Of(full.filename());
-    eachFound(inFull(full), [&](std::wstring_view disk, const auto&) {
-        name = narrowOf(disk);
-        return false;
-    });
-    return *above + (above->ends_with('/') ? "" : "/") + name;
-}
-
-} // namespace
-
-std::optional<std::string> realPath(const fs::path& path) {
-    const Descriptor file = openFile(path, Opening::look);
-    if (!file.isOpen()) {
-        return std::nullopt;
-    }
-    std::wstring real(::GetFinalPathNameByHandleW(handleOf(file), nullptr, 0, VOLUME_NAME_DOS),
-                      L'\0');
-    const DWORD size = ::GetFinalPathNameByHandleW(
-        handleOf(file), real.data(), static_cast<DWORD>(real.size()), VOLUME_NAME_DOS);
-    if (size == 0) {
-        return realPathByParts(path);
-    }
-    real.resize(size);
-    if (real.starts_with(sharePrefix)) {
-        real.erase(2, sharePrefix.size() - 2);
-    } else if (real.starts_with(plainPrefix)) {
-        real.erase(0, plainPrefix.size());
-    }
-    return narrowOf(slashed(real));
-}
-
-fs::path executableFolder() {
-    std::wstring file(longestPath(), L'\0');
-    file.resize(::GetModuleFileNameW(nullptr, file.data(), static_cast<DWORD>(file.size())));
-    return fs::path(file).parent_path();
-}
-
-// Its rights alone do not tell: only making something there does.
-bool canWriteInto(const fs::path& folder) {
-    const fs::path probe = folder / (".tarvel-" + std::to_string(processNumber()) + "-0");
-    return opened(probe, GENERIC_WRITE | DELETE, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE).isOpen();
-}
-
-fs::path userDataFolder() {
-    PWSTR found = nullptr;
-    const bool known =
-        SUCCEEDED(::SHGetKnownFolderPath(FOLDERID_RoamingAppData, 0, nullptr, &found));
-    fs::path folder = known ? fs::path(found) : executableFolder();
-    ::CoTaskMemFree(found);
-    return folder;
-}
-
-long processNumber() {
-    return static_cast<long>(::GetCurrentProcessId());
-}
-
-std::string errorWords(int errorNumber) {
-    switch (errorNumber) {
-    case EBUSY:
-        return "Another program has it open";
-    case ELOOP:
-        return "Too many levels of symbolic links";
-    case EWOULDBLOCK:
-        return "Another program holds it";
-    default:
-        return std::generic_category().message(errorNumber);
     }
 }
 
