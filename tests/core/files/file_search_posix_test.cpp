@@ -1,7 +1,7 @@
 // Searching folders for names that differ in letter case alone, with a pipe among them, and what is
 // closed.
 #include "files/file_search.h"
-#include "support/temporary_folder.h"
+#include "support/search_for_picture.h"
 
 #include <gtest/gtest.h>
 
@@ -13,20 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class FileSearchPosixTest : public testing::Test {
-  protected:
-    // Where "a.png" is found, seen from the folder; "" for nowhere.
-    std::string find(const char* in = "in") {
-        const FileSearch search = searchFiles(folder_ / in, {"a.png"});
-        EXPECT_TRUE(search.complete);
-        const auto found = search.found.find("a.png");
-        return found == search.found.end()
-                   ? ""
-                   : found->second.lexically_relative(folder_.path()).string();
-    }
-
-    TemporaryFolder folder_;
-};
+class FileSearchPosixTest : public test::SearchForPicture {};
 
 TEST_F(FileSearchPosixTest, TheNearestAndFirstCounts) {
     folder_.folder("in");

@@ -2,7 +2,7 @@
 #include "files/file_search.h"
 #include "files/path_text.h"
 #include "support/links.h"
-#include "support/temporary_folder.h"
+#include "support/search_for_picture.h"
 
 #include <gtest/gtest.h>
 
@@ -13,20 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class FileSearchTest : public testing::Test {
-  protected:
-    // Where "a.png" is found, seen from the folder; "" for nowhere.
-    std::string find(const char* in = "in") {
-        const FileSearch search = searchFiles(folder_ / in, {"a.png"});
-        EXPECT_TRUE(search.complete);
-        const auto found = search.found.find("a.png");
-        return found == search.found.end()
-                   ? ""
-                   : slashedUtf8Of(found->second.lexically_relative(folder_.path()));
-    }
-
-    TemporaryFolder folder_;
-};
+class FileSearchTest : public test::SearchForPicture {};
 
 TEST_F(FileSearchTest, TheNearestAndFirstCountsInWhateverLetterCase) {
     folder_.folder("in");

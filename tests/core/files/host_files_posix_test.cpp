@@ -1,5 +1,6 @@
 // Files on a disk that is full, what is flushed to it, pipes, and what is closed.
 #include "files/host_files.h"
+#include "support/folder_entries.h"
 #include "support/system_calls.h"
 #include "support/temporary_folder.h"
 
@@ -15,11 +16,6 @@ namespace tarvel {
 namespace fs = std::filesystem;
 
 namespace {
-
-std::size_t entriesOf(const fs::path& folder) {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(folder), fs::directory_iterator{}));
-}
 
 // No file may grow beyond a size while this lives: a full disk in small.
 class FileSizeLimit {
@@ -48,7 +44,7 @@ TEST(WriteFile, ThatFailsKeepsTheOlderFile) {
         EXPECT_THROW(writeFile(folder / "a", std::string(5000, 'x')), FileError);
     }
     EXPECT_EQ(readFile(folder / "a"), "old");
-    EXPECT_EQ(entriesOf(folder.path()), 1U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 1U);
 }
 
 TEST(ReadFile, DoesNotWaitAtAPipe) {
@@ -66,7 +62,7 @@ TEST(CopyFile, ThatDoesNotFitTheDiskKeepsTheOlderFile) {
         EXPECT_THROW(copyFile(folder / "from", folder / "to"), FileError);
     }
     EXPECT_EQ(readFile(folder / "to"), "old");
-    EXPECT_EQ(entriesOf(folder.path()), 2U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 2U);
 }
 
 TEST(CopyFile, FlushesWhileItCopies) {
@@ -102,7 +98,7 @@ TEST(CopyFile, ThatCannotBeFlushedKeepsTheOlderFile) {
         EXPECT_THROW(copyFile(folder / "from", folder / "to"), FileError);
         EXPECT_EQ(systemCalls.flushes, failAt);
         EXPECT_EQ(readFile(folder / "to"), "old");
-        EXPECT_EQ(entriesOf(folder.path()), 2U);
+        EXPECT_EQ(test::entriesOf(folder.path()), 2U);
     }
     systemCalls = {};
 }

@@ -2,6 +2,7 @@
 #include "files/host_files.h"
 #include "files/path_text.h"
 #include "files/system_files.h"
+#include "support/folder_entries.h"
 #include "support/links.h"
 #include "support/temporary_folder.h"
 
@@ -16,21 +17,12 @@ namespace tarvel {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-std::size_t entriesOf(const fs::path& folder) {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(folder), fs::directory_iterator{}));
-}
-
-} // namespace
-
 TEST(WriteFile, ReplacesAndLeavesNothingBeside) {
     const TemporaryFolder folder;
     folder.file("a", "old");
     writeFile(folder / "a", "new");
     EXPECT_EQ(readFile(folder / "a"), "new");
-    EXPECT_EQ(entriesOf(folder.path()), 1U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 1U);
 }
 
 TEST(WriteFile, PassesOverWhatAKilledRunLeft) {
@@ -53,7 +45,7 @@ TEST(WriteFile, PassesOverWhatAKilledRunLeft) {
     }
     writeFile(folder / "to", "newer");
     EXPECT_EQ(readFile(folder / "to"), "newer");
-    EXPECT_EQ(entriesOf(folder.path()), 5U); // the left files are nobody's business
+    EXPECT_EQ(test::entriesOf(folder.path()), 5U); // the left files are nobody's business
 }
 
 TEST(WriteFile, IntoAMissingFolderDescribesTheFailure) {
@@ -96,7 +88,7 @@ TEST(CopyFile, ThatIsCancelledKeepsTheOlderFile) {
     folder.file("to", "old");
     EXPECT_FALSE(copyFile(folder / "from", folder / "to", [](auto, auto) { return false; }));
     EXPECT_EQ(readFile(folder / "to"), "old");
-    EXPECT_EQ(entriesOf(folder.path()), 2U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 2U);
 }
 
 TEST(CopyFile, DescribesWhyASourceCannotBeRead) {
@@ -146,7 +138,7 @@ TEST(CopyFile, OfAFileThatChangesMeanwhileKeepsTheOlderFile) {
             EXPECT_EQ(error.what(), "The file changed while it was copied: " + utf8Of(from));
         }
         EXPECT_EQ(readFile(folder / "to"), "old") << name;
-        EXPECT_EQ(entriesOf(folder.path()), 2U) << name;
+        EXPECT_EQ(test::entriesOf(folder.path()), 2U) << name;
     }
 }
 
@@ -189,7 +181,7 @@ TEST(CreateFolder, InThePlaceOfAFileDescribesTheFailure) {
 TEST(ThroughTempFile, GivesTheTextBackAndDeletesTheFile) {
     const TemporaryFolder folder;
     EXPECT_EQ(throughTempFile(folder.path(), "<a/>\n"), "<a/>\n");
-    EXPECT_EQ(entriesOf(folder.path()), 0U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 0U);
 }
 
 TEST(ThroughTempFile, PassesOverAStaleFile) {

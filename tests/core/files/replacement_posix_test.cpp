@@ -1,11 +1,11 @@
 // Files that take another's place: their permission bits, and their folder on the disk.
 #include "files/host_files.h"
+#include "support/folder_entries.h"
 #include "support/system_calls.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 #include <sys/stat.h>
 
@@ -14,16 +14,6 @@ namespace tarvel {
 namespace fs = std::filesystem;
 
 namespace {
-
-using Names = std::set<std::string>;
-
-Names entriesOf(const fs::path& folder) {
-    Names names;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        names.insert(entry.path().filename().string());
-    }
-    return names;
-}
 
 unsigned bitsOf(const fs::path& file) {
     return static_cast<unsigned>(fs::status(file).permissions());
@@ -62,7 +52,7 @@ TEST(Replacement, IsClosedToOthersFromItsBeginningWhereTheOlderFileIs) {
     folder.file("to", "old");
     fs::permissions(folder / "to", static_cast<fs::perms>(0600));
     copyFile(folder / "from", folder / "to", [&](auto, auto) {
-        for (const auto& name : entriesOf(folder.path())) {
+        for (const auto& name : test::namesIn(folder.path())) {
             EXPECT_TRUE(name == "from" || bitsOf(folder / name) == 0600U) << name;
         }
         return true;

@@ -2,13 +2,13 @@
 #include "files/host_files.h"
 #include "files/path_text.h"
 #include "files/replacement.h"
+#include "support/folder_entries.h"
 #include "support/links.h"
 #include "support/other_process.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 
 namespace tarvel {
@@ -16,16 +16,6 @@ namespace tarvel {
 namespace fs = std::filesystem;
 
 namespace {
-
-using Names = std::set<std::string>;
-
-Names entriesOf(const fs::path& folder) {
-    Names names;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        names.insert(utf8Of(entry.path().filename()));
-    }
-    return names;
-}
 
 constexpr const char* killedCopy = "copy a file";
 const bool isKnown = test::OtherProcess::knows(
@@ -46,9 +36,9 @@ TEST(Leftovers, OfAKilledRunAreRemoved) {
     test::OtherProcess copying(killedCopy, folder.path());
     ASSERT_TRUE(copying.isReady());
     copying.kill();
-    ASSERT_EQ(entriesOf(folder.path()).size(), 3U);
+    ASSERT_EQ(test::namesIn(folder.path()).size(), 3U);
     removeLeftovers(folder.path());
-    EXPECT_EQ(entriesOf(folder.path()), (Names{"from", "to"}));
+    EXPECT_EQ(test::namesIn(folder.path()), (test::Names{"from", "to"}));
     EXPECT_EQ(readFile(folder / "to"), "old");
 }
 
@@ -57,7 +47,7 @@ TEST(Leftovers, OfARunThatIsAliveStay) {
     folder.file("from", "new");
     EXPECT_TRUE(copyFile(folder / "from", folder / "to", [&](auto, auto) {
         removeLeftovers(folder.path());
-        EXPECT_EQ(entriesOf(folder.path()).size(), 2U);
+        EXPECT_EQ(test::namesIn(folder.path()).size(), 2U);
         return true;
     }));
     EXPECT_EQ(readFile(folder / "to"), "new");
@@ -65,7 +55,7 @@ TEST(Leftovers, OfARunThatIsAliveStay) {
 
 TEST(Leftovers, AreFilesOfTheirNamesOnly) {
     const TemporaryFolder folder;
-    const Names kept = {".tarvel-", ".tarvel-12-x", ".tarvel-12-3.png", "tarvel-12-3", "x"};
+    const test::Names kept = {".tarvel-", ".tarvel-12-x", ".tarvel-12-3.png", "tarvel-12-3", "x"};
     for (const auto& name : kept) {
         folder.file(name, "x");
     }
@@ -77,12 +67,12 @@ TEST(Leftovers, AreFilesOfTheirNamesOnly) {
     folder.file("left", "x");
     fs::rename(folder / "left", folder / "below/.tarvel-3-1");
     removeLeftovers(folder.path());
-    Names all = kept;
+    test::Names all = kept;
     all.insert({".tarvel-1-1", "below"});
     if (test::areFileLinksTold()) {
         all.insert(".tarvel-2-1");
     }
-    EXPECT_EQ(entriesOf(folder.path()), all);
+    EXPECT_EQ(test::namesIn(folder.path()), all);
     removeLeftovers(folder / "below");
     EXPECT_TRUE(fs::is_empty(folder / "below"));
     removeLeftovers(folder / "missing"); // is no failure

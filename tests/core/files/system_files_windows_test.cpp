@@ -4,6 +4,7 @@
 #include "files/held_file.h"
 #include "files/host_files.h"
 #include "files/path_text.h"
+#include "support/folder_entries.h"
 #include "support/other_process.h"
 #include "support/temporary_folder.h"
 
@@ -34,12 +35,6 @@ Descriptor openUnshared(const fs::path& file) {
                       nullptr)));
 }
 
-std::size_t entriesOf(const fs::path& folder) {
-    std::size_t count = 0;
-    eachEntryOf(folder, [&](const FolderEntry&) { return ++count > 0; });
-    return count;
-}
-
 } // namespace
 
 TEST(SystemFilesOfWindows, AFileThatMayOnlyBeReadIsToldAndKept) {
@@ -54,7 +49,7 @@ TEST(SystemFilesOfWindows, AFileThatMayOnlyBeReadIsToldAndKept) {
     }
     EXPECT_EQ(problem, "Permission denied: " + utf8Of(file));
     EXPECT_EQ(readFile(file), "older");
-    EXPECT_EQ(entriesOf(folder.path()), 1U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 1U);
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
     writeFile(file, "newer");
     EXPECT_EQ(readFile(file), "newer");
@@ -87,7 +82,7 @@ TEST(SystemFilesOfWindows, AFileThatAnotherProgramHasOpenIsToldAndKept) {
     EXPECT_FALSE(removeName(file));
     EXPECT_EQ(errno, EBUSY);
     EXPECT_EQ(readFile(file), "older");
-    EXPECT_EQ(entriesOf(folder.path()), 1U);
+    EXPECT_EQ(test::entriesOf(folder.path()), 1U);
 }
 
 TEST(SystemFilesOfWindows, AProgramThatLooksIntoAFileIsWaitedFor) {
